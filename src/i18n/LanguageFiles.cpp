@@ -1,0 +1,16 @@
+#include "i18n/LanguageFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+QString LanguageFiles::baseFolder()
+{
+    const QString package = qEnvironmentVariable("APPIMAGE");
+    return package.isEmpty() ? QCoreApplication::applicationDirPath() : QFileInfo(package).absolutePath();
+}
+
+QString LanguageFiles::path(const QString& language)
+{
+    return QDir(baseFolder()).filePath(QStringLiteral("Languages/%1.json").arg(language));
+}

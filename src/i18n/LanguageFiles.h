@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// Where the interface's language files lie.
+namespace LanguageFiles {
+
+/// The folder of the package file that the environment variable "APPIMAGE" names, else the application's folder.
+[[nodiscard]] QString baseFolder();
+
+/// Path of the file of @p language (a name as the language list shows it) below the base folder.
+[[nodiscard]] QString path(const QString& language);
+
+} // namespace LanguageFiles

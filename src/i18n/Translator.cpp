@@ -1,0 +1,47 @@
+#include "i18n/Translator.h"
+
+#include "app/JsonFile.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+
+Translator& Translator::instance()
+{
+    static Translator translator;
+    return translator;
+}
+
+bool Translator::loadLanguage(const QString& language)
+{
+    const QString path = QStringLiteral("%1/Languages/%2.json").arg(QCoreApplication::applicationDirPath(), language);
+    const JsonFile file = JsonFile::read(path);
+    switch (file.state) {
+    case JsonFile::State::CannotOpen:
+        qDebug().noquote() << "Translator: Failed to load file:" << path;
+        m_translations = {};
+        emit languageChanged();
+        return false;
+    case JsonFile::State::ParseError:
+        qDebug().noquote() << "Translator: JSON parse error:" << file.error;
+        return false;
+    case JsonFile::State::Parsed:
+        break;
+    }
+
+    m_translations = file.document.object();
+    m_language = language;
+    qDebug().noquote() << "Translator: Loaded language:" << language;
+    emit languageChanged();
+    return true;
+}
+
+QString Translator::translate(const QString& key) const
+{
+    const auto text = m_translations.constFind(key);
+    return text == m_translations.constEnd() ? key : text->toString();
+}
+
+QStringList Translator::availableLanguages()
+{
+    return jsonBaseNames(QCoreApplication::applicationDirPath() + QLatin1String("/Languages"));
+}
