@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+/// The log under the tabs: every avrdude run is echoed into it. Read-only to the user; belongs to the main window,
+/// which outlives every run. A plain-text view, so that nothing that avrdude prints is ever taken for markup.
+class AvrdudeMessage : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit AvrdudeMessage(QWidget* parent = nullptr);
+
+    /// Inserts @p text at the text cursor, which is where the user last clicked, else the end. A selection is dropped
+    /// rather than replaced: no output is lost.
+    void insertAtCursor(const QString& text);
+};

@@ -1,0 +1,125 @@
+#include "avrdude/Avrdude.h"
+
+#include "app/AvrdudeMessage.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTextCodec>
+
+namespace {
+
+constexpr int startTimeout = 30000; // milliseconds
+
+/// "375 kHz (-B 2)" and "-B 2" both give "-B 2".
+QString bitClockOption(const QString& speed)
+{
+    return speed.split(QLatin1Char('(')).constLast().split(QLatin1Char(')')).constFirst();
+}
+
+std::unique_ptr<QTextDecoder> makeDecoder()
+{
+    return std::unique_ptr<QTextDecoder>(QTextCodec::codecForName("UTF-8")->makeDecoder());
+}
+
+} // namespace
+
+Avrdude::Avrdude(QObject* parent, AvrdudeMessage* log)
+    : QObject(parent)
+    , m_log(log)
+{
+}
+
+Avrdude::~Avrdude()
+{
+    if (!m_process)
+        return;
+    m_process->disconnect(this);
+    m_process->kill();
+    m_process->waitForFinished();
+}
+
+int Avrdude::execute(const QStringList& arguments, Callback callback)
+{
+    if (m_process)
+        return 0;
+
+    m_process = new QProcess(this);
+    m_killedOnError = false;
+    m_errorDecoder = makeDecoder();
+    m_outputDecoder = makeDecoder();
+
+    // Queued, because what these lead to may open a box. The box's event loop goes on delivering the process's events,
+    // its end included, and then the process object may be deleted while one of its own functions is still running.
+    connect(m_process, &QProcess::readyReadStandardError, this, &Avrdude::addEditText, Qt::QueuedConnection);
+    connect(m_process, &QProcess::readyReadStandardOutput, this, &Avrdude::addEditText, Qt::QueuedConnection);
+    connect(
+        m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
+        [this, callback = std::move(callback)](int, QProcess::ExitStatus status) { finishRun(status, callback); },
+        Qt::QueuedConnection);
+
+    const QString program = m_settings.avrdude;
+    const QStringList allArguments = commonArguments() + arguments;
+    m_log->clear();
+    m_process->start(program, allArguments);
+    m_log->appendPlainText(QLatin1String("Korvel: ") + program + QLatin1Char(' ') + allArguments.join(QLatin1Char(' '))
+                           + QLatin1Char('\n'));
+    if (!m_process->waitForStarted(startTimeout)) {
+        // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart.
+        m_log->appendPlainText(tr("avrdude not found") + m_process->errorString());
+        return -1;
+    }
+    return 0;
+}
+
+int Avrdude::addEditText()
+{
+    if (!m_process)
+        return 0;
+
+    const QString errorText = m_errorDecoder->toUnicode(m_process->readAllStandardError());
+    const QString outputText = m_outputDecoder->toUnicode(m_process->readAllStandardOutput());
+    m_log->insertAtCursor(errorText);
+    m_log->insertAtCursor(outputText);
+
+    if (!m_killedOnError && Message::showsSilentProgrammer(errorText)) {
+        m_killedOnError = true;
+        m_process->kill();
+        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), tr("Programmer not found."));
+    }
+    m_log->ensureCursorVisible();
+    return 0;
+}
+
+QString Avrdude::logText() const
+{
+    return m_log->toPlainText();
+}
+
+QStringList Avrdude::commonArguments() const
+{
+    QStringList frame {
+        QStringLiteral("-p"),     m_settings.mcuId,     QStringLiteral("-c"),
+        m_settings.programmer.id, QStringLiteral("-P"), m_settings.port,
+    };
+    frame += m_settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    frame += bitClockOption(m_settings.speed); // one argument, blank included: avrdude takes it so
+    return frame;
+}
+
+void Avrdude::finishRun(QProcess::ExitStatus status, const Callback& callback)
+{
+    if (status == QProcess::CrashExit && !m_killedOnError)
+        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Information"),
+                                 QStringLiteral("Process avrdude error"));
+
+    m_process->disconnect(this);
+    m_process->deleteLater();
+    m_process = nullptr;
+
+    // A run that we ended has had its box, even if avrdude was quicker than the kill and exited by itself.
+    if (status == QProcess::CrashExit || m_killedOnError)
+        return;
+    // The exit code is not asked: what counts is what avrdude said.
+    if (!m_messages.checkOutput(logText()))
+        callback();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/SettingsRecord.h"
+#include "avrdude/Message.h"
+
+#include <QObject>
+#include <QProcess>
+
+#include <functional>
+#include <memory>
+
+class AvrdudeMessage;
+class QTextDecoder;
+
+/// The program's only way of acting on a chip: runs avrdude, one run at a time, streams its output into the log and
+/// decides from that text whether the run succeeded. Also carries the one settings record, which all panels share.
+/// Owned by the main window, as is the log; both outlive every run.
+class Avrdude : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Callback = std::function<void()>;
+
+    Avrdude(QObject* parent, AvrdudeMessage* log);
+    ~Avrdude() override;
+
+    /// Starts avrdude with the common frame (part, programmer, port, the user's extra arguments, bit clock) followed by
+    /// @p arguments, each of which reaches avrdude as one argument, blanks included. @p callback runs after a run that
+    /// ended normally with no known error in the log; then the next run may be started. Failures show their own boxes.
+    ///
+    /// A call during a run is dropped: it returns 0 and its callback never runs. Returns -1 when avrdude could not be
+    /// started within 30 seconds; the log says why, and the runner stays busy until the program ends.
+    int execute(
+        const QStringList& arguments, Callback callback = [] {});
+
+    /// Moves freshly printed output into the log, and ends the run when it shows that the programmer does not answer.
+    /// Returns 0.
+    int addEditText();
+
+    [[nodiscard]] SettingsRecord& settings() { return m_settings; }
+
+    /// The log view's whole text: the echoed command line and the output of the current or last run.
+    [[nodiscard]] QString logText() const;
+
+private:
+    [[nodiscard]] QStringList commonArguments() const;
+    void finishRun(QProcess::ExitStatus status, const Callback& callback);
+
+    QProcess* m_process = nullptr; ///< the current run; null when idle
+    AvrdudeMessage* m_log;
+    SettingsRecord m_settings;
+    Message m_messages;
+    bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
+    // A character may be split between two pieces of output, so each channel keeps a decoder for the length of a run.
+    std::unique_ptr<QTextDecoder> m_errorDecoder;
+    std::unique_ptr<QTextDecoder> m_outputDecoder;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QVector>
+
+/// Turns what avrdude prints into a verdict and a short message. Created by the runner once the translator is
+/// installed: the messages are translated at construction and keep that language.
+class Message : public QObject
+{
+    Q_OBJECT
+
+public:
+    Message();
+
+    /// Looks for the first known error in @p text, the whole log of a run. When there is one, shows its message in a
+    /// box and returns true; returns false when the text is clean.
+    [[nodiscard]] bool checkOutput(const QString& text) const;
+
+    /// True when @p errorText, one piece of a running avrdude's standard error, shows that the programmer does not
+    /// answer, so that waiting for avrdude's own retries is pointless.
+    [[nodiscard]] static bool showsSilentProgrammer(const QString& errorText);
+
+private:
+    struct Entry {
+        QLatin1String fragment;
+        QString message;
+    };
+
+    QVector<Entry> m_entries; ///< in the order in which they are tried
+};
