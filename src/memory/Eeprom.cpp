@@ -1,0 +1,71 @@
+#include "memory/Eeprom.h"
+
+#include "memory/EepromView.h"
+
+#include <QPushButton>
+
+namespace {
+
+const Memory::Kind kind {
+    "eeprom",
+    "EEPROM",
+    QT_TRANSLATE_NOOP("Memory", "EEPROM written successfully."),
+    QT_TRANSLATE_NOOP("Memory", "EEPROM verified successfully."),
+    QT_TRANSLATE_NOOP("Memory", "EEPROM read successfully."),
+    &SettingsRecord::eepromWrite,
+    &SettingsRecord::eepromRead,
+    &SettingsRecord::cmdEepromWrite,
+    &SettingsRecord::eepromEnable,
+    false,
+};
+
+}
+
+Eeprom::Eeprom(EepromView& view, Avrdude& avrdude)
+    : Memory(view, avrdude, kind)
+{
+    connect(view.writeButton(), &QPushButton::clicked, this, &Eeprom::writeEeprom);
+    connect(view.writeVerifyButton(), &QPushButton::clicked, this, &Eeprom::writeEepromVerify);
+    connect(view.readButton(), &QPushButton::clicked, this, &Eeprom::readEeprom);
+    connect(view.readVerifyButton(), &QPushButton::clicked, this, &Eeprom::readEepromVerify);
+}
+
+void Eeprom::writeEeprom()
+{
+    startWrite([this] { writeEepromMessage(); });
+}
+
+void Eeprom::writeEepromVerify()
+{
+    startWriteVerify([this] { writeEepromVerifyMessage(); });
+}
+
+void Eeprom::readEeprom()
+{
+    startRead([this] { readEepromMessage(); });
+}
+
+void Eeprom::readEepromVerify()
+{
+    startReadVerify([this] { readEepromVerifyMessage(); });
+}
+
+void Eeprom::writeEepromMessage()
+{
+    showWritten();
+}
+
+void Eeprom::writeEepromVerifyMessage()
+{
+    showVerified();
+}
+
+void Eeprom::readEepromMessage()
+{
+    showRead();
+}
+
+void Eeprom::readEepromVerifyMessage()
+{
+    showVerified();
+}

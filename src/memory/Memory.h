@@ -1,0 +1,65 @@
+#pragma once
+
+#include "app/SettingsRecord.h"
+#include "avrdude/Avrdude.h"
+
+#include <QObject>
+
+class MemoryView;
+
+/// The logic of one memory panel: keeps the two file paths of the settings record and writes, verifies and reads the
+/// memory through the runner. Flash and Eeprom are this design with a table of constants each.
+/// Owned by the Programming tab; the view and the runner outlive it. All state lives in the settings record.
+class Memory : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What tells one memory from the other.
+    struct Kind {
+        const char* memory; ///< avrdude's name of the memory
+        const char* title; ///< of the boxes, untranslated
+        const char* written; ///< texts of the boxes, translated when shown
+        const char* verified;
+        const char* read;
+        QString SettingsRecord::*writeFile;
+        QString SettingsRecord::*readFile;
+        QStringList SettingsRecord::*writeCommand;
+        bool SettingsRecord::*enable;
+        bool passesA90; ///< the suffix "a90" goes to avrdude as its own format code
+    };
+
+    /// Stores the file to write and prepares the command that writes it; the write row's buttons follow. An empty
+    /// @p path disables them and keeps the last command.
+    void setFilePathWrite(const QString& path);
+
+    /// Stores the file to read into; the read row's buttons follow.
+    void setFilePathRead(const QString& path);
+
+    /// avrdude's format code for a lower-case file @p suffix; "a" (detect) for an unknown one.
+    [[nodiscard]] QString setFormatFile(const QString& suffix) const;
+
+    /// Shows the settings record's two paths again.
+    void refresh();
+
+protected:
+    Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind);
+
+    void startWrite(Avrdude::Callback whenDone);
+    void startWriteVerify(Avrdude::Callback whenDone);
+    void startRead(Avrdude::Callback whenDone);
+    void startReadVerify(Avrdude::Callback whenDone);
+
+    void showWritten();
+    void showVerified();
+    void showRead();
+
+private:
+    /// "-U" and the request that does @p operation ("r", "w", "v") with the file at @p path.
+    [[nodiscard]] QStringList request(const char* operation, const QString& path) const;
+    void showBox(const QString& text);
+
+    MemoryView& m_view;
+    Avrdude& m_avrdude;
+    const Kind& m_kind;
+};
