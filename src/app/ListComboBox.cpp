@@ -1,0 +1,16 @@
+#include "app/ListComboBox.h"
+
+#include <QAbstractItemView>
+#include <QScrollBar>
+
+ListComboBox::ListComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+    setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+}
+
+void ListComboBox::showPopup()
+{
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
+    QComboBox::showPopup();
+}

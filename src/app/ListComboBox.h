@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QComboBox>
+
+/// A combo box whose list opens as a plain scrolling drop-down, wide enough for its longest entry however narrow the
+/// box is, instead of the platform's popup menu that may cover the screen.
+class ListComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ListComboBox(QWidget* parent = nullptr);
+
+    void showPopup() override;
+};

@@ -1,0 +1,45 @@
+#include "settings/SettingsModel.h"
+
+#include "app/JsonFile.h"
+
+#include <QDir>
+
+namespace {
+
+QString programmerFolder()
+{
+    return QStringLiteral("programmer");
+}
+
+} // namespace
+
+SettingsModel::SettingsModel(QObject* parent, PortSource ports)
+    : QObject(parent)
+    , m_ports(std::move(ports))
+{
+}
+
+QStringList SettingsModel::programmerList() const
+{
+    return jsonBaseNames(programmerFolder());
+}
+
+QStringList SettingsModel::speedList() const
+{
+    return {
+        QStringLiteral("1.5 MHz (-B 0.5)"), QStringLiteral("750 kHz (-B 1)"),   QStringLiteral("375 kHz (-B 2)"),
+        QStringLiteral("185 kHz (-B 4)"),   QStringLiteral("93.75 kHz (-B 8)"), QStringLiteral("32 kHz (-B 16)"),
+        QStringLiteral("16 kHz (-B 32)"),   QStringLiteral("8 kHz (-B 64)"),    QStringLiteral("4 kHz (-B 128)"),
+        QStringLiteral("2 kHz (-B 256)"),   QStringLiteral("1 kHz (-B 512)"),   QStringLiteral("0.5 kHz (-B 1024)"),
+    };
+}
+
+QStringList SettingsModel::languageList() const
+{
+    return jsonBaseNames(QStringLiteral("Languages"));
+}
+
+QString SettingsModel::programmerFile(const QString& name)
+{
+    return QDir(programmerFolder()).filePath(name + QLatin1String(".json"));
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "settings/SerialPort.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <functional>
+
+/// The lists that the settings panel offers. The folders are those of the working directory; a missing one gives an
+/// empty list.
+class SettingsModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    using PortSource = std::function<QVector<SerialPort>()>;
+
+    /// @p ports is asked each time the port list is built; another source than the system's serves tests.
+    explicit SettingsModel(QObject* parent = nullptr, PortSource ports = systemSerialPorts);
+
+    /// Names of the programmers of the catalogue, in the order of the file system.
+    [[nodiscard]] QStringList programmerList() const;
+
+    /// The speeds as shown; avrdude's bit-clock option is the part in parentheses.
+    [[nodiscard]] QStringList speedList() const;
+
+    /// Names of the interface languages, in the order of the file system.
+    [[nodiscard]] QStringList languageList() const;
+
+    [[nodiscard]] QVector<SerialPort> serialPorts() const { return m_ports(); }
+
+    /// Path of the catalogue entry of the programmer called @p name.
+    [[nodiscard]] static QString programmerFile(const QString& name);
+
+private:
+    PortSource m_ports;
+};

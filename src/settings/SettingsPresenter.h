@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+
+class Avrdude;
+class QComboBox;
+class SettingsModel;
+class SettingsView;
+
+/// Fills the settings panel and writes every choice into the settings record at once. Owns none of what it is given;
+/// all of it outlives the presenter.
+class SettingsPresenter : public QObject
+{
+    Q_OBJECT
+
+public:
+    SettingsPresenter(Avrdude& avrdude, SettingsModel& model, SettingsView& view, QObject* parent = nullptr);
+
+    /// Shows the settings record again.
+    void refreshFromSettings();
+
+    /// Takes the catalogue entry called @p name into the record and offers its kind of port. A missing or broken entry
+    /// is told in a box and changes nothing.
+    void loadProgrammer(const QString& name);
+
+    /// Rebuilds the port list: "usb" for a fixed port, "com" for a choice of serial ports, anything else for none.
+    void setPortMode(const QString& mode);
+
+public slots:
+    /// Adds every serial port of the system by name, and shows the record's port.
+    void availableComPortsWin(QComboBox* comboBox);
+
+    /// Adds the USB serial ports of the system, and selects the record's port where it is among them.
+    void availableComPortsLin(QComboBox* comboBox);
+
+    void setSpeedProgrammer(const QString& speed);
+
+    /// Stores @p language and says, in that language, that it takes a restart.
+    void setLanguage(const QString& language);
+
+    /// Stores the port list's current device; the text shown, @p comPort, is not what avrdude needs.
+    void setComPorts(const QString& comPort);
+
+private:
+    Avrdude& m_avrdude;
+    SettingsModel& m_model;
+    SettingsView& m_view;
+};
