@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QMainWindow>
+
+class Avrdude;
+class AvrdudeMessage;
+class Program;
+class QTabWidget;
+class Settings;
+
+/// The one top-level window: the tabs, the connection settings and the log under them, and the runner that all of
+/// them share. Reads the settings file when it is built and writes it when it is closed.
+class KorvelApp : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit KorvelApp(QWidget* parent = nullptr);
+
+    /// Writes the settings file. On failure a box says so; the window closes all the same.
+    void saveSettings();
+
+    /// Reads the settings file into the record. Returns false when there is none (silently: a first start) or when it
+    /// cannot be used (a box says so).
+    bool loadSettings();
+
+    /// Lets every panel show the settings record again.
+    void refreshPanels();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    AvrdudeMessage* m_log;
+    Avrdude* m_avrdude;
+    QTabWidget* m_tabs;
+    Program* m_program;
+    Settings* m_settings;
+};

@@ -1,0 +1,37 @@
+#include "app/Startup.h"
+
+#include "app/JsonFile.h"
+#include "app/ProductInfo.h"
+
+#include <QCursor>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QJsonObject>
+#include <QScreen>
+#include <QWidget>
+
+QString Startup::language()
+{
+    QString fallback = QLatin1String(ProductInfo::defaultLanguage);
+    const JsonFile file = JsonFile::read(QLatin1String(ProductInfo::settingsFile));
+    if (file.state == JsonFile::State::CannotOpen) {
+        qDebug().noquote() << "Config file not found, using default language:" << fallback;
+        return fallback;
+    }
+    if (!file.isObject()) {
+        qDebug().noquote() << "Config parse error:" << file.error;
+        return fallback;
+    }
+    const QJsonObject settings = file.document.object();
+    const auto language = settings.constFind(QLatin1String("language"));
+    return language == settings.constEnd() ? fallback : language->toString();
+}
+
+void Startup::moveToPointerScreen(QWidget& window)
+{
+    const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect area = screen->availableGeometry();
+    window.move(area.left() + (area.width() - window.width()) / 2, area.top() + (area.height() - window.height()) / 2);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// The steps of the program's start that main() puts in order.
+namespace Startup {
+
+/// The interface language that the settings file names; the default language when there is no readable settings file
+/// or no such key, the empty string when the key holds no string. The reason goes to the debug log.
+[[nodiscard]] QString language();
+
+/// Centres @p window on the available area of the screen under the mouse pointer, else of the primary screen.
+void moveToPointerScreen(QWidget& window);
+
+} // namespace Startup

@@ -1,0 +1,27 @@
+#include "app/KorvelApp.h"
+#include "app/ProductInfo.h"
+#include "app/Startup.h"
+#include "i18n/JsonToQtTranslator.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+
+    // Before any widget: the texts that widgets show are translated while they are built.
+    auto* translator = new JsonToQtTranslator(&application);
+    translator->loadLanguage(Startup::language());
+    QCoreApplication::installTranslator(translator);
+
+    KorvelApp window;
+    window.setWindowTitle(QLatin1String(ProductInfo::name) + QLatin1Char(' ') + QLatin1String(ProductInfo::version));
+    window.resize(520, 655);
+    window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));
+    Startup::moveToPointerScreen(window);
+    window.show();
+    return QApplication::exec();
+}
