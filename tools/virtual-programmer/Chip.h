@@ -1,0 +1,60 @@
+#pragma once
+
+#include "ChipState.h"
+
+#include <QByteArray>
+
+#include <array>
+#include <optional>
+
+/// An AVR chip held in reset, as a serial programmer sees it: four bytes in, four bytes out. Follows the datasheets'
+/// "Serial Programming Instruction Set" and lock bit protection modes; every write is done at once.
+class Chip
+{
+public:
+    using Instruction = std::array<quint8, 4>;
+
+    /// A chip fresh from the factory. `part` must outlive it.
+    explicit Chip(const Part& part);
+
+    [[nodiscard]] const Part& part() const { return m_part; }
+    [[nodiscard]] const ChipState& state() const { return m_state; }
+
+    /// Takes over all memories, which must have the sizes that the part has.
+    void setState(const ChipState& state) { m_state = state; }
+
+    /// Makes the flash byte at `address` (0 to flash size - 1) faulty: each write to it turns bit 0 over.
+    void setFaultyAddress(int address) { m_faultyAddress = address; }
+
+    /// Whether programming has been enabled and not been left since.
+    [[nodiscard]] bool isProgramming() const { return m_isProgramming; }
+
+    /// Shifts one instruction in and returns what the chip shifts out meanwhile: the answer in the last byte where
+    /// the instruction has one, otherwise each byte is the one that came in before it. Until programming is enabled
+    /// the chip does nothing and its output stays high (0xFF).
+    Instruction transfer(const Instruction& in);
+
+    /// Releases reset: ends programming and forgets page buffers and extended address.
+    void leaveProgramming();
+
+private:
+    std::optional<quint8> execute(const Instruction& in);
+    void executeWrite(const Instruction& in);
+    void eraseChip();
+    void writeFuse(Part::Fuse fuse, quint8 value);
+    void writeFlashPage(int address);
+    void writeEeprom(int address, quint8 value);
+    void writeEepromPage(int address);
+    [[nodiscard]] int flashAddress(const Instruction& in) const;
+    [[nodiscard]] int eepromAddress(const Instruction& in) const;
+    [[nodiscard]] bool mayRead() const;
+    [[nodiscard]] bool mayWrite() const;
+
+    const Part& m_part;
+    ChipState m_state;
+    bool m_isProgramming = false;
+    int m_extendedAddress = 0;
+    int m_faultyAddress = -1;
+    QByteArray m_flashPage;
+    std::array<std::optional<quint8>, 8> m_eepromPage; // no part has longer EEPROM pages
+};

@@ -1,0 +1,124 @@
+#include "Part.h"
+
+#include <QString>
+
+namespace {
+
+constexpr Part::FuseBit highBit(int bit)
+{
+    return {Part::HighFuse, static_cast<quint8>(1 << bit)};
+}
+
+constexpr Part::FuseBit lowBit(int bit)
+{
+    return {Part::LowFuse, static_cast<quint8>(1 << bit)};
+}
+
+// Signatures, sizes and calibration bytes: avrdude's description of the part (`avrdude -p PART/s`).
+// Fuse and lock bits and their factory values: the part's datasheet, "Memory Programming".
+const std::array<Part, 7> parts = {{
+    // name, signature, flash, page, EEPROM, page, calibration, factory fuses, fuse bits, lock bits, SPIEN, EESAVE
+    {QLatin1String("ATmega16"),
+     {0x1E, 0x94, 0x03},
+     16384,
+     128,
+     512,
+     4,
+     4,
+     {0xE1, 0x99, 0xFF},
+     {0xFF, 0xFF, 0x00},
+     0x3F,
+     highBit(5),
+     highBit(3)},
+    {QLatin1String("ATmega8"),
+     {0x1E, 0x93, 0x07},
+     8192,
+     64,
+     512,
+     0,
+     4,
+     {0xE1, 0xD9, 0xFF},
+     {0xFF, 0xFF, 0x00},
+     0x3F,
+     highBit(5),
+     highBit(3)},
+    {QLatin1String("ATmega328P"),
+     {0x1E, 0x95, 0x0F},
+     32768,
+     128,
+     1024,
+     4,
+     1,
+     {0x62, 0xD9, 0xFF},
+     {0xFF, 0xFF, 0x07},
+     0x3F,
+     highBit(5),
+     highBit(3)},
+    {QLatin1String("ATmega2560"),
+     {0x1E, 0x98, 0x01},
+     262144,
+     256,
+     4096,
+     8,
+     1,
+     {0x62, 0x99, 0xFF},
+     {0xFF, 0xFF, 0x07},
+     0x3F,
+     highBit(5),
+     highBit(3)},
+    {QLatin1String("ATtiny13A"),
+     {0x1E, 0x90, 0x07},
+     1024,
+     32,
+     64,
+     4,
+     2,
+     {0x6A, 0xFF, 0xFF},
+     {0xFF, 0x1F, 0x00},
+     0x03,
+     lowBit(7),
+     lowBit(6)},
+    {QLatin1String("ATtiny85"),
+     {0x1E, 0x93, 0x0B},
+     8192,
+     64,
+     512,
+     4,
+     1,
+     {0x62, 0xDF, 0xFF},
+     {0xFF, 0xFF, 0x01},
+     0x03,
+     highBit(5),
+     highBit(3)},
+    {QLatin1String("ATtiny2313A"),
+     {0x1E, 0x91, 0x0A},
+     2048,
+     32,
+     128,
+     4,
+     2,
+     {0x62, 0xDF, 0xFF},
+     {0xFF, 0xFF, 0x01},
+     0x03,
+     highBit(5),
+     highBit(6)},
+}};
+
+} // namespace
+
+const Part* Part::find(const QString& name)
+{
+    for (const Part& part : parts) {
+        if (name.compare(part.name, Qt::CaseInsensitive) == 0)
+            return &part;
+    }
+    return nullptr;
+}
+
+QStringList Part::names()
+{
+    QStringList names;
+    for (const Part& part : parts)
+        names.append(part.name);
+    return names;
+}

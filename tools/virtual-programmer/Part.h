@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLatin1String>
+#include <QStringList>
+
+#include <array>
+
+/// What the virtual chip has to know about one AVR part. The table of parts is constant and lives as long as the
+/// program, so a part is handed around as a reference.
+struct Part {
+    enum Fuse { LowFuse, HighFuse, ExtendedFuse, FuseCount };
+
+    /// One bit of one fuse byte.
+    struct FuseBit {
+        Fuse fuse;
+        quint8 mask;
+    };
+
+    QLatin1String name; ///< as the vendor writes it
+    std::array<quint8, 3> signature;
+    int flashSize; ///< bytes, a power of two
+    int flashPageSize; ///< bytes, a power of two
+    int eepromSize; ///< bytes, a power of two
+    int eepromPageSize; ///< bytes, a power of two; 0: the part has no instructions for EEPROM pages
+    int calibrationSize; ///< number of calibration bytes
+    std::array<quint8, FuseCount> factoryFuses;
+    std::array<quint8, FuseCount> fuseBits; ///< the bits that exist; 0: the part does not have that fuse byte
+    quint8 lockBits; ///< the bits of the lock byte that exist
+    FuseBit spien; ///< serial programming enabled
+    FuseBit eesave; ///< EEPROM survives a chip erase
+
+    /// The part of that name in upper or lower case, or nullptr when there is none.
+    [[nodiscard]] static const Part* find(const QString& name);
+
+    /// The names of all parts, in the order of the table.
+    [[nodiscard]] static QStringList names();
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Chip.h"
+
+#include <QByteArray>
+
+#include <array>
+
+/// The programmer's side of the STK500 version 1 protocol (Atmel application note AVR061): bytes in, bytes out. It
+/// turns commands into instructions for its chip. One object serves one connection; the chip outlives it.
+class Stk500
+{
+public:
+    static constexpr int syncRequestLength = 2; ///< bytes
+
+    explicit Stk500(Chip& chip);
+
+    /// Takes the next bytes of the stream, cut anywhere, and returns the answers to the commands they complete.
+    /// What is no command, or has no end mark where it belongs, is dropped and answered with STK_NOSYNC.
+    [[nodiscard]] QByteArray receive(const QByteArray& bytes);
+
+    /// How many bytes of flash page data have come in, those of a page still under way included.
+    [[nodiscard]] int flashBytesReceived() const;
+
+private:
+    [[nodiscard]] QByteArray execute(const QByteArray& command);
+    [[nodiscard]] QByteArray programPage(quint8 memory, const QByteArray& data);
+    [[nodiscard]] QByteArray readPage(quint8 memory, int size);
+    [[nodiscard]] QByteArray readSignature();
+    quint8 instruct(int opcode, int address, int data = 0);
+
+    Chip& m_chip;
+    QByteArray m_pending;
+    std::array<quint8, 256> m_parameters {};
+    int m_address = 0;
+    int m_flashBytes = 0;
+};

@@ -1,0 +1,101 @@
+#include "Chip.h"
+#include "VirtualProgrammer.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <limits>
+
+namespace {
+
+constexpr int exitFailure = 1;
+constexpr int exitUsage = 2;
+
+int fail(int status, const QString& message)
+{
+    QTextStream(stderr) << message << Qt::endl;
+    return status;
+}
+
+/// The number that `text` stands for, decimal or hexadecimal with 0x, from `minimum` to `maximum`.
+std::optional<int> number(const QString& text, int minimum, int maximum)
+{
+    bool isNumber = false;
+    const int value = text.toInt(&isNumber, text.startsWith(QLatin1String("0x"), Qt::CaseInsensitive) ? 16 : 10);
+    return isNumber && value >= minimum && value <= maximum ? std::optional(value) : std::nullopt;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+
+    const QCommandLineOption portOption(QStringLiteral("port"),
+                                        QStringLiteral("Listen on this port of 127.0.0.1; 0 picks a free one."),
+                                        QStringLiteral("port"), QStringLiteral("7016"));
+    const QCommandLineOption partOption(QStringLiteral("part"),
+                                        QStringLiteral("The chip: %1.").arg(Part::names().join(QStringLiteral(", "))),
+                                        QStringLiteral("part"), QStringLiteral("ATmega16"));
+    const QCommandLineOption stateOption(QStringLiteral("state"),
+                                         QStringLiteral("Keep the memories of the chip in this file across starts."),
+                                         QStringLiteral("file"));
+    const QCommandLineOption silentOption(QStringLiteral("silent"),
+                                          QStringLiteral("Accept connections and never answer."));
+    const QCommandLineOption flipOption(QStringLiteral("flip"),
+                                        QStringLiteral("Write one bit of the flash byte at this address wrongly."),
+                                        QStringLiteral("address"));
+    const QCommandLineOption unplugOption(
+        QStringLiteral("unplug-after"),
+        QStringLiteral("Close each connection after this many bytes of flash page data."), QStringLiteral("bytes"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A programmer and an AVR chip in one, for avrdude's\n"
+                                                    "-c stk500v1 -P net:127.0.0.1:7016"));
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    parser.addOptions({portOption, partOption, stateOption, silentOption, flipOption, unplugOption});
+    if (!parser.parse(QCoreApplication::arguments()))
+        return fail(exitUsage, parser.errorText());
+    if (parser.isSet(helpOption))
+        parser.showHelp();
+    if (!parser.positionalArguments().isEmpty())
+        return fail(exitUsage,
+                    QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
+
+    const Part* part = Part::find(parser.value(partOption));
+    if (!part)
+        return fail(exitUsage,
+                    QStringLiteral("Unknown part '%1'. Known parts: %2.")
+                        .arg(parser.value(partOption), Part::names().join(QStringLiteral(", "))));
+    const std::optional<int> port = number(parser.value(portOption), 0, std::numeric_limits<quint16>::max());
+    if (!port)
+        return fail(exitUsage, QStringLiteral("'%1' is no port.").arg(parser.value(portOption)));
+
+    Chip chip(*part);
+    VirtualProgrammer programmer(chip);
+    programmer.setSilent(parser.isSet(silentOption));
+    if (parser.isSet(flipOption)) {
+        const std::optional<int> address = number(parser.value(flipOption), 0, part->flashSize - 1);
+        if (!address)
+            return fail(exitUsage,
+                        QStringLiteral("'%1' is no flash address of %2.").arg(parser.value(flipOption), part->name));
+        chip.setFaultyAddress(*address);
+    }
+    if (parser.isSet(unplugOption)) {
+        const std::optional<int> bytes = number(parser.value(unplugOption), 1, std::numeric_limits<int>::max());
+        if (!bytes)
+            return fail(exitUsage, QStringLiteral("'%1' is no number of bytes.").arg(parser.value(unplugOption)));
+        programmer.setUnplugAfter(*bytes);
+    }
+    QString error;
+    if (parser.isSet(stateOption) && !programmer.setStateFile(parser.value(stateOption), error))
+        return fail(exitFailure, error);
+    if (!programmer.listen(static_cast<quint16>(*port)))
+        return fail(exitFailure,
+                    QStringLiteral("Cannot listen on 127.0.0.1:%1: %2").arg(*port).arg(programmer.errorString()));
+
+    QTextStream(stdout) << QStringLiteral("Listening on 127.0.0.1:%1, part %2").arg(programmer.port()).arg(part->name)
+                        << Qt::endl;
+    return QCoreApplication::exec();
+}
