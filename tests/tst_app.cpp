@@ -1,0 +1,192 @@
+#include "app/KorvelApp.h"
+#include "app/Startup.h"
+#include "avrdude/Avrdude.h"
+#include "support/BoxAnswerer.h"
+#include "support/LogCapture.h"
+#include "support/WorkFolder.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QtTest>
+
+namespace {
+
+const QString file = QStringLiteral("save.json");
+
+/// Every key holds something else than any default or fallback.
+const QByteArray full = R"json({
+    "avrdude": "/opt/avrdude", "mcuName": "ATtiny85", "mcuId": "t85", "signature": "1E 93 0B", "callByte": "5A",
+    "language": "Русский", "arguments": "-v", "fileNamesReading": ["lfuse.hex", "lock.hex"],
+    "files": {
+        "flashWrite": "a.hex", "flashRead": "b.hex", "eepromWrite": "c.eep", "eepromRead": "d.eep",
+        "cmdFlashWrite": ["-U", "flash:w:a.hex:i"], "cmdEepromWrite": ["-U", "eeprom:w:c.eep:i"], "cmdFuses": ["-Ux"]
+    },
+    "programmer": { "name": "Mine", "id": "stk500v1", "port": "/dev/ttyUSB0", "speed": "1 kHz (-B 512)" },
+    "fusesBytes": [{
+        "name": "Low Fuse", "id": "lfuse", "defaultValue": 98, "currentValue": 226,
+        "fuseBits": [
+            { "bitNumber": 0, "enabled": true, "name": "CKSEL0", "defaultBitValue": 0, "currentBitValue": 1 }
+        ]
+    }],
+    "profiles": {
+        "flashCheck": true, "eepromCheck": true, "fusesCheck": true,
+        "flashEnable": true, "eepromEnable": true, "fusesEnable": true,
+        "name": "Board", "description": "Rev. B", "profilesList": ["one", "two"], "currentlyProfilesList": "Board"
+    }
+})json";
+
+QJsonObject object(const QByteArray& json)
+{
+    return QJsonDocument::fromJson(json).object();
+}
+
+} // namespace
+
+class tst_App : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void settingsRoundTrip()
+    {
+        const WorkFolder folder;
+        folder.write(file, full);
+        SettingsRecord record;
+        QVERIFY(record.loadFromFile(file));
+        QCOMPARE(record.configurationList, QStringList({"one", "two"}));
+        QFile old(file); // whoever holds the old file open keeps it: the new one takes its place
+        QVERIFY(old.open(QIODevice::ReadOnly));
+        QVERIFY(record.saveToFile(file));
+        QCOMPARE(old.readAll(), full);
+        QCOMPARE(QDir().entryList(QDir::Files), QStringList {file});
+
+        // The extra names go out under another key than they come in by, and all eight bits are written.
+        QJsonObject written = object(folder.read(file));
+        QJsonObject profiles = written["profiles"].toObject();
+        profiles["profilesList"] = profiles.take("configurationList");
+        written["profiles"] = profiles;
+        QJsonObject byte = written["fusesBytes"].toArray().at(0).toObject();
+        QJsonArray bits = byte["fuseBits"].toArray();
+        QCOMPARE(bits.size(), 8);
+        QCOMPARE(bits.at(7).toObject()["name"].toString(), QString("NOT USED"));
+        byte["fuseBits"] = QJsonArray {bits.at(0)};
+        written["fusesBytes"] = QJsonArray {byte};
+        QCOMPARE(QJsonDocument(written).toJson(), QJsonDocument(object(full)).toJson());
+
+        QVERIFY(record.loadFromFile(file) && record.configurationList.isEmpty());
+        QVERIFY(!record.saveToFile("no-such-folder/save.json"));
+    }
+
+    void settingsFallbacks()
+    {
+        const WorkFolder folder;
+        folder.write("empty.json", "{}");
+        folder.write("wrong.json", R"({
+            "avrdude": 1, "mcuName": 2, "mcuId": [], "language": null, "files": [], "programmer": "x",
+            "fileNamesReading": [1, true, "x", 2.5], "fusesBytes": {"a": 1}, "profiles": {"flashCheck": 1, "name": {}}
+        })");
+        folder.write("full.json", full);
+        for (const QString name : {"empty.json", "wrong.json"}) {
+            SettingsRecord r;
+            QVERIFY(r.loadFromFile("full.json") && r.loadFromFile(name));
+            const QStringList texts {r.avrdude,       r.mcuName, r.mcuId, r.language,    r.programmer.name,
+                                     r.programmer.id, r.port,    r.speed, r.profile.name};
+            QCOMPARE(texts, QStringList({"avrdude", "", "m16", "", "USBasp", "usbasp", "usb", "-B 4", ""}));
+            QVERIFY(r.fusesBytes.isEmpty() && r.cmdFlashWrite.isEmpty() && r.configurationList.isEmpty());
+            QVERIFY(!r.flashCheck && !r.fusesEnable);
+            QCOMPARE(r.fileNamesReading, name[0] == 'e' ? QStringList() : QStringList({"1", "true", "x", "2.5"}));
+        }
+
+        folder.write("bits.json", R"({"fusesBytes": [7, {"fuseBits": [{}, {}, {}, {}, {}, {}, {},
+                                                        {"name": "last", "bitNumber": 7}, {"name": "ninth"}]}]})");
+        SettingsRecord record;
+        QVERIFY(record.loadFromFile("bits.json"));
+        QCOMPARE(record.fusesBytes.size(), 2);
+        QCOMPARE(record.fusesBytes[0].fuseBits[3].name, QString("NOT USED"));
+        QCOMPARE(record.fusesBytes[1].fuseBits[7].name, QString("last"));
+    }
+
+    void unusableSettings_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("array") << QByteArray("[{\"avrdude\": \"x\"}]") << "Config parse error: ";
+        QTest::newRow("cut off") << full.left(full.size() - 2) << "Config parse error: ";
+        QTest::newRow("empty") << QByteArray("") << "Config parse error: ";
+        QTest::newRow("missing") << QByteArray() << "Config file not found, using default language: English";
+    }
+
+    void unusableSettings()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, line);
+        const WorkFolder folder;
+        folder.write("full.json", full);
+        if (!content.isNull())
+            folder.write(file, content);
+        SettingsRecord record;
+        QVERIFY(record.loadFromFile("full.json") && !record.loadFromFile(file));
+        QVERIFY(record.mcuName == "ATtiny85" && record.fusesBytes.size() == 1);
+
+        const LogCapture log;
+        QCOMPARE(Startup::language(), QString("English"));
+        QVERIFY2(log.lines().size() == 1 && log.lines()[0].startsWith(line), qPrintable(log.lines().join('\n')));
+        BoxAnswerer boxes;
+        const KorvelApp window;
+        QCOMPARE(boxes.take(),
+                 content.isNull() ? QStringList()
+                                  : QStringList {"Korvel: Failed to load settings from file: save.json"});
+    }
+
+    void startLanguage()
+    {
+        const WorkFolder folder;
+        for (const auto& [content, language] :
+             {std::pair("{}", "English"), {"{\"language\": 5}", ""}, {"{\"language\": \"X\"}", "X"}}) {
+            folder.write(file, content);
+            QCOMPARE(Startup::language(), QString(language));
+        }
+    }
+
+    void windowKeepsTheSettings()
+    {
+        const WorkFolder folder;
+        BoxAnswerer boxes;
+        KorvelApp().close();
+        QCOMPARE(boxes.take(), QStringList());
+        QCOMPARE(object(folder.read(file))["programmer"].toObject()["speed"].toString(), QString("-B 4"));
+
+        folder.write(file, full);
+        KorvelApp().close();
+        // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
+        for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
+            QCOMPARE(object(folder.read(file))[key], object(full)[key]);
+
+        KorvelApp window;
+        QVERIFY(QFile::remove(file) && QDir().mkdir(file)); // a folder in the way
+        QVERIFY(window.close());
+        QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to save settings to file: save.json"});
+    }
+
+    void windowClosesDuringARun()
+    {
+        const WorkFolder folder;
+        folder.write("script", "err busy\nwait 60000");
+        folder.write(file, R"({"avrdude": ")" STAND_IN R"("})");
+        const LogCapture log;
+        {
+            KorvelApp window;
+            auto* avrdude = window.findChild<Avrdude*>();
+            avrdude->execute({}, [] { QFAIL("called back"); });
+            QTRY_VERIFY(avrdude->logText().contains("busy"));
+            QVERIFY(window.close());
+        }
+        QCOMPARE(log.lines(), QStringList()); // such as a warning of a running process destroyed
+        QCOMPARE(object(folder.read(file))["avrdude"].toString(), QString(STAND_IN));
+    }
+};
+
+QTEST_MAIN(tst_App)
+#include "tst_app.moc"
