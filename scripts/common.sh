@@ -1,0 +1,36 @@
+# Shared by the scripts beside it, which source it. Leaves the shell in the checkout's top folder.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev avrdude)
+
+# Installs those of the named Debian packages that are missing; elsewhere names them all and gives up.
+need_packages() {
+    if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+        [ -n "${KORVEL_SKIP_PACKAGES:-}" ] && return
+        echo "This system has no apt. Install what these Debian packages hold, set KORVEL_SKIP_PACKAGES=1, and start" \
+            "again: $*" >&2
+        exit 1
+    fi
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "Installing: ${missing[*]}"
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "Run this as root: apt-get install ${missing[*]}" >&2; exit 1; }
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" apt-get update -q
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+# Configures and builds a preset; further arguments name targets.
+build() {
+    local preset=$1
+    shift
+    cmake --preset "$preset"
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+}

@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds Korvel and starts it in its own folder, build/release/bin.
+# With --demo, in a folder of its own, build/release/demo, set up afresh and with a virtual programmer running: press
+# Write, and the virtual chip holds a firmware.
+source "$(dirname "$0")/common.sh"
+
+demo=
+case "${1:-}" in
+'') ;;
+--demo) demo=yes ;;
+*) echo "Usage: scripts/run.sh [--demo]" >&2; exit 2 ;;
+esac
+
+packages=("${build_packages[@]}" fonts-dejavu-core)
+screen=yes
+if [ "$(uname -s)" = Linux ] && [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    screen=
+    packages+=(xvfb xdotool imagemagick)
+fi
+need_packages "${packages[@]}"
+build release korvel korvel-virtual-programmer korvel_data
+
+started=()
+stop_all() {
+    trap - EXIT INT TERM
+    local i
+    for ((i = ${#started[@]} - 1; i >= 0; i--)); do # the display last
+        kill "${started[i]}" 2>/dev/null && wait "${started[i]}" || true
+    done
+}
+trap stop_all EXIT
+trap 'exit 130' INT TERM
+
+# Waits up to 20 seconds for the command to succeed.
+wait_for() {
+    local i
+    for ((i = 0; i < 200; i++)); do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.1
+    done
+    return 1
+}
+
+cd build/release
+if [ -n "$demo" ]; then
+    # A folder of the demo's own, so that it never touches the settings in bin.
+    mkdir -p demo
+    cp -a bin/korvel bin/korvel-virtual-programmer bin/mcu bin/programmer bin/Languages bin/profiles demo/
+    cp -a ../../data/demo/. demo/
+    cd demo
+    ./korvel-virtual-programmer --state chip.json >programmer.log 2>&1 &
+    started+=($!)
+    if ! wait_for grep -q Listening programmer.log; then
+        cat programmer.log >&2
+        exit 1
+    fi
+    echo "The virtual programmer is running; its chip is kept in $PWD/chip.json"
+else
+    cd bin
+fi
+
+if [ -z "$screen" ]; then
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -noreset -nolisten tcp 3>xvfb.display 2>/dev/null &
+    started+=($!)
+    wait_for test -s xvfb.display || { echo "Xvfb does not start" >&2; exit 1; }
+    DISPLAY=:$(cat xvfb.display)
+    export DISPLAY
+    rm xvfb.display
+    echo "There is no display: starting on a virtual one, $DISPLAY"
+fi
+
+./korvel &
+korvel=$!
+started+=("$korvel")
+if [ -z "$screen" ]; then
+    # Not before there is a window: without one, import waits for a click and holds up every other program.
+    wait_for xdotool search --onlyvisible --name '^Korvel 5.6$' || { echo "No window appears" >&2; exit 1; }
+    sleep 0.5 # to paint
+    import -window 'Korvel 5.6' korvel.png
+    echo "A screenshot of the window is in $PWD/korvel.png; press Ctrl+C to end"
+fi
+wait "$korvel"
