@@ -14,14 +14,12 @@ AvrdudeMessage::AvrdudeMessage(QWidget* parent)
 {
     setFixedHeight(logHeight);
     setReadOnly(true);
-    setUndoRedoEnabled(false); // an undo history would hold every run's output a second time
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
 void AvrdudeMessage::insertAtCursor(const QString& text)
 {
-    QTextCursor cursor = textCursor();
-    cursor.clearSelection();
+    QTextCursor cursor(document());
+    cursor.setPosition(textCursor().position());
     cursor.insertText(text);
-    setTextCursor(cursor);
 }

@@ -1,6 +1,7 @@
 #include "avrdude/Avrdude.h"
 
 #include "app/AvrdudeMessage.h"
+#include "app/ProductInfo.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -33,7 +34,6 @@ Avrdude::~Avrdude()
 {
     if (!m_process)
         return;
-    m_process->disconnect(this);
     m_process->kill();
     m_process->waitForFinished();
 }
@@ -61,8 +61,8 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
     const QStringList allArguments = commonArguments() + arguments;
     m_log->clear();
     m_process->start(program, allArguments);
-    m_log->appendPlainText(QLatin1String("Korvel: ") + program + QLatin1Char(' ') + allArguments.join(QLatin1Char(' '))
-                           + QLatin1Char('\n'));
+    m_log->appendPlainText(QLatin1String(ProductInfo::name) + QLatin1String(": ") + program + QLatin1Char(' ')
+                           + allArguments.join(QLatin1Char(' ')) + QLatin1Char('\n'));
     if (!m_process->waitForStarted(startTimeout)) {
         // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart.
         m_log->appendPlainText(tr("avrdude not found") + m_process->errorString());

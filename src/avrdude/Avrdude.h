@@ -34,14 +34,15 @@ public:
     int execute(
         const QStringList& arguments, Callback callback = [] {});
 
-    /// Moves freshly printed output into the log, and ends the run when it shows that the programmer does not answer.
-    /// Returns 0.
-    int addEditText();
-
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
 
     /// The log view's whole text: the echoed command line and the output of the current or last run.
     [[nodiscard]] QString logText() const;
+
+public slots:
+    /// Moves freshly printed output into the log, and ends the run when it shows that the programmer does not answer.
+    /// Returns 0.
+    int addEditText();
 
 private:
     [[nodiscard]] QStringList commonArguments() const;
