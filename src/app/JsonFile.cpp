@@ -8,7 +8,10 @@ JsonFile JsonFile::read(const QString& path)
 {
     JsonFile result;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.exists())
+        return result;
+    result.state = State::CannotOpen;
+    if (!file.open(QIODevice::ReadOnly))
         return result;
 
     QJsonParseError error;
@@ -18,12 +21,16 @@ JsonFile JsonFile::read(const QString& path)
     return result;
 }
 
+QFileInfoList jsonFiles(const QString& folder)
+{
+    return QDir(folder).entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Unsorted);
+}
+
 QStringList jsonBaseNames(const QString& folder)
 {
     QStringList names;
-    const QDir dir(folder);
-    const auto entries = dir.entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Unsorted);
-    for (const QFileInfo& entry : entries)
-        names.append(entry.baseName());
+    const auto files = jsonFiles(folder);
+    for (const QFileInfo& file : files)
+        names.append(file.baseName());
     return names;
 }

@@ -14,7 +14,7 @@ QString Startup::language()
 {
     QString fallback = QLatin1String(ProductInfo::defaultLanguage);
     const JsonFile file = JsonFile::read(QLatin1String(ProductInfo::settingsFile));
-    if (file.state == JsonFile::State::CannotOpen) {
+    if (!file.wasRead()) {
         qDebug().noquote() << "Config file not found, using default language:" << fallback;
         return fallback;
     }

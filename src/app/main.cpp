@@ -19,7 +19,8 @@ int main(int argc, char* argv[])
 
     KorvelApp window;
     window.setWindowTitle(QLatin1String(ProductInfo::name) + QLatin1Char(' ') + QLatin1String(ProductInfo::version));
-    window.resize(520, 655);
+    // A large font may need more; the window would grow when shown, off its centre.
+    window.resize(QSize(520, 655).expandedTo(window.minimumSizeHint()));
     window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));
     Startup::moveToPointerScreen(window);
     window.show();

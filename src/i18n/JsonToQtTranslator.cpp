@@ -13,15 +13,13 @@ bool JsonToQtTranslator::loadLanguage(const QString& language)
 
     const QString path = LanguageFiles::path(language);
     const JsonFile file = JsonFile::read(path);
-    switch (file.state) {
-    case JsonFile::State::CannotOpen:
+    if (!file.wasRead()) {
         qDebug().noquote() << "JsonToQtTranslator: Cannot open file:" << path;
         return false;
-    case JsonFile::State::ParseError:
+    }
+    if (file.state == JsonFile::State::ParseError) {
         qDebug().noquote() << "JsonToQtTranslator: JSON parse error:" << file.error;
         return false;
-    case JsonFile::State::Parsed:
-        break;
     }
 
     const QJsonObject texts = file.document.object();

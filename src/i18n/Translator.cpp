@@ -15,17 +15,15 @@ bool Translator::loadLanguage(const QString& language)
 {
     const QString path = QStringLiteral("%1/Languages/%2.json").arg(QCoreApplication::applicationDirPath(), language);
     const JsonFile file = JsonFile::read(path);
-    switch (file.state) {
-    case JsonFile::State::CannotOpen:
+    if (!file.wasRead()) {
         qDebug().noquote() << "Translator: Failed to load file:" << path;
         m_translations = {};
         emit languageChanged();
         return false;
-    case JsonFile::State::ParseError:
+    }
+    if (file.state == JsonFile::State::ParseError) {
         qDebug().noquote() << "Translator: JSON parse error:" << file.error;
         return false;
-    case JsonFile::State::Parsed:
-        break;
     }
 
     m_translations = file.document.object();

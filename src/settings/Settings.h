@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class Avrdude;
 class SettingsPresenter;
 
@@ -12,10 +14,11 @@ class Settings : public QWidget
 
 public:
     Settings(Avrdude& avrdude, QWidget* parent);
+    ~Settings() override;
 
     /// Shows the settings record again.
     void updateView();
 
 private:
-    SettingsPresenter* m_presenter;
+    std::unique_ptr<SettingsPresenter> m_presenter;
 };

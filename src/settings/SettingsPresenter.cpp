@@ -9,7 +9,6 @@
 
 #include <QComboBox>
 #include <QDebug>
-#include <QFile>
 #include <QJsonObject>
 #include <QMessageBox>
 #include <QSignalBlocker>
@@ -49,13 +48,11 @@ void SettingsPresenter::refreshFromSettings()
 void SettingsPresenter::loadProgrammer(const QString& name)
 {
     const auto report = [this](const QString& text) { QMessageBox::information(&m_view, text, text); };
-    const QString path = SettingsModel::programmerFile(name);
-    if (!QFile::exists(path)) {
+    const JsonFile file = JsonFile::read(SettingsModel::programmerFile(name));
+    switch (file.state) {
+    case JsonFile::State::NotFound:
         report(tr("JSON FILE NOT FOUND"));
         return;
-    }
-    const JsonFile file = JsonFile::read(path);
-    switch (file.state) {
     case JsonFile::State::CannotOpen:
         report(tr("Cannot open file"));
         return;
@@ -139,7 +136,7 @@ void SettingsPresenter::setLanguage(const QString& language)
     QString notice = QLatin1String(QT_TR_NOOP("Please restart the application to apply language changes."));
     const QString path = LanguageFiles::path(language);
     const JsonFile file = JsonFile::read(path);
-    if (file.state == JsonFile::State::CannotOpen) {
+    if (!file.wasRead()) {
         qDebug().noquote() << "Language file not found:" << path;
         qDebug().noquote() << "Searched in directory:" << LanguageFiles::baseFolder();
     } else if (!file.isObject()) {
