@@ -1,0 +1,23 @@
+#include "avrdude/ReadFile.h"
+
+#include <QFile>
+
+ReadFile::ReadFile(QObject* parent)
+    : QObject(parent)
+{
+    connect(this, &ReadFile::emitFinishedReadFile, this, [this] { m_callback(m_results); });
+}
+
+void ReadFile::readFiles(const QStringList& files, Callback callback)
+{
+    m_files = files;
+    m_callback = std::move(callback);
+    m_results.clear();
+    for (const QString& path : qAsConst(m_files)) {
+        QFile file(path);
+        // Not as text: the toolkit would take 0x0D, a value like any other, for a part of a line end and drop it.
+        if (file.open(QIODevice::ReadOnly))
+            m_results.append(QString::fromLatin1(file.readAll().toHex(' ')).toUpper());
+    }
+    emit emitFinishedReadFile();
+}

@@ -1,0 +1,87 @@
+#include "mcu/BytesModel.h"
+
+#include "app/JsonFile.h"
+#include "app/ProductInfo.h"
+#include "avrdude/Avrdude.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QMessageBox>
+
+namespace {
+
+constexpr int highestBit = 7;
+
+FuseByte readFuseByte(const QJsonObject& description)
+{
+    FuseByte byte;
+    byte.id = description.value(QLatin1String("id")).toString();
+    byte.name = description.value(QLatin1String("name")).toString();
+    const QJsonArray bits = description.value(QLatin1String("bits")).toArray();
+    int number = highestBit; // the most significant bit is listed first
+    for (const QJsonValue& listed : bits) {
+        if (number < 0)
+            break;
+        const QJsonObject bitDescription = listed.toObject();
+        FuseBit& bit = byte.fuseBits[static_cast<std::size_t>(number)];
+        bit.bitNumber = number;
+        bit.name = bitDescription.value(QLatin1String("name")).toString();
+        bit.currentBitValue = static_cast<quint32>(bitDescription.value(QLatin1String("default")).toInt());
+        bit.defaultBitValue = bit.currentBitValue;
+        bit.enabled = bitDescription.value(QLatin1String("enabled")).toInt() != 0;
+        byte.currentValue += bit.currentBitValue << number;
+        --number;
+    }
+    byte.defaultValue = byte.currentValue;
+    return byte;
+}
+
+} // namespace
+
+BytesModel::BytesModel(Avrdude& avrdude, QObject* parent)
+    : QObject(parent)
+    , m_avrdude(avrdude)
+{
+}
+
+QString BytesModel::folder()
+{
+    return QStringLiteral("mcu");
+}
+
+int BytesModel::load(const QString& name)
+{
+    const auto report = [](const QString& title, const QString& text) {
+        QMessageBox::information(QApplication::activeWindow(), title, text);
+        return 0;
+    };
+    m_fuseBytes.clear();
+    const JsonFile file = JsonFile::read(QDir(folder()).filePath(name + QLatin1String(".json")));
+    switch (file.state) {
+    case JsonFile::State::NotFound:
+        return report(QLatin1String(ProductInfo::name), tr("MCU JSON FILE NOT FOUND"));
+    case JsonFile::State::CannotOpen:
+        return report(QStringLiteral("Cannot open file"), tr("Cannot open file"));
+    case JsonFile::State::ParseError:
+        return report(QStringLiteral("JSON FILE ERROR"), tr("JSON FILE ERROR"));
+    case JsonFile::State::Parsed:
+        break;
+    }
+
+    const QJsonObject description = file.document.object();
+    m_id = description.value(QLatin1String("id")).toString();
+    m_signature = description.value(QLatin1String("signature")).toString();
+    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
+    for (const QJsonValue& byte : bytes)
+        m_fuseBytes.append(readFuseByte(byte.toObject()));
+    m_name = name; // what counts is the file's name, not the "mcu" in it
+
+    SettingsRecord& settings = m_avrdude.settings();
+    settings.mcuName = m_name;
+    settings.mcuId = m_id;
+    settings.signature = m_signature;
+    settings.fusesBytes = m_fuseBytes;
+    return 0;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/FuseByte.h"
+
+#include <QObject>
+
+class Avrdude;
+
+/// Loads the description of one microcontroller, with the datasheet's defaults of its fuse bytes, into the settings
+/// record. Descriptions are the files of the folder "mcu" in the working directory, each named after what it describes.
+class BytesModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BytesModel(Avrdude& avrdude, QObject* parent = nullptr);
+
+    /// The folder of the descriptions.
+    [[nodiscard]] static QString folder();
+
+    /// Loads the microcontroller called @p name and replaces the record's name, identifier, signature and fuse bytes.
+    /// A file that is missing or no JSON is told in a box and leaves the record as it was. Returns 0.
+    int load(const QString& name);
+
+private:
+    Avrdude& m_avrdude;
+    FuseBytes m_fuseBytes;
+    QString m_name;
+    QString m_id;
+    QString m_signature;
+};

@@ -1,0 +1,22 @@
+#include "mcu/SignatureIndex.h"
+
+#include "app/JsonFile.h"
+#include "mcu/BytesModel.h"
+
+#include <QJsonObject>
+
+void SignatureIndex::build()
+{
+    m_mcus.clear();
+    const auto files = jsonFiles(BytesModel::folder());
+    for (const QFileInfo& info : files) {
+        const QJsonObject description = JsonFile::read(info.filePath()).document.object();
+        const QString signature = description.value(QLatin1String("signature")).toString();
+        const Mcu mcu {
+            description.value(QLatin1String("mcu")).toString(),
+            description.value(QLatin1String("id")).toString(),
+        };
+        if (!signature.isEmpty() && !mcu.name.isEmpty() && !mcu.id.isEmpty())
+            m_mcus.insert(signature, mcu);
+    }
+}
