@@ -1,0 +1,55 @@
+#include "fuses/FuseRequests.h"
+
+namespace {
+
+/// @p operation is "w" or "v". The value goes out as "0x3f": no leading zeros.
+QString valueRequest(const FuseByte& byte, QLatin1String operation)
+{
+    return QStringLiteral("-U%1:%2:0x%3:m").arg(byte.id, operation, QString::number(byte.currentValue, 16));
+}
+
+QString fileName(const FuseByte& byte)
+{
+    return byte.id + QLatin1String(".hex");
+}
+
+} // namespace
+
+QStringList FuseRequests::write(const FuseBytes& bytes)
+{
+    QStringList requests;
+    QString lock;
+    for (const FuseByte& byte : bytes) {
+        const QString request = valueRequest(byte, QLatin1String("w"));
+        if (byte.id.startsWith(QLatin1String("lock")))
+            lock += request;
+        else
+            requests += request;
+    }
+    requests += lock; // even when it is empty; avrdude passes over it
+    return requests;
+}
+
+QStringList FuseRequests::verify(const FuseBytes& bytes)
+{
+    QStringList requests;
+    for (const FuseByte& byte : bytes)
+        requests += valueRequest(byte, QLatin1String("v"));
+    return requests;
+}
+
+QStringList FuseRequests::read(const FuseBytes& bytes)
+{
+    QStringList requests;
+    for (const FuseByte& byte : bytes)
+        requests += QStringLiteral("-U%1:r:%2:r").arg(byte.id, fileName(byte));
+    return requests;
+}
+
+QStringList FuseRequests::files(const FuseBytes& bytes)
+{
+    QStringList names;
+    for (const FuseByte& byte : bytes)
+        names += fileName(byte);
+    return names;
+}

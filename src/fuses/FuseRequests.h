@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/FuseByte.h"
+
+#include <QStringList>
+
+/// avrdude's requests for all fuse bytes of a microcontroller, the lock byte included. Each request is one argument:
+/// "-U" and what belongs to it without a blank between.
+namespace FuseRequests {
+
+/// Writes every byte's current value, in order, the lock byte last: it may lock out what comes after it. The last
+/// argument is the lock byte's; it is empty when there is no lock byte, and several of them are joined in it.
+[[nodiscard]] QStringList write(const FuseBytes& bytes);
+
+/// Verifies every byte against its current value, in order.
+[[nodiscard]] QStringList verify(const FuseBytes& bytes);
+
+/// Reads every byte, in order, each into its file of files().
+[[nodiscard]] QStringList read(const FuseBytes& bytes);
+
+/// The files that read() makes avrdude write, in the working directory.
+[[nodiscard]] QStringList files(const FuseBytes& bytes);
+
+} // namespace FuseRequests

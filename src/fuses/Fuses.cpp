@@ -1,0 +1,62 @@
+#include "fuses/Fuses.h"
+
+#include "avrdude/Avrdude.h"
+#include "fuses/FusesButtons.h"
+#include "fuses/FusesButtonsView.h"
+#include "fuses/FusesByteModel.h"
+#include "fuses/FusesBytes.h"
+#include "fuses/FusesBytesView.h"
+#include "fuses/FusesTextView.h"
+#include "mcu/BytesModel.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
+    : QWidget(parent)
+    , m_avrdude(avrdude)
+    , m_bytesModel(new BytesModel(avrdude, this))
+{
+    auto* bytesView = new FusesBytesView;
+    auto* scrollArea = new QScrollArea(this);
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setWidget(bytesView);
+    scrollArea->setStyleSheet(QStringLiteral("QScrollArea { border: none; background: transparent; }"));
+    scrollArea->viewport()->setAutoFillBackground(false);
+    bytesView->setAutoFillBackground(false);
+    auto* buttonsView = new FusesButtonsView(this);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new FusesTextView(this));
+    layout->addWidget(scrollArea);
+    layout->addWidget(buttonsView);
+
+    m_bytes = new FusesBytes(avrdude, *bytesView, this);
+    auto* buttons = new FusesButtons(avrdude, *buttonsView, this);
+    connect(buttons, &FusesButtons::setReadingFusesEmit, this, &Fuses::refresh);
+    connect(buttonsView->defaultButton(), &QPushButton::clicked, this, &Fuses::onClickDefault);
+}
+
+void Fuses::loadMcu(const QString& name)
+{
+    m_bytesModel->load(name);
+}
+
+void Fuses::rebuild()
+{
+    m_bytes->rebuild();
+}
+
+void Fuses::refresh()
+{
+    m_bytes->refresh();
+}
+
+void Fuses::onClickDefault()
+{
+    FusesByteModel::restoreDefaults(m_avrdude.settings().fusesBytes);
+    refresh();
+    QMessageBox::information(this, QStringLiteral("FUSES"), tr("Fuse bytes set to default values successfully."));
+}

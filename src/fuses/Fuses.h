@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+class Avrdude;
+class BytesModel;
+class FusesBytes;
+
+/// The Fuses tab: an editor for each fuse byte of the microcontroller, and what is done with all of them.
+class Fuses : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Fuses(Avrdude& avrdude, QWidget* parent);
+
+    /// Loads the description of the microcontroller called @p name into the settings record, with its fuse bytes at
+    /// their defaults. The editors follow with rebuild().
+    void loadMcu(const QString& name);
+
+    /// Makes the editors anew from the settings record. Due whenever its list of fuse bytes was replaced.
+    void rebuild();
+
+    /// Shows the record's values in the editors that are there.
+    void refresh();
+
+private:
+    void onClickDefault();
+
+    Avrdude& m_avrdude;
+    BytesModel* m_bytesModel;
+    FusesBytes* m_bytes;
+};

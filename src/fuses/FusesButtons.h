@@ -1,0 +1,35 @@
+#pragma once
+
+#include "avrdude/ReadFile.h"
+
+#include <QObject>
+
+class Avrdude;
+class FusesButtonsView;
+
+/// Writes, verifies and reads all fuse bytes of the microcontroller, the lock byte included. Owned by the Fuses tab, as
+/// is the view; the runner outlives both.
+class FusesButtons : public QObject
+{
+    Q_OBJECT
+
+public:
+    FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* parent = nullptr);
+
+    void onClickWriteBt();
+    void onClickVerifyBt();
+    void onClickReadBt();
+
+signals:
+    /// The values read stand in the settings record; the bits do not follow them yet.
+    void setReadingFusesEmit();
+
+private:
+    void onClickWriteMessage();
+    void onClickVerifyMessage();
+    void readFuseBytesMcu();
+
+    Avrdude& m_avrdude;
+    FusesButtonsView& m_view;
+    ReadFile m_readFile;
+};

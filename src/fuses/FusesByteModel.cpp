@@ -1,0 +1,62 @@
+#include "fuses/FusesByteModel.h"
+
+#include "avrdude/Avrdude.h"
+
+namespace {
+
+void recomputeValue(FuseByte& byte)
+{
+    byte.currentValue = 0;
+    for (std::size_t i = 0; i < byte.fuseBits.size(); ++i)
+        byte.currentValue += byte.fuseBits[i].currentBitValue << i;
+}
+
+} // namespace
+
+FusesByteModel::FusesByteModel(Avrdude& avrdude, int index, QObject* parent)
+    : QObject(parent)
+    , m_avrdude(avrdude)
+    , m_index(index)
+{
+}
+
+const FuseByte& FusesByteModel::byte() const
+{
+    return m_avrdude.settings().fusesBytes.at(m_index);
+}
+
+FuseByte& FusesByteModel::mutableByte()
+{
+    return m_avrdude.settings().fusesBytes[m_index];
+}
+
+void FusesByteModel::setByte(quint32 value)
+{
+    FuseByte& byte = mutableByte();
+    for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
+        FuseBit& bit = byte.fuseBits[i];
+        if (bit.enabled && bit.name != QLatin1String("NOT USED"))
+            bit.currentBitValue = (value >> i) & 1U;
+    }
+    recomputeValue(byte);
+}
+
+void FusesByteModel::setBit(int index, bool checked)
+{
+    FuseByte& byte = mutableByte();
+    byte.fuseBits[static_cast<std::size_t>(index)].currentBitValue = checked ? 0 : 1;
+    recomputeValue(byte);
+}
+
+void FusesByteModel::restoreDefaults(FuseBytes& bytes)
+{
+    for (FuseByte& byte : bytes)
+        byte.currentValue = byte.defaultValue;
+}
+
+void FusesByteModel::applyReadValues(FuseBytes& bytes, const QStringList& texts)
+{
+    const int count = qMin(bytes.size(), texts.size());
+    for (int i = 0; i < count; ++i)
+        bytes[i].currentValue = texts.at(i).toUInt(nullptr, 16);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/FuseByte.h"
+
+#include <QObject>
+
+class Avrdude;
+
+/// Keeps the value and the eight bits of one fuse byte of the settings record consistent. Every change lands in the
+/// record at once. Bound to its byte by place, not by address: the record's list may be replaced under it. Lives as
+/// long as the byte's editor.
+class FusesByteModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p index is the byte's place in the record's list.
+    FusesByteModel(Avrdude& avrdude, int index, QObject* parent = nullptr);
+
+    [[nodiscard]] const FuseByte& byte() const;
+
+    /// Takes over those bits of @p value that the user may change and that have a name; the byte's value becomes what
+    /// the bits then say. So a locked bit cannot be typed away.
+    void setByte(quint32 value);
+
+    /// Programs the bit @p index (0 to 7) when @p checked, whatever its name, and unprograms it otherwise.
+    void setBit(int index, bool checked);
+
+    /// Gives every byte of @p bytes its default value. The bits follow when the editors are refreshed.
+    static void restoreDefaults(FuseBytes& bytes);
+
+    /// Gives the bytes of @p bytes the values read from the chip, in order, as far as both lists go; @p texts are
+    /// hexadecimal, and what is not counts as 0. The bits follow when the editors are refreshed.
+    static void applyReadValues(FuseBytes& bytes, const QStringList& texts);
+
+private:
+    [[nodiscard]] FuseByte& mutableByte();
+
+    Avrdude& m_avrdude;
+    int m_index;
+};

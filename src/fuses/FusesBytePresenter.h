@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+#include <QVector>
+
+class FusesByteModel;
+class FusesByteView;
+class QCheckBox;
+class QKeyEvent;
+
+/// Keeps the check boxes, the hexadecimal field and the record of one fuse byte in step. Lives as long as the byte's
+/// editor, which owns view and model too.
+class FusesBytePresenter : public QObject
+{
+    Q_OBJECT
+
+public:
+    FusesBytePresenter(FusesByteView& view, FusesByteModel& model, QObject* parent = nullptr);
+
+    /// Puts @p value into the byte as far as its bits may be changed, and shows the result.
+    void setByte(quint32 value);
+
+    /// Takes the keys of the hexadecimal field: digits overwrite what is there, and the byte follows at once.
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void setModel();
+    void showBits();
+    void showValue();
+    void onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox);
+    void typeDigit(QChar digit);
+
+    FusesByteView& m_view;
+    FusesByteModel& m_model;
+};

@@ -1,0 +1,50 @@
+#include "fuses/FusesByteView.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+FusesByteView::FusesByteView(QWidget* parent)
+    : QWidget(parent)
+    , m_box(new QGroupBox(this))
+    , m_value(new QLineEdit(this))
+{
+    constexpr int bitCount = 8;
+    for (int i = 0; i < bitCount; ++i) {
+        auto* checkBox = new QCheckBox(this);
+        connect(checkBox, &QCheckBox::stateChanged, this, [this, checkBox] { emit bitChanged(m_fusesBit, checkBox); });
+        m_fusesBit.append(checkBox);
+    }
+    auto* label = new QLabel(QStringLiteral("HEX"), this);
+    const int width = fontMetrics().boundingRect(label->text()).width();
+    label->setFixedWidth(width);
+    m_value->setFixedWidth(width);
+    m_value->setInputMask(QStringLiteral(">HH"));
+    m_value->setAlignment(Qt::AlignCenter);
+
+    // Flat, so that the three bytes that most parts have fit into the window without scrolling.
+    auto* rows = new QVBoxLayout(m_box);
+    rows->setContentsMargins(9, 3, 9, 3);
+    rows->setSpacing(2);
+    const auto addRow = [this, rows](int highestBit, QWidget* last) {
+        auto* row = new QHBoxLayout;
+        for (int i = highestBit; i > highestBit - 4; --i)
+            row->addWidget(m_fusesBit.at(i), 1); // equal widths, so that the two rows line up
+        row->addWidget(last);
+        rows->addLayout(row);
+    };
+    addRow(7, label);
+    addRow(3, m_value);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_box);
+}
+
+void FusesByteView::setTitle(const QString& title)
+{
+    m_box->setTitle(title);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+class QCheckBox;
+class QGroupBox;
+class QLineEdit;
+
+/// The widgets of one fuse byte: eight check boxes and the value in hexadecimal. Lives as long as its editor.
+class FusesByteView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FusesByteView(QWidget* parent = nullptr);
+
+    void setTitle(const QString& title);
+
+    /// The check boxes by bit number; a checked one is a programmed bit.
+    [[nodiscard]] const QVector<QCheckBox*>& fusesBit() const { return m_fusesBit; }
+    [[nodiscard]] QLineEdit* value() const { return m_value; }
+
+signals:
+    /// A check box of @p fusesBit changed, by hand or by code.
+    void bitChanged(QVector<QCheckBox*> fusesBit, QCheckBox* checkBox);
+
+    /// The value shown changed.
+    void byteChanged(quint32 byte);
+
+private:
+    QGroupBox* m_box;
+    QVector<QCheckBox*> m_fusesBit;
+    QLineEdit* m_value;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+/// Holds the editors of the fuse bytes one below the other, at the top.
+class FusesBytesView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FusesBytesView(QWidget* parent = nullptr);
+
+    /// The layout that the editors go into.
+    [[nodiscard]] QVBoxLayout* editors() const { return m_editors; }
+
+private:
+    QVBoxLayout* m_editors;
+};
