@@ -3,6 +3,7 @@
 #include "app/AvrdudeMessage.h"
 #include "app/ProductInfo.h"
 #include "avrdude/Avrdude.h"
+#include "fuses/Fuses.h"
 #include "mcu/Program.h"
 #include "settings/Settings.h"
 
@@ -26,20 +27,22 @@ void warnAboutSettings(const QString& text)
 
 KorvelApp::KorvelApp(QWidget* parent)
     : QMainWindow(parent)
+    , m_central(new QWidget(this))
     , m_log(new AvrdudeMessage(this))
     , m_avrdude(new Avrdude(this, m_log))
     , m_tabs(new QTabWidget(this))
-    , m_program(new Program(*m_avrdude, this))
+    , m_fuses(new Fuses(*m_avrdude, this))
+    , m_program(new Program(*m_avrdude, *m_fuses, this))
     , m_settings(new Settings(*m_avrdude, this))
 {
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
+    m_tabs->addTab(m_fuses, QStringLiteral("Fuses"));
 
-    auto* central = new QWidget(this);
-    auto* layout = new QVBoxLayout(central);
+    auto* layout = new QVBoxLayout(m_central);
     layout->addWidget(m_tabs);
     layout->addWidget(m_settings);
     layout->addWidget(m_log);
-    setCentralWidget(central);
+    setCentralWidget(m_central);
 
     if (loadSettings())
         refreshPanels();
@@ -65,6 +68,7 @@ void KorvelApp::refreshPanels()
 {
     m_program->refresh();
     m_settings->updateView();
+    m_fuses->rebuild(); // the list of fuse bytes is a new one
 }
 
 void KorvelApp::closeEvent(QCloseEvent* event)

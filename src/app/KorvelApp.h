@@ -4,6 +4,7 @@
 
 class Avrdude;
 class AvrdudeMessage;
+class Fuses;
 class Program;
 class QTabWidget;
 class Settings;
@@ -24,6 +25,7 @@ public:
     /// cannot be used (a box says so).
     bool loadSettings();
 
+public slots:
     /// Lets every panel show the settings record again.
     void refreshPanels();
 
@@ -31,9 +33,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    QWidget* m_central; ///< made before the runner, so that the runner outlives the panels on it
     AvrdudeMessage* m_log;
     Avrdude* m_avrdude;
     QTabWidget* m_tabs;
+    Fuses* m_fuses;
     Program* m_program;
     Settings* m_settings;
 };

@@ -1,31 +1,56 @@
 #include "mcu/Program.h"
 
+#include "avrdude/Avrdude.h"
+#include "fuses/Fuses.h"
+#include "mcu/Attributes.h"
+#include "mcu/AttributesView.h"
 #include "memory/Eeprom.h"
 #include "memory/EepromView.h"
 #include "memory/Flash.h"
 #include "memory/FlashView.h"
 
+#include <QComboBox>
+#include <QMessageBox>
 #include <QVBoxLayout>
 
-Program::Program(Avrdude& avrdude, QWidget* parent)
+Program::Program(Avrdude& avrdude, Fuses& fuses, QWidget* parent)
     : QWidget(parent)
+    , m_avrdude(avrdude)
+    , m_fuses(fuses)
+    , m_attributesView(new AttributesView(this))
 {
     auto* flashView = new FlashView(this);
     auto* eepromView = new EepromView(this);
 
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_attributesView);
     layout->addWidget(flashView);
     layout->addWidget(eepromView);
     layout->addStretch();
 
+    m_attributes = std::make_unique<Attributes>(avrdude, m_signatures, *m_attributesView);
     m_flash = std::make_unique<Flash>(*flashView, avrdude);
     m_eeprom = std::make_unique<Eeprom>(*eepromView, avrdude);
+
+    // Without a settings file nobody refreshes the tab, and the list must not show what the next run would not use.
+    m_attributes->refresh();
+    connect(m_attributesView->mcuList(), &QComboBox::textActivated, this, &Program::onMcuSelected);
 }
 
 Program::~Program() = default;
 
 void Program::refresh()
 {
+    m_attributes->refresh();
     m_flash->refresh();
     m_eeprom->refresh();
+}
+
+void Program::onMcuSelected(const QString& name)
+{
+    m_avrdude.settings().mcuName = name;
+    m_fuses.loadMcu(name);
+    m_fuses.rebuild();
+    QMessageBox::information(m_attributesView, QStringLiteral("MCU"),
+                             tr("MCU selected: ") + name + tr(".\nFuse bytes set to datasheet default values."));
 }

@@ -1,0 +1,74 @@
+#include "mcu/Attributes.h"
+
+#include "app/JsonFile.h"
+#include "avrdude/Avrdude.h"
+#include "mcu/AttributesView.h"
+#include "mcu/BytesModel.h"
+#include "mcu/SignatureIndex.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+QString calibrationFile()
+{
+    return QStringLiteral("calibration.hex");
+}
+
+} // namespace
+
+Attributes::Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view)
+    : m_avrdude(avrdude)
+    , m_view(view)
+{
+    index.build();
+    QStringList names = jsonBaseNames(BytesModel::folder());
+    names.sort();
+    view.mcuList()->addItems(names);
+
+    connect(view.eraseButton(), &QPushButton::clicked, this, &Attributes::eraseAllMcu);
+    connect(view.autoDetectButton(), &QPushButton::clicked, this, &Attributes::autoDetect);
+    connect(view.readButton(), &QPushButton::clicked, this, &Attributes::setAvrdudeCmdReadCallByte);
+}
+
+void Attributes::refresh()
+{
+    const SettingsRecord& settings = m_avrdude.settings();
+    m_view.mcuList()->setCurrentIndex(m_view.mcuList()->findText(settings.mcuName));
+    m_view.calibrationByte()->setText(settings.callByte);
+}
+
+void Attributes::eraseAllMcu()
+{
+    m_avrdude.execute({QStringLiteral("-e")}, [this] {
+        QMessageBox::information(&m_view, QStringLiteral("MCU"), tr("MCU erased successfully."));
+    });
+}
+
+void Attributes::autoDetect()
+{
+    m_avrdude.execute({});
+    QMessageBox::question(&m_view, QStringLiteral("MCU Detected"),
+                          tr("MCU auto-detected successfully. Do you want to continue?"));
+}
+
+void Attributes::setAvrdudeCmdReadCallByte()
+{
+    m_view.calibrationByte()->clear();
+    m_avrdude.execute({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
+                      [this] { readFileCallByte(); });
+}
+
+void Attributes::readFileCallByte()
+{
+    m_readFile.readFiles({calibrationFile()}, [this](const QStringList& texts) {
+        if (texts.isEmpty())
+            return;
+        m_view.calibrationByte()->setText(texts.constFirst());
+        m_avrdude.settings().callByte = texts.constFirst();
+    });
+    QMessageBox::information(&m_view, QStringLiteral("Calibration Byte"), tr("Calibration byte read successfully."));
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "avrdude/ReadFile.h"
+
+#include <QObject>
+
+class AttributesView;
+class Avrdude;
+class SignatureIndex;
+
+/// The logic of the microcontroller panel but for the choice itself, which the Programming tab handles. Owned by that
+/// tab, as are the view and the index; they and the runner outlive it.
+class Attributes : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Builds @p index and fills the view's list.
+    Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view);
+
+    /// Shows the record's microcontroller and calibration byte. Loads nothing. The list shows nothing when it does not
+    /// have the microcontroller: another one would not be what the next run uses.
+    void refresh();
+
+    void eraseAllMcu();
+
+    /// Lets avrdude check the signature, and asks whether to go on. The answer changes nothing.
+    void autoDetect();
+
+    /// Empties the field and reads the chip's calibration bytes into a file, then from there into the field.
+    void setAvrdudeCmdReadCallByte();
+
+private:
+    void readFileCallByte();
+
+    Avrdude& m_avrdude;
+    AttributesView& m_view;
+    ReadFile m_readFile;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+/// The microcontroller panel: which one it is, what acts on the chip as a whole, and the calibration byte.
+class AttributesView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit AttributesView(QWidget* parent = nullptr);
+    ~AttributesView() override;
+
+    [[nodiscard]] QComboBox* mcuList() const { return m_mcuList; }
+    [[nodiscard]] QPushButton* autoDetectButton() const { return m_autoDetect.get(); }
+    [[nodiscard]] QPushButton* eraseButton() const { return m_erase; }
+    [[nodiscard]] QPushButton* readButton() const { return m_read; }
+    [[nodiscard]] QLineEdit* calibrationByte() const { return m_calibrationByte; }
+
+private:
+    QComboBox* m_mcuList;
+    std::unique_ptr<QPushButton> m_autoDetect; ///< deliberately on no panel: avrdude must be told the part to find it
+    QPushButton* m_erase;
+    QPushButton* m_read;
+    QLineEdit* m_calibrationByte;
+};
