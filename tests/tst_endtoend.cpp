@@ -2,14 +2,21 @@
 
 #include "app/KorvelApp.h"
 #include "avrdude/Avrdude.h"
+#include "fuses/Fuses.h"
+#include "fuses/FusesButtonsView.h"
+#include "fuses/FusesByteView.h"
+#include "mcu/AttributesView.h"
 #include "memory/EepromView.h"
 #include "memory/FlashView.h"
 #include "settings/SettingsView.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -24,11 +31,18 @@ public:
     {
         m_process.start(VIRTUAL_PROGRAMMER, QStringList {"--port", "0"} + arguments);
         m_process.waitForReadyRead();
-        const QString port = QRegularExpression(":(\\d+)").match(m_process.readAllStandardOutput()).captured(1);
+        m_port = QRegularExpression(":(\\d+)").match(m_process.readAllStandardOutput()).captured(1);
         QFile entry(DATA_FOLDER "/programmer/Virtual programmer.json"); // what ships, with the port that was free
-        if (port.isEmpty() || !entry.open(QIODevice::ReadOnly))
+        if (m_port.isEmpty() || !entry.open(QIODevice::ReadOnly))
             qFatal("no virtual programmer: %s", m_process.readAllStandardError().constData());
-        folder.write("programmer/Virtual programmer.json", entry.readAll().replace("7016", port.toUtf8()));
+        folder.write("programmer/Virtual programmer.json", entry.readAll().replace("7016", m_port.toUtf8()));
+    }
+
+    /// Runs avrdude behind the window's back.
+    void avrdude(const QStringList& arguments) const
+    {
+        const QStringList frame {"-p", "m16", "-c", "stk500v1", "-P", "net:127.0.0.1:" + m_port};
+        QCOMPARE(QProcess::execute("avrdude", frame + arguments), 0);
     }
 
     ~Programmer()
@@ -39,6 +53,7 @@ public:
 
 private:
     QProcess m_process;
+    QString m_port;
 };
 
 /// The main window with the virtual programmer chosen; closed, with its settings saved, at the end.
@@ -53,6 +68,22 @@ public:
         programmers->setCurrentIndex(-1);
         boxes.take(); // no programmer has no entry, says a box
         programmers->setCurrentText("Virtual programmer");
+    }
+
+    /// Picks a microcontroller as the user does.
+    void pick(const QString& part)
+    {
+        emit findChild<AttributesView*>()->mcuList()->textActivated(part);
+        boxes.take();
+    }
+
+    /// The values in the Fuses tab, joined.
+    QString fuses() const
+    {
+        QString values;
+        for (const FusesByteView* view : findChild<Fuses*>()->findChildren<FusesByteView*>())
+            values += view->value()->text();
+        return values;
     }
 
     ~Window() override { close(); }
@@ -125,6 +156,45 @@ private slots:
         const QByteArray back = folder.read("back.bin");
         QCOMPARE(back.left(size), firmware);
         QCOMPARE(back.mid(size).count('\xff'), back.size() - size);
+    }
+
+    void fusesAndWholeChip()
+    {
+        const WorkFolder folder;
+        QVERIFY(QDir().mkdir("mcu") && QFile::copy(DATA_FOLDER "/mcu/ATmega16.json", "mcu/ATmega16.json"));
+        const Programmer programmer(folder, {"--state", "chip"});
+        BoxAnswerer boxes;
+        Window window(boxes);
+        window.pick("ATmega16");
+        const auto* buttons = window.findChild<FusesButtonsView*>();
+        const auto chip = [&folder](const char* what) {
+            const QJsonObject state = QJsonDocument::fromJson(folder.read("chip")).object();
+            const QJsonObject fuses = state["fuses"].toObject();
+            return (fuses.contains(what) ? fuses[what] : state[what]).toString();
+        };
+        const auto editors = window.findChild<Fuses*>()->findChildren<FusesByteView*>();
+        QTest::keyClicks(editors[0]->value(), "e4");
+        editors[2]->fusesBit()[0]->click(); // LB1
+        QCOMPARE(window.boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
+        QCOMPARE(chip("low") + chip("high") + chip("lock"), QString("0xE40x990xFE"));
+        QCOMPARE(window.boxAfter(buttons->verifyButton()), QString("FUSES: Fuse bytes verified successfully."));
+
+        const auto* attributes = window.findChild<AttributesView*>();
+        QCOMPARE(window.boxAfter(attributes->eraseButton()), QString("MCU: MCU erased successfully."));
+        QCOMPARE(chip("lock"), QString("0xFF"));
+        programmer.avrdude({"-Ulfuse:w:0xd1:m", "-Uhfuse:w:0x91:m"});
+        QCOMPARE(window.boxAfter(buttons->verifyButton()), QString("AVRDUDE: Verification error."));
+        QCOMPARE(window.boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
+        QCOMPARE(window.fuses(), QString("D191FF"));
+
+        const QString read = "Calibration Byte: Calibration byte read successfully.";
+        QCOMPARE(window.boxAfter(attributes->readButton()), read);
+        QCOMPARE(attributes->calibrationByte()->text(), QString("A9 A4 A2 9F"));
+        const Programmer one(folder, {"--part", "ATtiny85"});
+        Window other(boxes);
+        other.avrdude().settings().mcuId = "t85";
+        QCOMPARE(other.boxAfter(other.findChild<AttributesView*>()->readButton()), read);
+        QCOMPARE(other.findChild<AttributesView*>()->calibrationByte()->text(), QString("A9"));
     }
 
     void failures_data()

@@ -38,6 +38,8 @@ private slots:
                 QCOMPARE(text(untranslated), QString(untranslated));
         }
 
+        QCOMPARE(translator.translate("", "Unknown"), QString("Unknown")); // no other translator is asked
+
         const LogCapture log;
         QVERIFY(!translator.loadLanguage("Broken") && translator.isEmpty());
         QVERIFY(log.lines().constLast().startsWith("JsonToQtTranslator: JSON parse error: "));

@@ -6,7 +6,6 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QGroupBox>
 #include <QtTest>
 
 namespace {
@@ -123,7 +122,8 @@ private slots:
         QCOMPARE(panel.boxes.take(),
                  QStringList({"JSON FILE NOT FOUND: JSON FILE NOT FOUND", "JSON FILE ERROR: JSON FILE ERROR",
                               "Cannot open file: Cannot open file"}));
-        QCOMPARE(panel.settings.programmer.name, QString("USBasp"));
+        QCOMPARE(panel.settings.programmer.name + panel.settings.programmer.id + panel.settings.port,
+                 QString("USBaspusbaspusb"));
         QCOMPARE(panel.portTexts(), QStringList {"usb"});
     }
 
@@ -139,6 +139,8 @@ private slots:
             panel.settings.port = stored;
             panel.presenter->refreshFromSettings();
             QCOMPARE(panel.settings.port, QString(port));
+            QCOMPARE(panel.view.port()->currentText(), port[8] == 'A' ? "ttyACM0" : "ttyUSB0 (FT232R)");
+            QVERIFY(panel.view.port()->isEnabled());
         }
         panel.view.port()->setCurrentText("ttyACM0");
         QCOMPARE(panel.settings.port, QString("/dev/ttyACM0"));
@@ -153,11 +155,11 @@ private slots:
         panel.presenter = std::make_unique<SettingsPresenter>(panel.avrdude, panel.model, panel.view);
         panel.settings.language = panel.view.language()->itemText(1);
         panel.settings.programmer.name = panel.view.programmer()->currentText();
-        panel.settings.port = "kept"; // nothing is loaded for the programmer that is shown already
+        panel.settings.programmer.id = "kept"; // nothing is loaded for the programmer that is shown already
         panel.presenter->refreshFromSettings();
         QCOMPARE(panel.view.language()->currentIndex(), 1);
         QCOMPARE(panel.view.speed()->currentText(), QString("1.5 MHz (-B 0.5)")); // no entry for "-B 4"
-        QCOMPARE(panel.settings.speed + panel.settings.port, QString("-B 4kept"));
+        QCOMPARE(panel.settings.speed + panel.settings.programmer.id, QString("-B 4kept"));
         panel.settings.speed = "8 kHz (-B 64)";
         panel.presenter->refreshFromSettings();
         QCOMPARE(panel.view.speed()->currentText(), panel.settings.speed);
@@ -186,7 +188,7 @@ private slots:
                                     << "Neu starten."
                                     << "";
         QTest::newRow("without the notice") << QByteArray("{}") << english << "";
-        QTest::newRow("broken") << QByteArray("[]") << english << "Language file parse error12: .*";
+        QTest::newRow("broken") << QByteArray("{") << english << "Language file parse error12: unterminated object";
         QTest::newRow("missing") << QByteArray() << english
                                  << "Language file not found: .*/Languages/New.json\nSearched in directory: .*package";
     }

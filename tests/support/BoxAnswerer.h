@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <utility>
+
 /// Stands in for the person at the screen: writes down every message box that opens and presses a button of it, from
 /// within the box's own event loop. Make one before what opens the boxes.
 class BoxAnswerer : public QObject
