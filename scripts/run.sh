@@ -47,6 +47,11 @@ if [ -n "$demo" ]; then
     mkdir -p demo
     cp -a bin/korvel bin/korvel-virtual-programmer bin/mcu bin/programmer bin/Languages bin/profiles demo/
     cp -a ../../data/demo/. demo/
+    # The starter settings, with the virtual programmer and the sample firmware.
+    sed -e 's/"USBasp"/"Virtual programmer"/' -e 's/"usbasp"/"stk500v1"/' \
+        -e 's/"arguments": ""/"arguments": "-P net:127.0.0.1:7016"/' \
+        -e 's/"flashWrite": ""/"flashWrite": "blink.hex"/' -e 's/"flashRead": ""/"flashRead": "read.hex"/' \
+        ../../data/save.json >demo/save.json
     cd demo
     ./korvel-virtual-programmer --state chip.json >programmer.log 2>&1 &
     started+=($!)
@@ -56,6 +61,7 @@ if [ -n "$demo" ]; then
     fi
     echo "The virtual programmer is running; its chip is kept in $PWD/chip.json"
 else
+    [ -e bin/save.json ] || cp ../../data/save.json bin/
     cd bin
 fi
 
