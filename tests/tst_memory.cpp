@@ -87,8 +87,10 @@ private slots:
     {
         Panels panels;
         SettingsRecord& settings = panels.avrdude.settings();
-        settings.flashWrite = settings.eepromWrite = "w.hex";
-        settings.flashRead = settings.eepromRead = "r.bin";
+        settings.flashWrite = "flash.hex";
+        settings.flashRead = "flash.bin";
+        settings.eepromWrite = "eeprom.hex";
+        settings.eepromRead = "eeprom.bin";
         panels.flash.refresh();
         panels.eeprom.refresh();
         const auto click = [&](QPushButton* button, const QString& output) {
@@ -106,12 +108,16 @@ private slots:
                      title + ": " + title + " written successfully.\n" + verified);
             QCOMPARE(click(view->writeVerifyButton(), verifying), title + ": " + verified);
             QCOMPARE(click(view->readButton(), verifying), title + ": " + title + " read successfully.");
+            QCOMPARE(click(view->readVerifyButton(), verifying), title + ": " + verified);
             QCOMPARE(click(view->readVerifyButton(), "verification error"), QString("AVRDUDE: Verification error."));
             QStringList requests;
-            for (const QStringList& run : panels.folder.runs().mid(name == "flash" ? 0 : 5))
-                requests += run.mid(7).join(' ').remove("-U " + name);
-            QCOMPARE(requests, QStringList({":w:w.hex:i", ":w:w.hex:i", ":v:w.hex:i", ":r:r.bin:r", ":v:r.bin:r"}));
+            for (const QStringList& run : panels.folder.runs().mid(name == "flash" ? 0 : 6))
+                requests += run.mid(7).join('|').remove(name);
+            QCOMPARE(requests,
+                     QStringList({"-U|:w:.hex:i", "-U|:w:.hex:i", "-U|:v:.hex:i", "-U|:r:.bin:r", "-U|:v:.bin:r",
+                                  "-U|:v:.bin:r"}));
         }
+        QVERIFY(settings.flashEnable && settings.eepromEnable && !settings.fusesEnable);
         // A command that came with the record is what Write runs, whatever the path says.
         settings.cmdFlashWrite = QStringList {"-Dx"};
         click(panels.flashView.writeButton(), "");
@@ -141,6 +147,10 @@ private slots:
                                                       << "work"
                                                       << "app/fw/a.hex"
                                                       << "fw/a.hex";
+        QTest::newRow("missing file") << "fw/none.hex"
+                                      << "app/fw"
+                                      << "work/b.hex"
+                                      << "work/b.hex";
         QTest::newRow("cancelled") << "fw/a.hex"
                                    << "app/fw"
                                    << ""
@@ -166,7 +176,7 @@ private slots:
             QString seen;
             QTimer::singleShot(0, this, [&] {
                 auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-                QVERIFY(dialog);
+                QVERIFY(dialog && dialog->nameFilters().size() == 7);
                 seen = dialog->windowTitle() + ' ' + dialog->directory().path();
                 dialog->selectFile(real(chosen));
                 QMetaObject::invokeMethod(dialog, chosen.isEmpty() ? "reject" : "accept", Qt::QueuedConnection);
@@ -176,6 +186,7 @@ private slots:
             QCOMPARE(seen,
                      (writes ? "SELECT FLASH FILE FOR WRITING " : "SELECT EEPROM FILE FOR READING ") + real(folder));
             QCOMPARE(field->text(), real(stored));
+            QVERIFY(static_cast<QPushButton*>(buttons.at(writes ? 1 : 4))->isEnabled());
         }
         QDir(QCoreApplication::applicationDirPath() + "/fw").removeRecursively();
     }

@@ -12,12 +12,25 @@ class Eeprom : public Memory
 public:
     Eeprom(EepromView& view, Avrdude& avrdude);
 
-    void writeEeprom();
-    void writeEepromVerify();
-    void readEeprom();
-    void readEepromVerify();
-    void writeEepromMessage();
-    void writeEepromVerifyMessage();
-    void readEepromMessage();
-    void readEepromVerifyMessage();
+public slots:
+    void writeEeprom()
+    {
+        startWrite([this] { writeEepromMessage(); });
+    }
+    void writeEepromVerify()
+    {
+        startVerify(fileToWrite(), [this] { writeEepromVerifyMessage(); });
+    }
+    void readEeprom()
+    {
+        startRead([this] { readEepromMessage(); });
+    }
+    void readEepromVerify()
+    {
+        startVerify(fileToRead(), [this] { readEepromVerifyMessage(); });
+    }
+    void writeEepromMessage() { showWritten(); }
+    void writeEepromVerifyMessage() { showVerified(); }
+    void readEepromMessage() { showRead(); }
+    void readEepromVerifyMessage() { showVerified(); }
 };

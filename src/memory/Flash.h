@@ -12,12 +12,25 @@ class Flash : public Memory
 public:
     Flash(FlashView& view, Avrdude& avrdude);
 
-    void writeFlash();
-    void writeFlashVerify();
-    void readFlash();
-    void readFlashVerify();
-    void writeFlashMessage();
-    void writeFlashVerifyMessage();
-    void readFlashMessage();
-    void readFlashVerifyMessage();
+public slots:
+    void writeFlash()
+    {
+        startWrite([this] { writeFlashMessage(); });
+    }
+    void writeFlashVerify()
+    {
+        startVerify(fileToWrite(), [this] { writeFlashVerifyMessage(); });
+    }
+    void readFlash()
+    {
+        startRead([this] { readFlashMessage(); });
+    }
+    void readFlashVerify()
+    {
+        startVerify(fileToRead(), [this] { readFlashVerifyMessage(); });
+    }
+    void writeFlashMessage() { showWritten(); }
+    void writeFlashVerifyMessage() { showVerified(); }
+    void readFlashMessage() { showRead(); }
+    void readFlashVerifyMessage() { showVerified(); }
 };

@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <utility>
+
 Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind)
     : m_view(view)
     , m_avrdude(avrdude)
@@ -19,20 +21,22 @@ Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind)
 
 void Memory::setFilePathWrite(const QString& path)
 {
+    const bool hasPath = !path.isEmpty();
     SettingsRecord& settings = m_avrdude.settings();
     settings.*m_kind.writeFile = path;
-    if (!path.isEmpty())
+    if (hasPath)
         settings.*m_kind.writeCommand = request("w", path);
-    settings.*m_kind.enable = !path.isEmpty();
-    m_view.writeButton()->setEnabled(!path.isEmpty());
-    m_view.writeVerifyButton()->setEnabled(!path.isEmpty());
+    m_view.writeButton()->setEnabled(hasPath);
+    m_view.writeVerifyButton()->setEnabled(hasPath);
+    settings.*m_kind.enable = hasPath;
 }
 
 void Memory::setFilePathRead(const QString& path)
 {
+    const bool hasPath = !path.isEmpty();
     m_avrdude.settings().*m_kind.readFile = path;
-    m_view.readButton()->setEnabled(!path.isEmpty());
-    m_view.readVerifyButton()->setEnabled(!path.isEmpty());
+    m_view.readButton()->setEnabled(hasPath);
+    m_view.readVerifyButton()->setEnabled(hasPath);
 }
 
 QString Memory::setFormatFile(const QString& suffix) const
@@ -43,7 +47,7 @@ QString Memory::setFormatFile(const QString& suffix) const
         {QStringLiteral("bin"), QStringLiteral("r")},  {QStringLiteral("s19"), QStringLiteral("m")},
         {QStringLiteral("srec"), QStringLiteral("m")}, {QStringLiteral("elf"), QStringLiteral("e")},
     };
-    // No code of avrdude's, but passed on for the flash all the same: setups with an avrdude of their own use it.
+    // Deliberate: no code of avrdude's own, but passed on unchanged, for the flash only.
     if (m_kind.passesA90 && suffix == QLatin1String("a90"))
         return suffix;
     return formats.value(suffix, QStringLiteral("a"));
@@ -51,9 +55,8 @@ QString Memory::setFormatFile(const QString& suffix) const
 
 void Memory::refresh()
 {
-    const SettingsRecord& settings = m_avrdude.settings();
-    m_view.writePath()->setText(settings.*m_kind.writeFile);
-    m_view.readPath()->setText(settings.*m_kind.readFile);
+    m_view.writePath()->setText(fileToWrite());
+    m_view.readPath()->setText(fileToRead());
 }
 
 void Memory::startWrite(Avrdude::Callback whenDone)
@@ -61,19 +64,14 @@ void Memory::startWrite(Avrdude::Callback whenDone)
     m_avrdude.execute(m_avrdude.settings().*m_kind.writeCommand, std::move(whenDone));
 }
 
-void Memory::startWriteVerify(Avrdude::Callback whenDone)
+void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 {
-    m_avrdude.execute(request("v", m_avrdude.settings().*m_kind.writeFile), std::move(whenDone));
+    m_avrdude.execute(request("v", file), std::move(whenDone));
 }
 
 void Memory::startRead(Avrdude::Callback whenDone)
 {
-    m_avrdude.execute(request("r", m_avrdude.settings().*m_kind.readFile), std::move(whenDone));
-}
-
-void Memory::startReadVerify(Avrdude::Callback whenDone)
-{
-    m_avrdude.execute(request("v", m_avrdude.settings().*m_kind.readFile), std::move(whenDone));
+    m_avrdude.execute(request("r", fileToRead()), std::move(whenDone));
 }
 
 void Memory::showWritten()

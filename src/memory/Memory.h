@@ -29,6 +29,10 @@ public:
         bool passesA90; ///< the suffix "a90" goes to avrdude as its own format code
     };
 
+    /// Shows the settings record's two paths again.
+    void refresh();
+
+public slots:
     /// Stores the file to write and prepares the command that writes it; the write row's buttons follow. An empty
     /// @p path disables them and keeps the last command.
     void setFilePathWrite(const QString& path);
@@ -39,16 +43,15 @@ public:
     /// avrdude's format code for a lower-case file @p suffix; "a" (detect) for an unknown one.
     [[nodiscard]] QString setFormatFile(const QString& suffix) const;
 
-    /// Shows the settings record's two paths again.
-    void refresh();
-
 protected:
     Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind);
 
+    [[nodiscard]] QString fileToWrite() const { return m_avrdude.settings().*m_kind.writeFile; }
+    [[nodiscard]] QString fileToRead() const { return m_avrdude.settings().*m_kind.readFile; }
+
     void startWrite(Avrdude::Callback whenDone);
-    void startWriteVerify(Avrdude::Callback whenDone);
+    void startVerify(const QString& file, Avrdude::Callback whenDone);
     void startRead(Avrdude::Callback whenDone);
-    void startReadVerify(Avrdude::Callback whenDone);
 
     void showWritten();
     void showVerified();

@@ -29,6 +29,7 @@ QString startFolder(const QString& path)
 }
 
 /// A file below the application's folder is kept relative to it, so that the folder can be moved with its files.
+/// avrdude looks for it from the working directory, which is that folder when Korvel is started there.
 QString storedPath(const QString& chosen)
 {
     const QString relative = applicationFolder().relativeFilePath(chosen);
