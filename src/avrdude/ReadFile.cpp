@@ -5,7 +5,12 @@
 ReadFile::ReadFile(QObject* parent)
     : QObject(parent)
 {
-    connect(this, &ReadFile::emitFinishedReadFile, this, [this] { m_callback(m_results); });
+    // With copies of both: the callback may open a box, and start the next reading.
+    connect(this, &ReadFile::emitFinishedReadFile, this, [this] {
+        const Callback callback = m_callback;
+        const QStringList results = m_results;
+        callback(results);
+    });
 }
 
 void ReadFile::readFiles(const QStringList& files, Callback callback)

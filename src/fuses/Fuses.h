@@ -21,10 +21,9 @@ public:
     /// Makes the editors anew from the settings record. Due whenever its list of fuse bytes was replaced.
     void rebuild();
 
+private:
     /// Shows the record's values in the editors that are there.
     void refresh();
-
-private:
     void onClickDefault();
 
     Avrdude& m_avrdude;

@@ -16,17 +16,18 @@ class FusesButtons : public QObject
 public:
     FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* parent = nullptr);
 
+public slots:
     void onClickWriteBt();
     void onClickVerifyBt();
     void onClickReadBt();
+    void onClickWriteMessage();
+    void onClickVerifyMessage();
 
 signals:
     /// The values read stand in the settings record; the bits do not follow them yet.
     void setReadingFusesEmit();
 
 private:
-    void onClickWriteMessage();
-    void onClickVerifyMessage();
     void readFuseBytesMcu();
 
     Avrdude& m_avrdude;

@@ -3,6 +3,7 @@
 #include "app/FuseByte.h"
 
 #include <QObject>
+#include <QStringList>
 
 class Avrdude;
 

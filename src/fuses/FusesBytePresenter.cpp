@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -61,10 +62,11 @@ void FusesBytePresenter::setByte(quint32 value)
 
 void FusesBytePresenter::showBits()
 {
-    const FuseByte byte = m_model.byte(); // a copy: checking a box writes to the record
+    const FuseByte& byte = m_model.byte();
     for (int i = 0; i < m_view.fusesBit().size(); ++i) {
         const FuseBit& bit = byte.fuseBits[static_cast<std::size_t>(i)];
         QCheckBox* checkBox = m_view.fusesBit().at(i);
+        const QSignalBlocker blocker(checkBox);
         checkBox->setEnabled(bit.enabled);
         checkBox->setText(bit.name);
         checkBox->setChecked(bit.currentBitValue == 0);
@@ -90,7 +92,7 @@ bool FusesBytePresenter::eventFilter(QObject* object, QEvent* event)
 {
     if (object != m_view.value() || event->type() != QEvent::KeyPress)
         return QObject::eventFilter(object, event);
-    // Modifiers are not asked: with Ctrl a digit is typed too, and nothing is ever pasted into a fuse byte.
+    // Modifiers are not asked: with Ctrl a digit is typed too, and no key pastes into a fuse byte.
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (isEditingKey(key))
         return QObject::eventFilter(object, event);

@@ -6,7 +6,6 @@
 class FusesByteModel;
 class FusesByteView;
 class QCheckBox;
-class QKeyEvent;
 
 /// Keeps the check boxes, the hexadecimal field and the record of one fuse byte in step. Lives as long as the byte's
 /// editor, which owns view and model too.

@@ -24,6 +24,9 @@ FusesByteView::FusesByteView(QWidget* parent)
     m_value->setFixedWidth(width);
     m_value->setInputMask(QStringLiteral(">HH"));
     m_value->setAlignment(Qt::AlignCenter);
+    // What came in by menu or mouse would stand in the field and not in the byte.
+    m_value->setContextMenuPolicy(Qt::NoContextMenu);
+    m_value->setAcceptDrops(false);
 
     // Flat, so that the three bytes that most parts have fit into the window without scrolling.
     auto* rows = new QVBoxLayout(m_box);

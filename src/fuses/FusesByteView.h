@@ -22,7 +22,7 @@ public:
     [[nodiscard]] QLineEdit* value() const { return m_value; }
 
 signals:
-    /// A check box of @p fusesBit changed, by hand or by code.
+    /// The user changed a check box of @p fusesBit.
     void bitChanged(QVector<QCheckBox*> fusesBit, QCheckBox* checkBox);
 
     /// The value shown changed.

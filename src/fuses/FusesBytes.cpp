@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <memory>
+
 FusesBytes::FusesBytes(Avrdude& avrdude, FusesBytesView& view, QObject* parent)
     : QObject(parent)
     , m_avrdude(avrdude)
@@ -32,8 +34,13 @@ void FusesBytes::rebuild()
 
 void FusesBytes::refresh()
 {
+    const FuseBytes& bytes = m_avrdude.settings().fusesBytes;
+    if (bytes.size() != m_editors.size()) { // the list was replaced while a reading was under way
+        rebuild();
+        return;
+    }
     for (int i = 0; i < m_editors.size(); ++i)
-        m_editors.at(i)->setByte(m_avrdude.settings().fusesBytes.at(i).currentValue);
+        m_editors.at(i)->setByte(bytes.at(i).currentValue);
 }
 
 QWidget* FusesBytes::makeEditor(int index)

@@ -16,8 +16,7 @@ FusesTextView::FusesTextView(QWidget* parent)
 
     auto* row = new QHBoxLayout;
     row->addStretch();
-    for (QWidget* widget :
-         {static_cast<QWidget*>(label), static_cast<QWidget*>(programmed), static_cast<QWidget*>(unprogrammed)}) {
+    for (QWidget* widget : std::initializer_list<QWidget*> {label, programmed, unprogrammed}) {
         widget->setEnabled(false);
         row->addWidget(widget);
     }
