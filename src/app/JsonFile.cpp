@@ -23,7 +23,7 @@ JsonFile JsonFile::read(const QString& path)
 
 QFileInfoList jsonFiles(const QString& folder)
 {
-    return QDir(folder).entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Unsorted);
+    return QDir(folder).entryInfoList({QStringLiteral("*.json")}, QDir::Files | QDir::CaseSensitive, QDir::Unsorted);
 }
 
 QStringList jsonBaseNames(const QString& folder)

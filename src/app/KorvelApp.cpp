@@ -5,6 +5,7 @@
 #include "avrdude/Avrdude.h"
 #include "fuses/Fuses.h"
 #include "mcu/Program.h"
+#include "profiles/Profiles.h"
 #include "settings/Settings.h"
 
 #include <QApplication>
@@ -16,11 +17,9 @@
 
 namespace {
 
-const auto settingsFile = QLatin1String(ProductInfo::settingsFile);
-
 void warnAboutSettings(const QString& text)
 {
-    QMessageBox::warning(QApplication::activeWindow(), QLatin1String(ProductInfo::name), text + settingsFile);
+    QMessageBox::warning(QApplication::activeWindow(), ProductInfo::name, text + ProductInfo::settingsFile);
 }
 
 } // namespace
@@ -33,10 +32,12 @@ KorvelApp::KorvelApp(QWidget* parent)
     , m_tabs(new QTabWidget(this))
     , m_fuses(new Fuses(*m_avrdude, this))
     , m_program(new Program(*m_avrdude, *m_fuses, this))
+    , m_profiles(new Profiles(*m_avrdude, this))
     , m_settings(new Settings(*m_avrdude, this))
 {
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
     m_tabs->addTab(m_fuses, QStringLiteral("Fuses"));
+    m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
 
     auto* layout = new QVBoxLayout(m_central);
     layout->addWidget(m_tabs);
@@ -44,21 +45,24 @@ KorvelApp::KorvelApp(QWidget* parent)
     layout->addWidget(m_log);
     setCentralWidget(m_central);
 
+    connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
+    connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
+
     if (loadSettings())
         refreshPanels();
 }
 
 void KorvelApp::saveSettings()
 {
-    if (!m_avrdude->settings().saveToFile(settingsFile))
+    if (!m_avrdude->settings().saveToFile(ProductInfo::settingsFile))
         warnAboutSettings(tr("Failed to save settings to file: "));
 }
 
 bool KorvelApp::loadSettings()
 {
-    if (!QFile::exists(settingsFile))
+    if (!QFile::exists(ProductInfo::settingsFile))
         return false;
-    if (m_avrdude->settings().loadFromFile(settingsFile))
+    if (m_avrdude->settings().loadFromFile(ProductInfo::settingsFile))
         return true;
     warnAboutSettings(tr("Failed to load settings from file: "));
     return false;
@@ -69,6 +73,13 @@ void KorvelApp::refreshPanels()
     m_program->refresh();
     m_settings->updateView();
     m_fuses->rebuild(); // the list of fuse bytes is a new one
+    m_profiles->refresh();
+}
+
+void KorvelApp::onTabChanged(int index)
+{
+    if (m_tabs->widget(index) == m_profiles)
+        m_profiles->updateAreas();
 }
 
 void KorvelApp::closeEvent(QCloseEvent* event)

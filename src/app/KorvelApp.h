@@ -5,6 +5,7 @@
 class Avrdude;
 class AvrdudeMessage;
 class Fuses;
+class Profiles;
 class Program;
 class QTabWidget;
 class Settings;
@@ -29,6 +30,9 @@ public slots:
     /// Lets every panel show the settings record again.
     void refreshPanels();
 
+    /// Brings the Profiles tab up to date with what there is to write, when it is the one at @p index.
+    void onTabChanged(int index);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -39,5 +43,6 @@ private:
     QTabWidget* m_tabs;
     Fuses* m_fuses;
     Program* m_program;
+    Profiles* m_profiles;
     Settings* m_settings;
 };

@@ -1,16 +1,18 @@
 #pragma once
 
+#include <QLatin1String>
+
 /// What this program calls itself and where it keeps its settings.
 namespace ProductInfo {
 
-inline constexpr char name[] = "Korvel";
+inline constexpr QLatin1String name("Korvel");
 
 /// The released version, set once in the build files.
-inline constexpr char version[] = KORVEL_VERSION;
+inline constexpr QLatin1String version(KORVEL_VERSION);
 
 /// Relative on purpose: the settings belong to the working directory the program is started in.
-inline constexpr char settingsFile[] = "save.json";
+inline constexpr QLatin1String settingsFile("save.json");
 
-inline constexpr char defaultLanguage[] = "English";
+inline constexpr QLatin1String defaultLanguage("English");
 
 } // namespace ProductInfo

@@ -20,8 +20,8 @@ QJsonObject toJson(const FuseBit& bit)
         {QStringLiteral("bitNumber"), bit.bitNumber},
         {QStringLiteral("enabled"), bit.enabled},
         {QStringLiteral("name"), bit.name},
-        {QStringLiteral("defaultBitValue"), qint64(bit.defaultBitValue)},
-        {QStringLiteral("currentBitValue"), qint64(bit.currentBitValue)},
+        {QStringLiteral("defaultBitValue"), static_cast<int>(bit.defaultBitValue)},
+        {QStringLiteral("currentBitValue"), static_cast<int>(bit.currentBitValue)},
     };
 }
 
@@ -33,8 +33,8 @@ QJsonObject toJson(const FuseByte& byte)
     return {
         {QStringLiteral("name"), byte.name},
         {QStringLiteral("id"), byte.id},
-        {QStringLiteral("defaultValue"), qint64(byte.defaultValue)},
-        {QStringLiteral("currentValue"), qint64(byte.currentValue)},
+        {QStringLiteral("defaultValue"), static_cast<int>(byte.defaultValue)},
+        {QStringLiteral("currentValue"), static_cast<int>(byte.currentValue)},
         {QStringLiteral("fuseBits"), bits},
     };
 }
@@ -62,7 +62,7 @@ public:
     [[nodiscard]] quint32 byteValue(const char* key) const { return static_cast<quint32>(number(key)); }
     [[nodiscard]] QJsonArray array(const char* key) const { return value(key).toArray(); }
 
-    [[nodiscard]] QString text(const char* key, const QString& fallback = QLatin1String("")) const
+    [[nodiscard]] QString text(const char* key, const QString& fallback = {}) const
     {
         return value(key).toString(fallback);
     }
@@ -132,9 +132,9 @@ bool SettingsRecord::saveToFile(const QString& path) const
         {QStringLiteral("eepromEnable"), eepromEnable},
         {QStringLiteral("fusesEnable"), fusesEnable},
         {QStringLiteral("name"), profile.name},
-        {QStringLiteral("description"), profile.description},
-        // Written under this key, read from "profilesList": a file of our own brings no extra names back, only one
-        // that somebody prepared by hand does. Deliberate; prepared files in the field rely on it.
+        {QStringLiteral("description"), description},
+        // Deliberate: written under this key and read from "profilesList", so that only a file that somebody prepared
+        // by hand brings extra names, and saving does not make them stay.
         {QStringLiteral("configurationList"), toJson(configurationList)},
         {QStringLiteral("currentlyProfilesList"), currentlyProfilesList},
     };
@@ -201,7 +201,7 @@ bool SettingsRecord::loadFromFile(const QString& path)
     eepromEnable = profiles.flag("eepromEnable");
     fusesEnable = profiles.flag("fusesEnable");
     profile.name = profiles.text("name");
-    profile.description = profiles.text("description");
+    description = profiles.text("description");
     configurationList = profiles.list("profilesList");
     currentlyProfilesList = profiles.text("currentlyProfilesList");
     return true;

@@ -16,7 +16,6 @@ struct SettingsRecord {
 
     struct Profile {
         QString name;
-        QString description;
     };
 
     QString avrdude = QStringLiteral("avrdude"); ///< program to start: a name looked up by the system, or a path
@@ -24,7 +23,7 @@ struct SettingsRecord {
     QString mcuId = QStringLiteral("m16"); ///< avrdude's "-p"
     QString signature;
     QString callByte; ///< calibration byte as text
-    QString language = QLatin1String(ProductInfo::defaultLanguage);
+    QString language = ProductInfo::defaultLanguage;
     QString flashWrite; ///< file paths are relative to the application's folder when they lie below it
     QString flashRead;
     QString eepromWrite;
@@ -45,6 +44,7 @@ struct SettingsRecord {
     bool eepromEnable = false;
     bool fusesEnable = false;
     Profile profile;
+    QString description; ///< of the profile
     QStringList configurationList; ///< further profile names to offer
     QString currentlyProfilesList; ///< the profile chosen last
 

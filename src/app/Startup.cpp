@@ -12,8 +12,8 @@
 
 QString Startup::language()
 {
-    QString fallback = QLatin1String(ProductInfo::defaultLanguage);
-    const JsonFile file = JsonFile::read(QLatin1String(ProductInfo::settingsFile));
+    QString fallback = ProductInfo::defaultLanguage;
+    const JsonFile file = JsonFile::read(ProductInfo::settingsFile);
     if (!file.wasRead()) {
         qDebug().noquote() << "Config file not found, using default language:" << fallback;
         return fallback;

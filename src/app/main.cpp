@@ -18,7 +18,7 @@ int main(int argc, char* argv[])
     QCoreApplication::installTranslator(translator);
 
     KorvelApp window;
-    window.setWindowTitle(QLatin1String(ProductInfo::name) + QLatin1Char(' ') + QLatin1String(ProductInfo::version));
+    window.setWindowTitle(QString(ProductInfo::name) + QLatin1Char(' ') + ProductInfo::version);
     // A large font may need more; the window would grow when shown, off its centre.
     window.resize(QSize(520, 655).expandedTo(window.minimumSizeHint()));
     window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));

@@ -61,7 +61,7 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
     const QStringList allArguments = commonArguments() + arguments;
     m_log->clear();
     m_process->start(program, allArguments);
-    m_log->appendPlainText(QLatin1String(ProductInfo::name) + QLatin1String(": ") + program + QLatin1Char(' ')
+    m_log->appendPlainText(ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ')
                            + allArguments.join(QLatin1Char(' ')) + QLatin1Char('\n'));
     if (!m_process->waitForStarted(startTimeout)) {
         // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart.
@@ -93,6 +93,12 @@ int Avrdude::addEditText()
 QString Avrdude::logText() const
 {
     return m_log->toPlainText();
+}
+
+void Avrdude::replaceLog(const QString& text)
+{
+    m_log->clear();
+    m_log->appendPlainText(text);
 }
 
 QStringList Avrdude::commonArguments() const

@@ -39,6 +39,9 @@ public:
     /// The log view's whole text: the echoed command line and the output of the current or last run.
     [[nodiscard]] QString logText() const;
 
+    /// Shows @p text in the log instead of what is there.
+    void replaceLog(const QString& text);
+
 public slots:
     /// Moves freshly printed output into the log, and ends the run when it shows that the programmer does not answer.
     /// Returns 0.

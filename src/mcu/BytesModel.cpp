@@ -61,7 +61,7 @@ int BytesModel::load(const QString& name)
     const JsonFile file = JsonFile::read(QDir(folder()).filePath(name + QLatin1String(".json")));
     switch (file.state) {
     case JsonFile::State::NotFound:
-        return report(QLatin1String(ProductInfo::name), tr("MCU JSON FILE NOT FOUND"));
+        return report(ProductInfo::name, tr("MCU JSON FILE NOT FOUND"));
     case JsonFile::State::CannotOpen:
         return report(QStringLiteral("Cannot open file"), tr("Cannot open file"));
     case JsonFile::State::ParseError:

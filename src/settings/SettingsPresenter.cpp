@@ -146,7 +146,7 @@ void SettingsPresenter::setLanguage(const QString& language)
         if (texts.contains(notice))
             notice = texts.value(notice).toString();
     }
-    QMessageBox::information(&m_view, QLatin1String(ProductInfo::name), notice);
+    QMessageBox::information(&m_view, ProductInfo::name, notice);
 }
 
 void SettingsPresenter::setComPorts(const QString&)

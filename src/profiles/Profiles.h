@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+class Avrdude;
+class ProfilesPresenter;
+class SelectView;
+
+/// The Profiles tab.
+class Profiles : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Profiles(Avrdude& avrdude, QWidget* parent);
+
+    /// Shows the settings record again.
+    void refresh();
+
+    /// Lets only those areas be ticked that the settings record says have something to write.
+    void updateAreas();
+
+signals:
+    /// A profile was loaded into the settings record: everything is to be shown again.
+    void emitUpdateUI();
+
+private:
+    void loadProfile(const QString& name);
+
+    Avrdude& m_avrdude;
+    SelectView* m_selectView;
+    ProfilesPresenter* m_presenter;
+};

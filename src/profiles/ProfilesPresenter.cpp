@@ -1,0 +1,196 @@
+#include "profiles/ProfilesPresenter.h"
+
+#include "app/JsonFile.h"
+#include "avrdude/Avrdude.h"
+#include "fuses/FuseRequests.h"
+#include "profiles/ConfigurationView.h"
+#include "profiles/ProgrammingView.h"
+#include "profiles/SelectView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace {
+
+int findProfile(const QComboBox& profiles, const QString& name)
+{
+    return profiles.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+}
+
+} // namespace
+
+ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
+                                     ProgrammingView& programmingView, QObject* parent)
+    : QObject(parent)
+    , m_avrdude(avrdude)
+    , m_selectView(selectView)
+    , m_configurationView(configurationView)
+    , m_programmingView(programmingView)
+{
+    connect(selectView.flash(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setFlashChBox);
+    connect(selectView.eeprom(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setEepromChBox);
+    connect(selectView.fuses(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setFusesChBox);
+    connect(configurationView.name(), &QLineEdit::textChanged, this,
+            [this](const QString& name) { m_avrdude.settings().profile.name = name; });
+    connect(configurationView.description(), &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_avrdude.settings().description = text; });
+    connect(configurationView.addButton(), &QPushButton::clicked, this, &ProfilesPresenter::saveProfile);
+    connect(configurationView.removeButton(), &QPushButton::clicked, this, &ProfilesPresenter::removeProfile);
+    connect(programmingView.writeButton(), &QPushButton::clicked, this, &ProfilesPresenter::startWriting);
+    loadProfileFiles();
+}
+
+QString ProfilesPresenter::profileFile(const QString& name)
+{
+    return QLatin1String("./profiles/") + name + QLatin1String(".json");
+}
+
+void ProfilesPresenter::loadProfileFiles()
+{
+    const QString folder = QStringLiteral("profiles");
+    if (!QDir(folder).exists())
+        return;
+    m_programmingView.profiles()->clear();
+    m_programmingView.profiles()->addItems(jsonBaseNames(folder));
+}
+
+void ProfilesPresenter::saveProfile()
+{
+    const QString name = m_configurationView.name()->text();
+    if (name.isEmpty())
+        return;
+    QComboBox& profiles = *m_programmingView.profiles();
+    const bool isListed = findProfile(profiles, name) >= 0;
+    if (isListed) {
+        const QString question = tr("Configuration named «%1» already exists.\nDo you want to overwrite it?").arg(name);
+        if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), question,
+                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+            != QMessageBox::Yes)
+            return;
+    }
+    // Deliberately not asked whether it worked: setups that keep the folder read-only rely on not being stopped here.
+    (void)m_avrdude.settings().saveToFile(profileFile(name));
+    if (!isListed)
+        profiles.addItem(name);
+    profiles.setCurrentText(name);
+    QMessageBox::information(&m_programmingView, QStringLiteral("Information"),
+                             QLatin1String("Profile \"") + name + QLatin1String(".json\" saved successfully."));
+}
+
+void ProfilesPresenter::removeProfile()
+{
+    QComboBox& profiles = *m_programmingView.profiles();
+    const QString name = profiles.currentText();
+    if (name.isEmpty())
+        return;
+    if (QMessageBox::question(&m_programmingView, tr("Delete"), tr("Delete this profile?")) != QMessageBox::Yes)
+        return;
+    QFile::remove(profileFile(name));
+    const int index = findProfile(profiles, name);
+    if (index >= 0) {
+        profiles.removeItem(index);
+        profiles.setPlaceholderText(tr("Select profile..."));
+    }
+    m_configurationView.name()->clear();
+    m_configurationView.description()->clear();
+}
+
+void ProfilesPresenter::refresh()
+{
+    const SettingsRecord& settings = m_avrdude.settings();
+    m_configurationView.name()->setText(settings.profile.name);
+    m_configurationView.description()->setText(settings.description);
+    {
+        QComboBox& profiles = *m_programmingView.profiles();
+        const QSignalBlocker blocker(profiles);
+        profiles.addItems(settings.configurationList);
+        profiles.setCurrentText(settings.currentlyProfilesList);
+    }
+    const auto show = [](QCheckBox* checkBox, bool checked, bool enabled) {
+        checkBox->setChecked(checked);
+        checkBox->setEnabled(enabled);
+    };
+    show(m_selectView.eeprom(), settings.eepromCheck, settings.eepromEnable);
+    show(m_selectView.flash(), settings.flashCheck, settings.flashEnable);
+    show(m_selectView.fuses(), settings.fusesCheck, settings.fusesEnable);
+}
+
+void ProfilesPresenter::setFlashChBox()
+{
+    m_avrdude.settings().flashCheck = m_selectView.flash()->isChecked();
+    updateWriteButton();
+}
+
+void ProfilesPresenter::setEepromChBox()
+{
+    m_avrdude.settings().eepromCheck = m_selectView.eeprom()->isChecked();
+    updateWriteButton();
+}
+
+void ProfilesPresenter::setFusesChBox()
+{
+    m_avrdude.settings().fusesCheck = m_selectView.fuses()->isChecked();
+    updateWriteButton();
+}
+
+void ProfilesPresenter::updateWriteButton()
+{
+    m_programmingView.writeButton()->setEnabled(m_selectView.flash()->isChecked() || m_selectView.eeprom()->isChecked()
+                                                || m_selectView.fuses()->isChecked());
+}
+
+void ProfilesPresenter::startWriting()
+{
+    m_steps.clear();
+    m_nextStep = 0;
+    m_summary.clear();
+    m_log.clear();
+    if (m_selectView.flash()->isChecked())
+        m_steps.append(&ProfilesPresenter::writeFlash);
+    if (m_selectView.eeprom()->isChecked())
+        m_steps.append(&ProfilesPresenter::writeEeprom);
+    if (m_selectView.fuses()->isChecked())
+        m_steps.append(&ProfilesPresenter::writeFuses);
+    nextStep();
+}
+
+void ProfilesPresenter::nextStep()
+{
+    m_log += m_avrdude.logText();
+    if (m_nextStep >= m_steps.size()) {
+        m_avrdude.replaceLog(m_log);
+        QMessageBox::information(&m_programmingView, QStringLiteral("Profiles"), m_summary);
+        return;
+    }
+    const Step step = m_steps.at(m_nextStep);
+    (this->*step)();
+    ++m_nextStep;
+}
+
+void ProfilesPresenter::runStep(const QStringList& arguments, const QString& summary)
+{
+    m_avrdude.execute(arguments, [this] { nextStep(); });
+    m_summary += summary;
+}
+
+void ProfilesPresenter::writeFlash()
+{
+    runStep(m_avrdude.settings().cmdFlashWrite, tr("Flash write successfully.\nFlash verify successfully.\n"));
+}
+
+void ProfilesPresenter::writeEeprom()
+{
+    runStep(m_avrdude.settings().cmdEepromWrite, tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
+}
+
+void ProfilesPresenter::writeFuses()
+{
+    runStep(FuseRequests::write(m_avrdude.settings().fusesBytes),
+            tr("Fuse bits write successfully.\nFuse bits verify successfully."));
+}
