@@ -45,12 +45,11 @@ cd build/release
 if [ -n "$demo" ]; then
     # A folder of the demo's own, so that it never touches the settings in bin.
     mkdir -p demo
-    cp -a bin/korvel bin/korvel-virtual-programmer bin/mcu bin/programmer bin/Languages bin/profiles demo/
-    cp -a ../../data/demo/. demo/
+    cp -a bin/{korvel,korvel-virtual-programmer,mcu,programmer,Languages,profiles,demo} demo/
     # The starter settings, with the virtual programmer and the sample firmware.
     sed -e 's/"USBasp"/"Virtual programmer"/' -e 's/"usbasp"/"stk500v1"/' \
         -e 's/"arguments": ""/"arguments": "-P net:127.0.0.1:7016"/' \
-        -e 's/"flashWrite": ""/"flashWrite": "blink.hex"/' -e 's/"flashRead": ""/"flashRead": "read.hex"/' \
+        -e 's/"flashWrite": ""/"flashWrite": "demo\/blink.hex"/' -e 's/"flashRead": ""/"flashRead": "read.hex"/' \
         ../../data/save.json >demo/save.json
     cd demo
     ./korvel-virtual-programmer --state chip.json >programmer.log 2>&1 &
