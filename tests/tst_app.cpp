@@ -27,13 +27,13 @@ const QByteArray full = R"json({
     "fusesBytes": [{
         "name": "Low Fuse", "id": "lfuse", "defaultValue": 98, "currentValue": 226,
         "fuseBits": [
-            { "bitNumber": 0, "enabled": true, "name": "CKSEL0", "defaultBitValue": 0, "currentBitValue": 1 }
+            { "bitNumber": 5, "enabled": true, "name": "CKSEL0", "defaultBitValue": 1, "currentBitValue": 1 }
         ]
     }],
     "profiles": {
-        "flashCheck": true, "eepromCheck": true, "fusesCheck": true,
-        "flashEnable": true, "eepromEnable": true, "fusesEnable": true,
-        "name": "Board", "description": "Rev. B", "profilesList": ["one", "two"], "currentlyProfilesList": "Board"
+        "flashCheck": false, "eepromCheck": false, "fusesCheck": false,
+        "flashEnable": false, "eepromEnable": false, "fusesEnable": false,
+        "name": "Name", "description": "Rev. B", "profilesList": ["one", "two"], "currentlyProfilesList": "Board"
     }
 })json";
 
@@ -79,70 +79,76 @@ private slots:
         QVERIFY(!record.saveToFile("no-such-folder/save.json"));
     }
 
+    void settingsFlags()
+    {
+        const WorkFolder folder;
+        for (const QByteArray flag :
+             {"flashCheck", "eepromCheck", "fusesCheck", "flashEnable", "eepromEnable", "fusesEnable"}) {
+            folder.write(file, QByteArray(full).replace(flag + "\": false", flag + "\": true"));
+            SettingsRecord record;
+            QVERIFY(record.loadFromFile(file) && record.saveToFile(file));
+            QCOMPARE(folder.read(file).count("true"), 2); // this one, and the fuse bit's
+            QVERIFY2(folder.read(file).contains(flag + "\": true"), flag);
+        }
+    }
+
     void settingsFallbacks()
     {
         const WorkFolder folder;
         folder.write("empty.json", "{}");
         folder.write("wrong.json", R"({
-            "avrdude": 1, "mcuName": 2, "mcuId": [], "language": null, "files": [], "programmer": "x",
+            "avrdude": 1, "mcuName": 2, "mcuId": [], "language": null, "files": {"cmdFlashWrite": "x"}, "programmer": "x",
             "fileNamesReading": [1, true, "x", 2.5], "fusesBytes": {"a": 1}, "profiles": {"flashCheck": 1, "name": {}}
         })");
         folder.write("full.json", full);
         for (const QString name : {"empty.json", "wrong.json"}) {
             SettingsRecord r;
-            QVERIFY(r.loadFromFile("full.json") && r.loadFromFile(name));
-            const QStringList texts {r.avrdude,       r.mcuName, r.mcuId, r.language,    r.programmer.name,
-                                     r.programmer.id, r.port,    r.speed, r.profile.name};
-            QCOMPARE(texts, QStringList({"avrdude", "", "m16", "", "USBasp", "usbasp", "usb", "-B 4", ""}));
+            QVERIFY(!r.flashCheck && r.loadFromFile("full.json") && r.loadFromFile(name));
+            const QStringList texts {r.avrdude, r.mcuId, r.programmer.name, r.programmer.id, r.port, r.speed};
+            QCOMPARE(texts, QStringList({"avrdude", "m16", "USBasp", "usbasp", "usb", "-B 4"}));
+            const QStringList emptied {r.mcuName,      r.signature, r.callByte,    r.language,
+                                       r.flashWrite,   r.flashRead, r.eepromWrite, r.eepromRead,
+                                       r.profile.name, r.arguments, r.description, r.currentlyProfilesList};
+            QCOMPARE(emptied.join(""), QString());
             QVERIFY(r.fusesBytes.isEmpty() && r.cmdFlashWrite.isEmpty() && r.configurationList.isEmpty());
-            QVERIFY(!r.flashCheck && !r.fusesEnable);
             QCOMPARE(r.fileNamesReading, name[0] == 'e' ? QStringList() : QStringList({"1", "true", "x", "2.5"}));
         }
-
-        folder.write("bits.json", R"({"fusesBytes": [7, {"fuseBits": [{}, {}, {}, {}, {}, {}, {},
-                                                        {"name": "last", "bitNumber": 7}, {"name": "ninth"}]}]})");
+        folder.write("bits.json", R"({"fusesBytes": [7, {"fuseBits": [{}, {"name": 5}, {}, {}, {}, {}, {},
+                                                        {"name": "last"}, {"name": "ninth"}]}]})");
         SettingsRecord record;
-        QVERIFY(record.loadFromFile("bits.json"));
-        QCOMPARE(record.fusesBytes.size(), 2);
-        QCOMPARE(record.fusesBytes[0].fuseBits[3].name, QString("NOT USED"));
+        QVERIFY(record.loadFromFile("bits.json") && record.fusesBytes.size() == 2);
+        for (const FuseBit& bit : {record.fusesBytes[0].fuseBits[3], record.fusesBytes[1].fuseBits[1]})
+            QCOMPARE(bit.name, QString("NOT USED"));
         QCOMPARE(record.fusesBytes[1].fuseBits[7].name, QString("last"));
-    }
-
-    void unusableSettings_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("line");
-        QTest::newRow("array") << QByteArray("[{\"avrdude\": \"x\"}]") << "Config parse error: ";
-        QTest::newRow("cut off") << full.left(full.size() - 2) << "Config parse error: ";
-        QTest::newRow("empty") << QByteArray("") << "Config parse error: ";
-        QTest::newRow("missing") << QByteArray() << "Config file not found, using default language: English";
     }
 
     void unusableSettings()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, line);
-        const WorkFolder folder;
-        folder.write("full.json", full);
-        if (!content.isNull())
+        for (const QByteArray& content : {QByteArray("[{\"avrdude\": \"x\"}]"), full.chopped(2), QByteArray("")}) {
+            const WorkFolder folder;
+            folder.write("full.json", full);
             folder.write(file, content);
-        SettingsRecord record;
-        QVERIFY(record.loadFromFile("full.json") && !record.loadFromFile(file));
-        QVERIFY(record.mcuName == "ATtiny85" && record.fusesBytes.size() == 1);
+            SettingsRecord record;
+            QVERIFY(record.loadFromFile("full.json") && !record.loadFromFile(file) && !record.loadFromFile("missing"));
+            QVERIFY(record.mcuName == "ATtiny85" && record.fusesBytes.size() == 1);
 
-        const LogCapture log;
-        QCOMPARE(Startup::language(), QString("English"));
-        QVERIFY2(log.lines().size() == 1 && log.lines()[0].startsWith(line), qPrintable(log.lines().join('\n')));
-        BoxAnswerer boxes;
-        const KorvelApp window;
-        QCOMPARE(boxes.take(),
-                 content.isNull() ? QStringList()
-                                  : QStringList {"Korvel: Failed to load settings from file: save.json"});
+            const LogCapture log;
+            QCOMPARE(Startup::language(), QString("English"));
+            QVERIFY2(log.lines().join('\n').startsWith("Config parse error: "), qPrintable(log.lines().join('\n')));
+            BoxAnswerer boxes;
+            const KorvelApp window;
+            QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to load settings from file: save.json"});
+        }
     }
 
     void startLanguage()
     {
         const WorkFolder folder;
+        {
+            const LogCapture log;
+            QCOMPARE(Startup::language(), QString("English"));
+            QCOMPARE(log.lines(), QStringList {"Config file not found, using default language: English"});
+        }
         for (const auto& [content, language] :
              {std::pair("{}", "English"), {"{\"language\": 5}", ""}, {"{\"language\": \"X\"}", "X"}}) {
             folder.write(file, content);
@@ -176,6 +182,7 @@ private slots:
         folder.write("script", "err busy\nwait 60000");
         folder.write(file, R"({"avrdude": ")" STAND_IN R"("})");
         const LogCapture log;
+        BoxAnswerer boxes;
         {
             KorvelApp window;
             auto* avrdude = window.findChild<Avrdude*>();

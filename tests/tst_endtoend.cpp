@@ -8,6 +8,7 @@
 #include "mcu/AttributesView.h"
 #include "memory/EepromView.h"
 #include "memory/FlashView.h"
+#include "profiles/ProgrammingView.h"
 #include "settings/SettingsView.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
@@ -77,12 +78,12 @@ public:
         boxes.take();
     }
 
-    /// The values in the Fuses tab, joined.
+    /// The values in the Fuses tab, joined; editors on their way out do not count.
     QString fuses() const
     {
         QString values;
         for (const FusesByteView* view : findChild<Fuses*>()->findChildren<FusesByteView*>())
-            values += view->value()->text();
+            values += view->parentWidget()->isHidden() ? "" : view->value()->text();
         return values;
     }
 
@@ -195,6 +196,39 @@ private slots:
         other.avrdude().settings().mcuId = "t85";
         QCOMPARE(other.boxAfter(other.findChild<AttributesView*>()->readButton()), read);
         QCOMPARE(other.findChild<AttributesView*>()->calibrationByte()->text(), QString("A9"));
+    }
+
+    void profiles()
+    {
+        const WorkFolder folder;
+        for (const QString path :
+             {"mcu/ATmega16.json", "profiles/Blink complete.json", "demo/blink.hex", "demo/greeting.eep"}) {
+            QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+            QVERIFY(QFile::copy(DATA_FOLDER "/" + path, path));
+        }
+        BoxAnswerer boxes;
+        QByteArray states[2];
+        for (QByteArray& state : states) { // a board, and the next board
+            QFile::remove("chip");
+            const Programmer programmer(folder, {"--state", "chip"});
+            Window window(boxes);
+            // The profile brings the fixed port of the entry that ships; this one is on another.
+            const QString arguments = window.avrdude().settings().arguments;
+            const auto* view = window.findChild<ProgrammingView*>();
+            emit view->profiles()->textActivated("Blink complete");
+            window.avrdude().settings().arguments = arguments;
+            QCOMPARE(window.findChild<FlashView*>()->writePath()->text(), QString("demo/blink.hex"));
+            QCOMPARE(window.fuses(), QString("E1D9FF"));
+            QCOMPARE(window.boxAfter(view->writeButton()),
+                     QString("Profiles: Flash write successfully.\nFlash verify successfully.\n"
+                             "Eeprom write successfully.\nEeprom verify successfully.\n"
+                             "Fuse bits write successfully.\nFuse bits verify successfully."));
+            QCOMPARE(window.avrdude().logText().count("Korvel: avrdude"), 3);
+            state = folder.read("chip");
+            programmer.avrdude({"-Uflash:v:demo/blink.hex:i", "-Ueeprom:v:demo/greeting.eep:i", "-Ulfuse:v:0xe1:m",
+                                "-Uhfuse:v:0xd9:m", "-Ulock:v:0xff:m"});
+        }
+        QVERIFY(states[0].contains("0c942a00") && states[0] == states[1]);
     }
 
     void failures_data()

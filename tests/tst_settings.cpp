@@ -6,33 +6,43 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QRegularExpression>
 #include <QtTest>
 
 namespace {
 
-/// The panel over a catalogue of two programmers and with serial ports of the test's choice.
+/// The panel over a catalogue of the test's choice, with serial ports that are not there.
 struct Panel : Bench {
     Panel()
     {
-        folder.write("programmer/USBasp.json", R"({"id": "usbasp", "arguments": "", "port": "usb"})");
-        folder.write("programmer/Serial.json", R"({"id": "stk500v1", "arguments": "-b 19200", "port": "com"})");
+        folder.write("programmer/USBasp.json", R"({"id": "usbasp", "arguments": "-F", "port": "usb"})");
+        folder.write("programmer/Serial.json", R"({"id": "stk500v1", "port": "com"})");
+        folder.write("programmer/Upper.json", R"({"id": "c", "port": "USB"})");
+        folder.write("programmer/Mistyped.json", R"({"id": 1, "arguments": [], "port": true})");
+        folder.write("programmer/my.isp.json", "{}");
+        folder.write("programmer/folder.json/x", "");
+        folder.write("programmer/Broken.json", "{\"id\": ");
         for (const char* language : {"Old", "New"})
             folder.write(QString("Languages/%1.json").arg(language), "{}");
-    }
-
-    void build()
-    {
+        settings.programmer.id = "kept";
+        settings.language = "Old";
         presenter = std::make_unique<SettingsPresenter>(avrdude, model, view);
-        view.programmer()->setCurrentIndex(-1); // so that picking any entry is a change
-        boxes.take();
     }
 
-    QStringList portTexts() const
+    void pick(const QString& programmer) const
     {
-        QStringList texts;
+        QSignalBlocker(view.programmer()), view.programmer()->setCurrentIndex(-1);
+        view.programmer()->setCurrentText(programmer);
+    }
+
+    QString record() const { return settings.programmer.id + '|' + settings.arguments + '|' + settings.port; }
+
+    QString portList() const
+    {
+        QString texts;
         for (int i = 0; i < view.port()->count(); ++i)
-            texts += view.port()->itemText(i);
-        return texts;
+            texts += view.port()->itemText(i) + '|';
+        return texts + (view.port()->isEnabled() ? "enabled" : "disabled");
     }
 
     SettingsRecord& settings = avrdude.settings();
@@ -55,121 +65,63 @@ private slots:
     void lists()
     {
         Panel panel;
-        panel.folder.write("programmer/my.isp.json", "{}");
-        panel.folder.write("programmer/folder.json/x", "");
-        panel.folder.write("programmer/readme.txt", "");
         QStringList names = panel.model.programmerList();
         names.sort();
-        QCOMPARE(names, QStringList({"Serial", "USBasp", "my"}));
-        panel.settings.programmer.id = "kept";
-        panel.presenter = std::make_unique<SettingsPresenter>(panel.avrdude, panel.model, panel.view);
+        QCOMPARE(names, QStringList({"Broken", "Mistyped", "Serial", "USBasp", "Upper", "my"}));
         QCOMPARE(panel.settings.speed + panel.settings.programmer.id, QString("-B 4kept")); // filling wrote nothing
         QCOMPARE(panel.view.speed()->count(), 12);
         panel.view.speed()->setCurrentIndex(4);
         QCOMPARE(panel.settings.speed, QString("93.75 kHz (-B 8)"));
-
-        QDir("programmer").removeRecursively();
-        QDir("Languages").removeRecursively();
-        QVERIFY(panel.model.programmerList().isEmpty() && panel.model.languageList().isEmpty());
-    }
-
-    void picking_data()
-    {
-        QTest::addColumn<QByteArray>("entry");
-        QTest::addColumn<QStringList>("record"); // id, arguments, port
-        QTest::addColumn<QStringList>("ports");
-        QTest::addColumn<bool>("enabled");
-        QTest::newRow("usb") << QByteArray(R"({"id": "a", "arguments": "-F", "port": "usb"})")
-                             << QStringList {"a", "-F", "usb"} << QStringList {"usb"} << false;
-        QTest::newRow("com") << QByteArray(R"({"id": "b", "port": "com"})") << QStringList {"b", "", "/dev/ttyUSB0"}
-                             << QStringList {"ttyUSB0 (FT232R)", "ttyACM0"} << true;
-        QTest::newRow("upper case") << QByteArray(R"({"id": "c", "port": "USB"})") << QStringList {"c", "", "before"}
-                                    << QStringList() << true;
-        QTest::newRow("mistyped") << QByteArray(R"({"id": 1, "arguments": [], "port": true})")
-                                  << QStringList {"", "", "before"} << QStringList() << true;
+        QVERIFY(QDir("programmer").removeRecursively() && panel.model.programmerList().isEmpty());
     }
 
     void picking()
     {
-        QFETCH(QByteArray, entry);
-        QFETCH(QStringList, record);
-        QFETCH(QStringList, ports);
-        QFETCH(bool, enabled);
         Panel panel;
-        panel.folder.write("programmer/New.json", entry);
-        panel.build();
-        panel.view.port()->addItem("old");
-        panel.settings.port = "before";
-        panel.view.programmer()->setCurrentText("New");
-        QCOMPARE(QStringList({panel.settings.programmer.id, panel.settings.arguments, panel.settings.port}), record);
-        QCOMPARE(panel.settings.programmer.name, QString("New"));
-        QCOMPARE(panel.portTexts(), ports);
-        QCOMPARE(panel.view.port()->isEnabled(), enabled);
-        QCOMPARE(panel.boxes.take(), QStringList());
-    }
+        const QString usbPorts = "usb|disabled";
+        const QString comPorts = "ttyUSB0 (FT232R)|ttyACM0|enabled";
+        panel.pick("USBasp");
+        QCOMPARE(panel.record() + panel.portList(), "usbasp|-F|usb" + usbPorts);
+        panel.pick("Serial");
+        QCOMPARE(panel.record() + panel.portList(), "stk500v1||/dev/ttyUSB0" + comPorts);
+        panel.view.port()->setCurrentText("ttyACM0");
+        panel.pick("Upper");
+        QCOMPARE(panel.record() + panel.portList(), QString("c||/dev/ttyACM0enabled"));
+        panel.pick("Mistyped");
+        QCOMPARE(panel.record() + panel.portList(), QString("||/dev/ttyACM0enabled"));
+        QVERIFY(panel.boxes.take().isEmpty() && panel.settings.programmer.name == "Mistyped");
 
-    void brokenEntries()
-    {
-        Panel panel;
-        panel.folder.write("programmer/my.isp.json", "{}");
-        panel.folder.write("programmer/Broken.json", "{\"id\": ");
-        panel.folder.write("programmer/Folder.json/x", "");
-        panel.build();
-        panel.view.programmer()->setCurrentText("USBasp");
-        panel.view.programmer()->setCurrentText("my"); // listed up to the first dot, looked for by that name
-        panel.presenter->loadProgrammer("Broken");
-        panel.presenter->loadProgrammer("Folder");
+        panel.pick("USBasp");
+        panel.pick("my"); // listed up to the first dot, looked for by that name
+        panel.pick("Broken");
+        panel.presenter->loadProgrammer("folder");
         QCOMPARE(panel.boxes.take(),
                  QStringList({"JSON FILE NOT FOUND: JSON FILE NOT FOUND", "JSON FILE ERROR: JSON FILE ERROR",
                               "Cannot open file: Cannot open file"}));
-        QCOMPARE(panel.settings.programmer.name + panel.settings.programmer.id + panel.settings.port,
-                 QString("USBaspusbaspusb"));
-        QCOMPARE(panel.portTexts(), QStringList {"usb"});
-    }
-
-    void portSurvivesARefreshOnly()
-    {
-        Panel panel;
-        panel.build();
-        for (const auto& [stored, port] : {std::pair("/dev/ttyACM0", "/dev/ttyACM0"),
-                                           {"ttyACM0", "/dev/ttyACM0"}, // found by its name
-                                           {"/dev/ttyUSB7", "/dev/ttyUSB7"}}) { // not plugged in: still the stored one
-            panel.view.programmer()->setCurrentText("USBasp");
-            panel.settings.programmer.name = "Serial";
-            panel.settings.port = stored;
-            panel.presenter->refreshFromSettings();
-            QCOMPARE(panel.settings.port, QString(port));
-            QCOMPARE(panel.view.port()->currentText(), port[8] == 'A' ? "ttyACM0" : "ttyUSB0 (FT232R)");
-            QVERIFY(panel.view.port()->isEnabled());
-        }
-        panel.view.port()->setCurrentText("ttyACM0");
-        QCOMPARE(panel.settings.port, QString("/dev/ttyACM0"));
-        panel.view.programmer()->setCurrentText("USBasp");
-        panel.view.programmer()->setCurrentText("Serial");
-        QCOMPARE(panel.settings.port, QString("/dev/ttyUSB0"));
+        QCOMPARE(panel.record() + panel.portList(), "usbasp|-F|usb" + usbPorts);
     }
 
     void refresh()
     {
         Panel panel;
-        panel.presenter = std::make_unique<SettingsPresenter>(panel.avrdude, panel.model, panel.view);
-        panel.settings.language = panel.view.language()->itemText(1);
-        panel.settings.programmer.name = panel.view.programmer()->currentText();
+        for (const auto& [stored, port] : {std::pair("/dev/ttyACM0", "/dev/ttyACM0"),
+                                           {"ttyACM0", "/dev/ttyACM0"}, // found by its name
+                                           {"/dev/ttyUSB7", "/dev/ttyUSB7"}}) { // not plugged in: still stored
+            panel.pick("USBasp");
+            panel.settings.programmer.name = "Serial";
+            panel.settings.port = stored;
+            panel.presenter->refreshFromSettings();
+            QCOMPARE(panel.settings.port, QString(port));
+            QCOMPARE(panel.view.port()->currentText(), QString(port[8] == 'A' ? "ttyACM0" : "ttyUSB0 (FT232R)"));
+        }
         panel.settings.programmer.id = "kept"; // nothing is loaded for the programmer that is shown already
+        panel.settings.speed = "-B 4"; // in no entry
         panel.presenter->refreshFromSettings();
-        QCOMPARE(panel.view.language()->currentIndex(), 1);
-        QCOMPARE(panel.view.speed()->currentText(), QString("1.5 MHz (-B 0.5)")); // no entry for "-B 4"
+        QCOMPARE(panel.view.speed()->currentText(), QString("1.5 MHz (-B 0.5)"));
         QCOMPARE(panel.settings.speed + panel.settings.programmer.id, QString("-B 4kept"));
-        panel.settings.speed = "8 kHz (-B 64)";
-        panel.presenter->refreshFromSettings();
-        QCOMPARE(panel.view.speed()->currentText(), panel.settings.speed);
-        QCOMPARE(panel.boxes.take(), QStringList()); // no restart notice
-    }
+        QCOMPARE(panel.view.language()->currentText(), QString("Old"));
+        QVERIFY(panel.boxes.take().isEmpty()); // no restart notice
 
-    void windowsPorts()
-    {
-        Panel panel;
-        panel.build();
         panel.ports = {{"COM1", "", 0, "\\\\.\\COM1"}, {"COM3", "CH340", 0x1a86, "\\\\.\\COM3"}};
         panel.settings.port = "COM3";
         QComboBox comboBox;
@@ -178,41 +130,32 @@ private slots:
                  QString("COM1COM3COM3"));
     }
 
-    void languageNotice_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("notice");
-        QTest::addColumn<QString>("lines");
-        const QString english = "Please restart the application to apply language changes.";
-        QTest::newRow("translated") << "{\"" + english.toUtf8() + "\": \"Neu starten.\"}"
-                                    << "Neu starten."
-                                    << "";
-        QTest::newRow("without the notice") << QByteArray("{}") << english << "";
-        QTest::newRow("broken") << QByteArray("{") << english << "Language file parse error12: unterminated object";
-        QTest::newRow("missing") << QByteArray() << english
-                                 << "Language file not found: .*/Languages/New.json\nSearched in directory: .*package";
-    }
-
     void languageNotice()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QString, notice);
-        QFETCH(QString, lines);
-        Panel panel; // languages are listed from the working folder, read from beside the package
-        if (!content.isNull())
-            panel.folder.write("package/Languages/New.json", content);
-        qputenv("APPIMAGE", QDir::current().filePath("package/Korvel.AppImage").toUtf8());
-        panel.settings.language = "Old";
-        panel.build();
-        panel.presenter->refreshFromSettings();
-        const LogCapture log;
-        panel.view.language()->setCurrentText("New");
-        qunsetenv("APPIMAGE");
-        QCOMPARE(panel.boxes.take(), QStringList {"Korvel: " + notice});
-        QCOMPARE(panel.settings.language, QString("New"));
-        const QString logged = log.lines().join('\n');
-        QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(lines)).match(logged).hasMatch(),
-                 qPrintable(logged));
+        const QString english = "Please restart the application to apply language changes.";
+        struct Row {
+            QByteArray content;
+            QString notice, logged;
+        };
+        for (const Row& row : {
+                 Row {"{\"" + english.toUtf8() + "\": \"Neu starten.\"}", "Neu starten.", ""},
+                 {"{}", english, ""},
+                 {"{", english, "Language file parse error12: unterminated object"},
+                 {{}, english, "Language file not found: .*/Languages/New.json\nSearched in directory: .*package"},
+             }) {
+            Panel panel; // languages are listed from the working folder, read from beside the package
+            if (!row.content.isNull())
+                panel.folder.write("package/Languages/New.json", row.content);
+            qputenv("APPIMAGE", QDir::current().filePath("package/Korvel.AppImage").toUtf8());
+            panel.presenter->refreshFromSettings();
+            const LogCapture log;
+            panel.view.language()->setCurrentText("New");
+            qunsetenv("APPIMAGE");
+            QCOMPARE(panel.boxes.take(), QStringList {"Korvel: " + row.notice});
+            QCOMPARE(panel.settings.language, QString("New"));
+            const QRegularExpression lines(QRegularExpression::anchoredPattern(row.logged));
+            QVERIFY2(lines.match(log.lines().join('\n')).hasMatch(), qPrintable(log.lines().join('\n')));
+        }
     }
 };
 
