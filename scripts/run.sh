@@ -45,7 +45,8 @@ cd build/release
 if [ -n "$demo" ]; then
     # A folder of the demo's own, so that it never touches the settings in bin.
     mkdir -p demo
-    cp -a bin/{korvel,korvel-virtual-programmer,mcu,programmer,Languages,profiles,demo} demo/
+    rm -rf demo/profiles
+    cp -a bin/{korvel,korvel-virtual-programmer,mcu,programmer,Languages,demo} ../../data/profiles demo/
     # The starter settings, with the virtual programmer and the sample firmware.
     sed -e 's/"USBasp"/"Virtual programmer"/' -e 's/"usbasp"/"stk500v1"/' \
         -e 's/"arguments": ""/"arguments": "-P net:127.0.0.1:7016"/' \

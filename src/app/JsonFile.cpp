@@ -23,6 +23,7 @@ JsonFile JsonFile::read(const QString& path)
 
 QFileInfoList jsonFiles(const QString& folder)
 {
+    // In this letter case only: another one is listed on every system and could be opened on some.
     return QDir(folder).entryInfoList({QStringLiteral("*.json")}, QDir::Files | QDir::CaseSensitive, QDir::Unsorted);
 }
 

@@ -6,21 +6,20 @@
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QVBoxLayout>
 
 Profiles::Profiles(Avrdude& avrdude, QWidget* parent)
     : QWidget(parent)
     , m_avrdude(avrdude)
-    , m_selectView(new SelectView(this))
 {
+    auto* selectView = new SelectView(this);
     auto* configurationView = new ConfigurationView(this);
     auto* programmingView = new ProgrammingView(this);
-    m_presenter = new ProfilesPresenter(avrdude, *m_selectView, *configurationView, *programmingView, this);
+    m_presenter = new ProfilesPresenter(avrdude, *selectView, *configurationView, *programmingView, this);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_selectView);
+    layout->addWidget(selectView);
     layout->addWidget(configurationView);
     layout->addWidget(programmingView);
     layout->addStretch();
@@ -35,15 +34,7 @@ void Profiles::refresh()
 
 void Profiles::updateAreas()
 {
-    const SettingsRecord& settings = m_avrdude.settings();
-    const auto allow = [](QCheckBox* checkBox, bool enabled) {
-        checkBox->setEnabled(enabled);
-        if (!enabled)
-            checkBox->setChecked(false);
-    };
-    allow(m_selectView->eeprom(), settings.eepromEnable);
-    allow(m_selectView->flash(), settings.flashEnable);
-    allow(m_selectView->fuses(), settings.fusesEnable);
+    m_presenter->updateAreas();
 }
 
 void Profiles::loadProfile(const QString& name)

