@@ -1,0 +1,56 @@
+#include "i18n/TsConverter.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QXmlStreamReader>
+
+namespace {
+
+QJsonObject readTexts(QXmlStreamReader& reader)
+{
+    QJsonObject texts;
+    QString source;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (reader.name() == QLatin1String("source")) {
+            source = reader.readElementText();
+        } else if (reader.name() == QLatin1String("translation")) {
+            const bool isUnfinished = reader.attributes().value(QLatin1String("type")) == QLatin1String("unfinished");
+            const QString text = reader.readElementText();
+            if (!source.isEmpty())
+                texts.insert(source, text.isEmpty() || isUnfinished ? source : text);
+        }
+    }
+    return texts;
+}
+
+} // namespace
+
+void convertTsToJson(const QString& tsFilePath, const QString& languageName)
+{
+    QFile input(tsFilePath);
+    if (!input.open(QIODevice::ReadOnly)) {
+        qDebug().noquote() << "Converter: Cannot open TS file:" << tsFilePath;
+        return;
+    }
+    QXmlStreamReader reader(&input);
+    const QJsonObject texts = readTexts(reader);
+    if (reader.hasError())
+        qDebug().noquote() << "Converter: XML Error:" << reader.errorString();
+
+    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/Languages");
+    QDir().mkpath(folder);
+    const QString path = QStringLiteral("%1/%2.json").arg(folder, languageName);
+    QFile output(path);
+    if (!output.open(QIODevice::WriteOnly)) {
+        qDebug().noquote() << "Converter: Cannot write JSON to" << path;
+        return;
+    }
+    output.write(QJsonDocument(texts).toJson(QJsonDocument::Indented));
+    qDebug().noquote() << "Converter: Successfully created" << path;
+}

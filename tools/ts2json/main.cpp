@@ -1,0 +1,20 @@
+// korvel-ts2json FILE.ts LANGUAGE: makes the language file LANGUAGE.json of a translation source, in the folder
+// "Languages" beside this tool.
+
+#include "i18n/TsConverter.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3) {
+        std::fputs("Usage: korvel-ts2json FILE.ts LANGUAGE\n", stderr);
+        return 2;
+    }
+    convertTsToJson(arguments.at(1), arguments.at(2));
+    return 0;
+}
