@@ -1,5 +1,7 @@
 #include "app/KorvelApp.h"
 
+#include "about/AboutView.h"
+#include "about/SocialLinksWidget.h"
 #include "app/AvrdudeMessage.h"
 #include "app/ProductInfo.h"
 #include "avrdude/Avrdude.h"
@@ -38,6 +40,8 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
     m_tabs->addTab(m_fuses, QStringLiteral("Fuses"));
     m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
+    m_tabs->addTab(new AboutView(this), QStringLiteral("About"));
+    m_tabs->setCornerWidget(new SocialLinksWidget(this), Qt::TopRightCorner);
 
     auto* layout = new QVBoxLayout(m_central);
     layout->addWidget(m_tabs);

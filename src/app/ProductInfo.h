@@ -2,7 +2,7 @@
 
 #include <QLatin1String>
 
-/// What this program calls itself and where it keeps its settings.
+/// What this program calls itself, where it keeps its settings, and whom it belongs to.
 namespace ProductInfo {
 
 inline constexpr QLatin1String name("Korvel");
@@ -14,5 +14,19 @@ inline constexpr QLatin1String version(KORVEL_VERSION);
 inline constexpr QLatin1String settingsFile("save.json");
 
 inline constexpr QLatin1String defaultLanguage("English");
+
+inline constexpr QLatin1String byline("by the Korvel developers");
+
+/// The year in which the project began.
+inline constexpr int startYear = 2026;
+
+inline constexpr QLatin1String termsOfUse("Terms of use: free software under the MIT License");
+
+// All under a domain that is reserved and cannot be registered, so that no build of this source talks to a stranger.
+// Whoever distributes Korvel sets their own; the update server's is the build option KORVEL_UPDATE_HOST.
+inline constexpr QLatin1String website("https://korvel.example");
+inline constexpr QLatin1String telegram("https://telegram.korvel.example");
+inline constexpr QLatin1String youtube("https://youtube.korvel.example");
+inline constexpr QLatin1String updateHost(KORVEL_UPDATE_HOST);
 
 } // namespace ProductInfo

@@ -2,6 +2,7 @@
 #include "app/ProductInfo.h"
 #include "app/Startup.h"
 #include "i18n/JsonToQtTranslator.h"
+#include "update/UpdateChecker.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -24,5 +25,8 @@ int main(int argc, char* argv[])
     window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));
     Startup::moveToPointerScreen(window);
     window.show();
+
+    UpdateChecker updateChecker;
+    updateChecker.checkForUpdates();
     return QApplication::exec();
 }

@@ -1,0 +1,89 @@
+#include "about/AboutView.h"
+
+#include "app/ProductInfo.h"
+
+#include <QDate>
+#include <QLabel>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Newest first. Each line of an entry ends in a line break, so that an empty paragraph parts the entries.
+constexpr const char* history[] = {
+    "v5.6 - 07.04.2026 \n"
+    "- Fixed file dialog path handling (../)\n"
+    "- Fixed the text of message boxes\n"
+    "- Fixed minor UI issues\n",
+    "v5.5 - 19.03.2026 \n"
+    "- Fixed file dialog path handling\n"
+    "- Fixed message boxes behavior\n"
+    "- Fixed language support\n"
+    "- Fixed minor UI issues\n",
+    "v5.4 - 05.03.2026\n"
+    "- Added message boxes\n"
+    "- Fixed default fuse bits\n"
+    "- Fixed minor UI issues\n",
+    "v5.3 - 28.02.2026\n"
+    "- Added microcontrollers\n"
+    "- Fixed COM port selection\n"
+    "- Fixed language support\n"
+    "- Fixed minor UI issues\n",
+    "v5.2 - 25.02.2026\n"
+    "- Added microcontrollers\n"
+    "- Added programmers\n"
+    "- Fixed minor UI issues\n",
+    "v5.1 - 22.02.2026\n"
+    "- Added multi-language support\n"
+    "- Fixed 'arguments' parameter for programmer\n"
+    "- Fixed minor UI issues\n",
+    "v5.0 (beta) - 15.02.2026\n"
+    "- Korvel5\n",
+};
+
+QString information()
+{
+    return QStringLiteral("<p style=\"line-height: 1.5; color: #4A4A4A;\">"
+                          "<a href=\"%1\" style=\"color: #4A4A4A; text-decoration: underline; \">%1</a><br>"
+                          "OS: Windows7/10/11, Linux<br>%2</p>")
+        .arg(ProductInfo::website, ProductInfo::termsOfUse);
+}
+
+} // namespace
+
+AboutView::AboutView(QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(10);
+    const auto addLabel = [this, layout](const QString& text, Qt::Alignment alignment, const QString& style) {
+        auto* label = new QLabel(text, this);
+        label->setAlignment(alignment);
+        label->setStyleSheet(style);
+        layout->addWidget(label);
+        return label;
+    };
+
+    // Two blanks between name and version, as on every release so far.
+    addLabel(QString(ProductInfo::name) + QLatin1String("  ") + ProductInfo::version, Qt::AlignCenter,
+             QStringLiteral("font-size: 14pt; font-weight: bold; color: #4A4A4A;"));
+    addLabel(ProductInfo::byline, Qt::AlignLeft,
+             QStringLiteral("font-size: 12pt; color: #4A4A4A; padding-left: 30px;"));
+    QLabel* block = addLabel(information(), Qt::AlignLeft, QStringLiteral("padding-left: 30px;"));
+    block->setTextFormat(Qt::RichText);
+    block->setOpenExternalLinks(true);
+
+    auto* versions = new QTextEdit(this);
+    versions->setReadOnly(true);
+    versions->setLineWrapMode(QTextEdit::WidgetWidth);
+    versions->setStyleSheet(QStringLiteral("QTextEdit {  background-color: #f0f0f0;  border: 1px solid #cccccc;  "
+                                           "border-radius: 3px;  font-family: Consolas, 'Courier New', monospace;  "
+                                           "font-size: 10pt;}"));
+    for (const char* entry : history)
+        versions->append(QLatin1String(entry));
+    versions->moveCursor(QTextCursor::Start);
+    layout->addWidget(versions);
+
+    addLabel(QStringLiteral("%1 - %2").arg(ProductInfo::startYear).arg(QDate::currentDate().year()), Qt::AlignCenter,
+             QStringLiteral("color: #888888; font-size: 10pt;"));
+}

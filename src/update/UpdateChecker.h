@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QUrl>
+
+class QNetworkReply;
+
+/// Asks the update server once for the newest version and offers to open its download page. Silent whenever the server
+/// cannot be asked. Lives for as long as the event loop runs, since the answer may come at any time.
+class UpdateChecker : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @p source is the address of the version document.
+    explicit UpdateChecker(const QUrl& source = defaultSource(), QObject* parent = nullptr);
+
+    /// The address at the distributor's update server.
+    [[nodiscard]] static QUrl defaultSource();
+
+    /// Sends the request and returns at once.
+    void checkForUpdates();
+
+    /// Evaluates @p reply, which is released. A newer version opens a question; a fault is a line in the debug log.
+    void onReplyFinished(QNetworkReply* reply);
+
+    /// True when the version @p remote is greater than @p current, compared number by number; text after the numbers is
+    /// ignored, and what is no version is never newer.
+    [[nodiscard]] static bool isNewer(const QString& remote, const QString& current);
+
+signals:
+    /// Never sent: nothing is downloaded. Kept for what listens to it.
+    void updateReady(const QString& filePath);
+
+private:
+    QNetworkAccessManager m_manager {this};
+    QUrl m_source;
+};
