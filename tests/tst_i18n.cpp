@@ -1,5 +1,6 @@
 #include "i18n/JsonToQtTranslator.h"
 #include "i18n/Translator.h"
+#include "i18n/TsConverter.h"
 #include "support/LogCapture.h"
 #include "support/WorkFolder.h"
 
@@ -77,6 +78,50 @@ private slots:
         QCOMPARE(log.lines()[0], QString("Translator: Loaded language: X"));
         QVERIFY(log.lines()[1].startsWith("Translator: JSON parse error: "));
         QVERIFY(log.lines()[2].startsWith("Translator: Failed to load file: "));
+    }
+
+    void converter()
+    {
+        const WorkFolder folder;
+        const auto message = [](const char* source, const char* translation) {
+            return QString("<message><location line=\"1\"/><source>%1</source>%2</message>").arg(source, translation);
+        };
+        const QString head = "<?xml version=\"1.0\"?><!DOCTYPE TS><TS version=\"2.1\" language=\"de\"><context><name>";
+        folder.write(
+            "x.ts",
+            QString(head + "A</name>" + message("Port &amp;&amp; Speed\n%1", "<translation>Ä\n%1</translation>")
+                    + message("Open", "<translation type=\"unfinished\">Auf?</translation>")
+                    + message("Empty", "<translation></translation>") + message("", "<translation>x</translation>")
+                    + message("Twice", "<translation>eins</translation>") + "</context><context><name>B</name>"
+                    + message("Twice", "<translation>zwei</translation>") + "</context></TS>")
+                .toUtf8());
+        folder.write("plural.ts",
+                     (head + "A</name>" + message("a", "<translation>ä</translation>")
+                      + message("%n b", "<translation><numerusform>1</numerusform></translation>")
+                      + message("c", "<translation>ch</translation>"))
+                         .toUtf8());
+        const LogCapture log;
+        convertTsToJson("x.ts", "Eins");
+        JsonToQtTranslator translator;
+        QVERIFY(translator.loadLanguage("Eins"));
+        const auto text = [&translator](const char* source) { return translator.translate("", source); };
+        QCOMPARE(text("Port && Speed\n%1"), QStringLiteral("Ä\n%1"));
+        QCOMPARE(text("Open") + text("Empty") + text("Twice"), QString("OpenEmptyzwei"));
+        const QByteArray file = folder.read(m_applicationFolder + "/Eins.json");
+        QVERIFY(file.contains("\"Open\": \"Open\"") && file.contains("\"Empty\": \"Empty\"") && !file.contains("\"\""));
+
+        convertTsToJson("plural.ts", "Zwei"); // converted up to the fault
+        QVERIFY(translator.loadLanguage("Zwei"));
+        QCOMPARE(text("a") + text("c"), QStringLiteral("äc"));
+        convertTsToJson("missing.ts", "Drei");
+        convertTsToJson("x.ts", "no/folder");
+        const QString created = "Converter: Successfully created " + m_applicationFolder;
+        QCOMPARE(
+            log.lines().filter(QRegularExpression("^(?!Converter: XML Error: .)")),
+            QStringList({created + "/Eins.json", created + "/Zwei.json", "Converter: Cannot open TS file: missing.ts",
+                         "Converter: Cannot write JSON to " + m_applicationFolder + "/no/folder.json"}));
+        QCOMPARE(log.lines().size(), 5);
+        QVERIFY(!QFile::exists(m_applicationFolder + "/Drei.json"));
     }
 
 private:
