@@ -14,3 +14,8 @@ QString LanguageFiles::path(const QString& language)
 {
     return QDir(baseFolder()).filePath(QStringLiteral("Languages/%1.json").arg(language));
 }
+
+QString LanguageFiles::applicationFolder()
+{
+    return QCoreApplication::applicationDirPath() + QLatin1String("/Languages");
+}

@@ -11,4 +11,7 @@ namespace LanguageFiles {
 /// Path of the file of @p language (a name as the language list shows it) below the base folder.
 [[nodiscard]] QString path(const QString& language);
 
+/// The folder of the language files beside the program, wherever the package lies.
+[[nodiscard]] QString applicationFolder();
+
 } // namespace LanguageFiles

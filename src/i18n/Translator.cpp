@@ -1,8 +1,8 @@
 #include "i18n/Translator.h"
 
 #include "app/JsonFile.h"
+#include "i18n/LanguageFiles.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 
 Translator& Translator::instance()
@@ -13,7 +13,7 @@ Translator& Translator::instance()
 
 bool Translator::loadLanguage(const QString& language)
 {
-    const QString path = QStringLiteral("%1/Languages/%2.json").arg(QCoreApplication::applicationDirPath(), language);
+    const QString path = QStringLiteral("%1/%2.json").arg(LanguageFiles::applicationFolder(), language);
     const JsonFile file = JsonFile::read(path);
     if (!file.wasRead()) {
         qDebug().noquote() << "Translator: Failed to load file:" << path;
@@ -41,5 +41,5 @@ QString Translator::translate(const QString& key) const
 
 QStringList Translator::availableLanguages()
 {
-    return jsonBaseNames(QCoreApplication::applicationDirPath() + QLatin1String("/Languages"));
+    return jsonBaseNames(LanguageFiles::applicationFolder());
 }

@@ -1,6 +1,7 @@
 #include "i18n/TsConverter.h"
 
-#include <QCoreApplication>
+#include "i18n/LanguageFiles.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -43,7 +44,7 @@ void convertTsToJson(const QString& tsFilePath, const QString& languageName)
     if (reader.hasError())
         qDebug().noquote() << "Converter: XML Error:" << reader.errorString();
 
-    const QString folder = QCoreApplication::applicationDirPath() + QLatin1String("/Languages");
+    const QString folder = LanguageFiles::applicationFolder();
     QDir().mkpath(folder);
     const QString path = QStringLiteral("%1/%2.json").arg(folder, languageName);
     QFile output(path);

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] static bool isNewer(const QString& remote, const QString& current);
 
 signals:
-    /// Never sent: nothing is downloaded. Kept for what listens to it.
+    /// Never sent: the check offers a page and downloads nothing.
     void updateReady(const QString& filePath);
 
 private:

@@ -1,5 +1,5 @@
 // korvel-ts2json FILE.ts LANGUAGE: makes the language file LANGUAGE.json of a translation source, in the folder
-// "Languages" beside this tool.
+// "Languages" beside this tool. What came of it is printed; the status tells wrong arguments only.
 
 #include "i18n/TsConverter.h"
 
