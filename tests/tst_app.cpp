@@ -1,14 +1,18 @@
+#include "about/SocialLinksWidget.h"
 #include "app/KorvelApp.h"
 #include "app/Startup.h"
 #include "avrdude/Avrdude.h"
+#include "profiles/SelectView.h"
 #include "support/BoxAnswerer.h"
 #include "support/LogCapture.h"
 #include "support/WorkFolder.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTabWidget>
 #include <QtTest>
 
 namespace {
@@ -171,6 +175,17 @@ private slots:
             QCOMPARE(object(folder.read(file))[key], object(full)[key]);
 
         KorvelApp window;
+        auto* tabs = window.findChild<QTabWidget*>();
+        QCOMPARE(tabs->tabText(0) + tabs->tabText(1) + tabs->tabText(2) + tabs->tabText(3),
+                 QString("ProgrammingFusesProfilesAbout"));
+        QVERIFY(qobject_cast<SocialLinksWidget*>(tabs->cornerWidget(Qt::TopRightCorner)));
+        QCheckBox* eeprom = window.findChild<SelectView*>()->eeprom();
+        eeprom->setChecked(true);
+        window.findChild<Avrdude*>()->settings().eepromEnable = false;
+        tabs->setCurrentIndex(1);
+        QVERIFY(eeprom->isChecked());
+        tabs->setCurrentIndex(2);
+        QVERIFY(!eeprom->isChecked() && !eeprom->isEnabled());
         QVERIFY(QFile::remove(file) && QDir().mkdir(file)); // a folder in the way
         QVERIFY(window.close());
         QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to save settings to file: save.json"});

@@ -45,24 +45,24 @@ private slots:
             return QString("Update available: New version %1 available.\n\nOpen download page?").arg(version);
         };
         const QByteArray ok = "HTTP/1.0 200 OK\r\n\r\n";
-        const auto document = [&ok](const char* json) { return ok + QByteArray(json).replace('\'', '"'); };
+        const auto document = [&ok](const char* version, const char* url = "https://a", const char* linuxUrl = "") {
+            const QByteArray json =
+                QByteArray("{'version': '") + version + "', 'url': '" + url + "', 'url_linux': '" + linuxUrl + "'}";
+            return ok + QByteArray(json).replace('\'', '"');
+        };
         for (const Row& row : {
-                 Row {document("{'version': '5.7', 'url': 'https://a', 'url_linux': 'https://b'}"), offer("5.7"),
-                      "https://b"},
-                 {document("{'version': '5.7', 'url': 'https://a', 'url_linux': 'https://b'}"), offer("5.7"), "",
-                  QMessageBox::No},
-                 {document("{'version': '5.6.1', 'url': 'https://a', 'url_linux': ''}"), offer("5.6.1"), "https://a"},
-                 {document("{'version': '5.10', 'url': 'https://a', 'url_linux': 'https://b'}"), offer("5.10"),
-                  "https://b"},
-                 {document("{'version': '6.0-beta', 'url': 'https://a', 'url_linux': 'https://b'}"), offer("6.0-beta"),
-                  "https://b"},
-                 {document("{'version': '5.6', 'url': 'https://a', 'url_linux': 'https://b'}"), "", ""},
-                 {document("{'version': '5.5.9', 'url': 'https://a', 'url_linux': 'https://b'}"), "", ""},
-                 {document("{'version': 'next', 'url': 'https://a', 'url_linux': 'https://b'}"), "", ""},
-                 {document("{'url': 'https://a'}"), "", ""},
+                 Row {document("5.7", "https://a", "https://b"), offer("5.7"), "https://b"},
+                 {document("5.6.1"), offer("5.6.1"), "", QMessageBox::No},
+                 {document("5.10"), offer("5.10"), "https://a"},
+                 {document("6.0-beta"), offer("6.0-beta"), "https://a"},
+                 {document("5.6"), "", ""},
+                 {document("5.5.9"), "", ""},
+                 {document("next"), "", ""},
+                 {ok + "{}", "", ""},
+                 {ok + "{\"version\": \"5.7\", \"url\": \"https://a\", \"url_linux\": 1}", offer("5.7"), "https://a"},
                  {ok + "[garbage", "", ""},
-                 {document("{'version': '5.7', 'url': 1}"), "Error: Download URL is missing in server response.", ""},
-                 {document("{'version': '5.7', 'url': ':'}"), offer("5.7") + "|Error: Could not open the link.", ""},
+                 {document("5.7", ""), "Error: Download URL is missing in server response.", ""},
+                 {document("5.7", ":"), offer("5.7") + "|Error: Could not open the link.", ""},
                  {"HTTP/1.0 404 Not Found\r\n\r\n{\"version\": \"5.7\"}", "", ""},
                  {"", "", ""}, // the connection closes without an answer
              }) {
@@ -78,11 +78,12 @@ private slots:
             });
             BoxAnswerer boxes;
             boxes.button = row.button;
-            const Browser browser;
+            Browser browser;
             const LogCapture log;
             UpdateChecker checker(QString("http://127.0.0.1:%1/version.json").arg(server.serverPort()));
             checker.checkForUpdates();
             const QPointer<QNetworkReply> reply = checker.findChild<QNetworkReply*>();
+            QVERIFY(reply);
             QTRY_VERIFY(!reply); // released in every case
             QCOMPARE(boxes.take().join('|'), row.boxes);
             QCOMPARE(browser.opened.join('|'), row.opened);
@@ -103,11 +104,12 @@ private slots:
             server.nextPendingConnection()->write("HTTP/1.0 200 OK\r\n\r\n{\"version\": ");
             QTest::qWait(50);
         }
+        QCOMPARE(log.lines(), QStringList());
         UpdateChecker refused(QUrl("http://127.0.0.1:1/"));
         refused.checkForUpdates();
         QTRY_COMPARE(log.lines().filter("Update check error: ").size(), 1);
         QCOMPARE(UpdateChecker::defaultSource().toString(),
-                 QString("https://updates.korvel.example/downloads/korvel5/version.json"));
+                 "https://" + ProductInfo::updateHost + "/downloads/korvel5/version.json");
     }
 
     void about()
@@ -118,13 +120,14 @@ private slots:
         QCOMPARE(labels.last()->text(), QString("2026 - %1").arg(QDate::currentDate().year()));
         QVERIFY(labels.at(2)->openExternalLinks() && labels.at(2)->text().contains("Linux<br>Terms of use: free"));
         const QStringList history = view.findChild<QTextEdit*>()->toPlainText().split('\n');
-        QCOMPARE(history.size(), 35);
+        QVERIFY(history.size() == 35 && view.findChild<QTextEdit*>()->isReadOnly());
         QCOMPARE(history.mid(3, 3), QStringList({"- Fixed minor UI issues", "", "v5.5 - 19.03.2026 "}));
 
-        const Browser browser;
+        Browser browser;
         const SocialLinksWidget links;
         QStringList toolTips;
         for (QToolButton* button : links.findChildren<QToolButton*>()) {
+            QVERIFY(!button->icon().pixmap(20).isNull());
             toolTips += button->toolTip();
             button->click();
         }

@@ -9,21 +9,17 @@
 
 namespace {
 
-QByteArray bytes(const char* hex)
-{
-    return QByteArray::fromHex(hex);
-}
+constexpr auto bytes = QByteArray::fromHex;
 
 /// Hands the chip the instructions, four bytes each in hexadecimal, and returns its answer to the last one.
-QByteArray instruct(Chip& chip, const char* instructions)
+int instruct(Chip& chip, const char* instructions)
 {
-    const QByteArray in = bytes(instructions);
-    quint8 answer = 0;
-    for (int i = 0; i + 3 < in.size(); i += 4) {
-        const auto byte = [&in, i](int index) { return static_cast<quint8>(in.at(i + index)); };
-        answer = chip.transfer({byte(0), byte(1), byte(2), byte(3)})[3];
+    Chip::Instruction in {};
+    for (QByteArray left = bytes(instructions); !left.isEmpty(); left.remove(0, 4)) {
+        std::copy_n(left.begin(), 4, in.begin());
+        in = chip.transfer(in);
     }
-    return QByteArray(1, static_cast<char>(answer)).toHex();
+    return in[3];
 }
 
 } // namespace
@@ -35,31 +31,27 @@ class tst_VirtualProgrammer : public QObject
 private slots:
     void chipFollowsTheDatasheet()
     {
-        struct Row {
-            const char *what, *part, *instructions, *answer;
-        };
-        for (const Row& row : {
-                 Row {"no answer before programming", "ATmega16", "30000100", "ff"},
-                 {"no write before programming", "ATmega16", "C0000011 AC530000 A0000000", "ff"},
-                 {"flash bits only fall", "ATtiny85", "AC530000 400005F3 4C000500 4000053F 4C000500 20000500", "33"},
-                 {"until an erase", "ATtiny85", "AC530000 400005F3 4C000500 AC800000 4000053F 4C000500 20000500", "3f"},
-                 {"page buffer used once", "ATmega8", "AC530000 48000500 4C000500 4C002500 28002500", "ff"},
-                 {"extended address", "ATmega2560", "AC530000 4D000100 40000512 4C000500 4D000000 20000500", "ff"},
-                 {"EEPROM erases itself", "ATmega16", "AC530000 C001FF0F C001FFF0 A001FF00", "f0"},
-                 {"EEPROM page", "ATmega328P", "AC530000 C0010611 C1000122 C2010400 A0010600", "11"},
-                 {"erase clears EEPROM", "ATmega16", "AC530000 C000005A AC800000 A0000000", "ff"},
-                 {"EESAVE keeps it", "ATtiny13A", "AC530000 ACA0002A C000005A AC800000 A0000000", "5a"},
-                 {"SPIEN is out of reach", "ATmega16", "AC530000 ACA800FF 58080000", "df"},
-                 {"missing fuse bits", "ATmega328P", "AC530000 ACA40000 50080000", "f8"},
-                 {"lock bits are only programmed", "ATmega16", "AC530000 ACE000CF ACE000FF 58000000", "cf"},
-                 {"mode 2: no writing", "ATmega16", "AC530000 ACE000FE 40000512 4C000500 20000500", "ff"},
-                 {"mode 2: reading", "ATmega16", "AC530000 C0000012 ACE000FE A0000000", "12"},
-                 {"mode 3: no reading", "ATmega16", "AC530000 C0000012 ACE000FC A0000000", "00"},
-                 {"erase unlocks", "ATmega16", "AC530000 ACE000FC AC800000 C0000012 A0000000", "12"},
-                 {"one calibration byte", "ATmega328P", "AC530000 38000100", "ff"},
-             }) {
-            Chip chip(*Part::find(row.part));
-            QVERIFY2(instruct(chip, row.instructions) == row.answer, row.what);
+        for (const auto& [what, part, instructions, answer] :
+             {std::tuple("no answer before programming", "ATmega16", "30000100", 0xff),
+              {"no write before programming", "ATmega16", "C0000011 AC530000 A0000000", 0xff},
+              {"flash bits only fall", "ATtiny85", "AC530000 400005F3 4C000500 4000053F 4C000500 20000500", 0x33},
+              {"until an erase", "ATtiny85", "AC530000 400005F3 4C000500 AC800000 4000053F 4C000500 20000500", 0x3f},
+              {"page buffer used once", "ATmega8", "AC530000 48000500 4C000500 4C002500 28002500", 0xff},
+              {"extended address", "ATmega2560", "AC530000 4D000100 40000512 4C000500 4D000000 20000500", 0xff},
+              {"EEPROM erases itself", "ATmega16", "AC530000 C001FF0F C001FFF0 A001FF00", 0xf0},
+              {"EEPROM page", "ATmega328P", "AC530000 C0010611 C1000122 C2010400 A0010600", 0x11},
+              {"erase clears EEPROM", "ATmega16", "AC530000 C000005A AC800000 A0000000", 0xff},
+              {"EESAVE keeps it", "ATtiny13A", "AC530000 ACA0002A C000005A AC800000 A0000000", 0x5a},
+              {"SPIEN is out of reach", "ATmega16", "AC530000 ACA800FF 58080000", 0xdf},
+              {"missing fuse bits", "ATmega328P", "AC530000 ACA40000 50080000", 0xf8},
+              {"lock bits are only programmed", "ATmega16", "AC530000 ACE000CF ACE000FF 58000000", 0xcf},
+              {"mode 2: no writing", "ATmega16", "AC530000 ACE000FE 40000512 4C000500 20000500", 0xff},
+              {"mode 2: reading", "ATmega16", "AC530000 C0000012 ACE000FE A0000000", 0x12},
+              {"mode 3: no reading", "ATmega16", "AC530000 C0000012 ACE000FC A0000000", 0x00},
+              {"erase unlocks", "ATmega16", "AC530000 ACE000FC AC800000 C0000012 A0000000", 0x12},
+              {"one calibration byte", "ATmega328P", "AC530000 38000100", 0xff}}) {
+            Chip chip(*Part::find(part));
+            QVERIFY2(instruct(chip, instructions) == answer, what);
         }
     }
 
@@ -75,8 +67,7 @@ private slots:
         const QByteArray intact = folder.read("chip");
         const std::pair<const char*, const char*> damages[] {
             {"ATmega8", "ATmega16"}, {"\n}\n", ""},           {"lock", "key"}, {"0xD9", "0x1D9"}, {"\"0xD9\"", "217"},
-            {"0x01FE0", "0x02000"},  {"0x01FE0", "-0x01FE0"}, {"12ff", "12f"}, {"12ff", "12fg"},
-        };
+            {"0x01FE0", "0x02000"},  {"0x01FE0", "-0x01FE0"}, {"12ff", "12f"}, {"12ff", "12fg"}};
         for (const auto& [before, after] : damages) {
             const QByteArray damaged = QByteArray(intact).replace(before, after);
             QVERIFY2(damaged != intact, before);

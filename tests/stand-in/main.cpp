@@ -1,13 +1,11 @@
-// Plays avrdude for the tests. Appends its arguments to the file "runs" in the working directory, as one JSON array a
-// line, then does what the file "script" there says, a word and its operand a line:
+// Plays avrdude for the tests. Appends its arguments to the file "runs" in the working directory, a line a
+// run with tabs between them, then does what the file "script" there says, a word and its operand a line:
 //   err TEXT, out TEXT   print TEXT and a line break
 //   wait MS              sleep
 //   exit CODE, crash     end; without either it ends with 0 after the last line
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QThread>
 
 #include <cstdio>
@@ -17,23 +15,19 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
     QFile runs(QStringLiteral("runs"));
-    if (runs.open(QIODevice::Append)) {
-        const auto arguments = QJsonArray::fromStringList(QCoreApplication::arguments().mid(1));
-        runs.write(QJsonDocument(arguments).toJson(QJsonDocument::Compact) + '\n');
-        runs.close();
-    }
+    runs.open(QIODevice::Append);
+    runs.write((QCoreApplication::arguments().mid(1).join(QLatin1Char('\t')) + QLatin1Char('\n')).toUtf8());
+    runs.close();
 
     QFile script(QStringLiteral("script"));
-    if (!script.open(QIODevice::ReadOnly))
-        return 0;
+    script.open(QIODevice::ReadOnly);
     while (!script.atEnd()) {
         const QByteArray line = script.readLine().trimmed();
         const QByteArray word = line.split(' ').first();
         const QByteArray operand = line.mid(word.size() + 1);
         if (word == "err" || word == "out") {
-            std::FILE* stream = word == "err" ? stderr : stdout;
-            std::fprintf(stream, "%s\n", operand.constData());
-            std::fflush(stream);
+            std::fprintf(word == "err" ? stderr : stdout, "%s\n", operand.constData());
+            std::fflush(stdout);
         } else if (word == "wait") {
             QThread::msleep(operand.toULong());
         } else if (word == "exit") {

@@ -5,6 +5,7 @@
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 
+#include <QPushButton>
 #include <QTest>
 
 /// A runner in a fresh working folder, with the stand-in for avrdude.
@@ -20,6 +21,24 @@ struct Bench {
         folder.write(QStringLiteral("script"), script);
         avrdude.execute(arguments, [&calls] { ++calls; });
         return QTest::qWaitFor([this] { return isIdle(); }) ? calls : -1;
+    }
+
+    /// What avrdude was asked for, run by run, without the arguments that all runs begin with.
+    [[nodiscard]] QStringList requests() const
+    {
+        QStringList requests;
+        for (const QStringList& run : folder.runs())
+            requests += run.mid(7).join(' ');
+        return requests;
+    }
+
+    /// Clicks, waits for a box and the end of the run, and returns the boxes and the requests that it came to.
+    QString click(QPushButton* button)
+    {
+        const int before = requests().size();
+        button->click();
+        const QStringList told = boxes.wait();
+        return QTest::qWaitFor([this] { return isIdle(); }) ? (told + requests().mid(before)).join('|') : "still busy";
     }
 
     WorkFolder folder;

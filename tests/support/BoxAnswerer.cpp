@@ -1,15 +1,9 @@
 #include "support/BoxAnswerer.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QEvent>
 #include <QTest>
 #include <QTimer>
-
-BoxAnswerer::BoxAnswerer()
-{
-    qApp->installEventFilter(this);
-}
 
 QStringList BoxAnswerer::wait(int timeout)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QObject>
 #include <QStringList>
@@ -11,7 +12,7 @@
 class BoxAnswerer : public QObject
 {
 public:
-    BoxAnswerer();
+    BoxAnswerer() { qApp->installEventFilter(this); }
 
     /// The button to press where a box has it; elsewhere the box is accepted.
     QMessageBox::StandardButton button = QMessageBox::Ok;

@@ -6,12 +6,7 @@
 class LogCapture
 {
 public:
-    LogCapture()
-        : m_previous(qInstallMessageHandler(collect))
-    {
-        s_lines.clear();
-    }
-
+    LogCapture() { s_lines.clear(); }
     ~LogCapture() { qInstallMessageHandler(m_previous); }
 
     [[nodiscard]] QStringList lines() const { return s_lines; }
@@ -24,5 +19,5 @@ private:
     }
 
     inline static QStringList s_lines;
-    QtMessageHandler m_previous;
+    QtMessageHandler m_previous = qInstallMessageHandler(collect);
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QVector>
@@ -9,8 +10,8 @@
 class WorkFolder
 {
 public:
-    WorkFolder();
-    ~WorkFolder();
+    WorkFolder() { QDir::setCurrent(m_folder.path()); }
+    ~WorkFolder() { QDir::setCurrent(m_previous); }
 
     /// Writes a file (and the folders above it) in the working directory.
     void write(const QString& path, const QByteArray& content) const;
@@ -23,5 +24,5 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    QString m_previous;
+    QString m_previous = QDir::currentPath();
 };
