@@ -9,7 +9,6 @@
 
 #include <QCheckBox>
 #include <QDir>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTabWidget>
@@ -20,7 +19,8 @@ namespace {
 const QString file = QStringLiteral("save.json");
 
 /// Every key holds something else than any default or fallback.
-const QByteArray full = R"json({
+const QByteArray full =
+    QByteArray(R"json({
     "avrdude": "/opt/avrdude", "mcuName": "ATtiny85", "mcuId": "t85", "signature": "1E 93 0B", "callByte": "5A",
     "language": "Русский", "arguments": "-v", "fileNamesReading": ["lfuse.hex", "lock.hex"],
     "files": {
@@ -30,16 +30,16 @@ const QByteArray full = R"json({
     "programmer": { "name": "Mine", "id": "stk500v1", "port": "/dev/ttyUSB0", "speed": "1 kHz (-B 512)" },
     "fusesBytes": [{
         "name": "Low Fuse", "id": "lfuse", "defaultValue": 98, "currentValue": 226,
-        "fuseBits": [
-            { "bitNumber": 5, "enabled": true, "name": "CKSEL0", "defaultBitValue": 1, "currentBitValue": 1 }
-        ]
+        "fuseBits": [BIT, BIT, BIT, BIT, BIT, BIT, BIT, BIT]
     }],
     "profiles": {
         "flashCheck": false, "eepromCheck": false, "fusesCheck": false,
         "flashEnable": false, "eepromEnable": false, "fusesEnable": false,
         "name": "Name", "description": "Rev. B", "profilesList": ["one", "two"], "currentlyProfilesList": "Board"
     }
-})json";
+})json")
+        .replace("BIT",
+                 R"({"bitNumber": 5, "enabled": true, "name": "B", "defaultBitValue": 1, "currentBitValue": 1})");
 
 QJsonObject object(const QByteArray& json)
 {
@@ -66,18 +66,9 @@ private slots:
         QCOMPARE(old.readAll(), full);
         QCOMPARE(QDir().entryList(QDir::Files), QStringList {file});
 
-        // The extra names go out under another key than they come in by, and all eight bits are written.
-        QJsonObject written = object(folder.read(file));
-        QJsonObject profiles = written["profiles"].toObject();
-        profiles["profilesList"] = profiles.take("configurationList");
-        written["profiles"] = profiles;
-        QJsonObject byte = written["fusesBytes"].toArray().at(0).toObject();
-        QJsonArray bits = byte["fuseBits"].toArray();
-        QCOMPARE(bits.size(), 8);
-        QCOMPARE(bits.at(7).toObject()["name"].toString(), QString("NOT USED"));
-        byte["fuseBits"] = QJsonArray {bits.at(0)};
-        written["fusesBytes"] = QJsonArray {byte};
-        QCOMPARE(QJsonDocument(written).toJson(), QJsonDocument(object(full)).toJson());
+        // The extra names go out under another key than they come in by.
+        const QByteArray written = folder.read(file).replace("configurationList", "profilesList");
+        QCOMPARE(QJsonDocument(object(written)).toJson(), QJsonDocument(object(full)).toJson());
 
         QVERIFY(record.loadFromFile(file) && record.configurationList.isEmpty());
         QVERIFY(!record.saveToFile("no-such-folder/save.json"));
@@ -91,7 +82,7 @@ private slots:
             folder.write(file, QByteArray(full).replace(flag + "\": false", flag + "\": true"));
             SettingsRecord record;
             QVERIFY(record.loadFromFile(file) && record.saveToFile(file));
-            QCOMPARE(folder.read(file).count("true"), 2); // this one, and the fuse bit's
+            QCOMPARE(folder.read(file).count("true"), 9); // this one, and the fuse bits'
             QVERIFY2(folder.read(file).contains(flag + "\": true"), flag);
         }
     }
