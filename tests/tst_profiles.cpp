@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest>
 
 namespace {
@@ -164,16 +165,33 @@ private slots:
         QCOMPARE(tab.click(tab.write), QString("AVRDUDE: Verification error.|-U flash"));
         QCOMPARE(tab.avrdude.logText().count("Korvel: "), 1);
 
-        // Write again in the middle: the new start is refused a run, and the old run's end goes on with its steps. The
-        // box of a finished writing is no hindrance to that.
-        tab.folder.write("script", "wait 200\nerr done");
+        // Started again while the box of the failed step is open: a writing like any other.
+        tab.boxes.delay = 300;
+        tab.tick("u");
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, this, [&tab, &poll] {
+            if (QApplication::activeModalWidget()) {
+                poll.stop();
+                tab.folder.write("script", "wait 200\nerr done");
+                tab.write->click();
+            }
+        });
+        poll.start(10);
+        tab.write->click();
+        QTRY_COMPARE(tab.requests().size(), 6);
+        QTRY_VERIFY(tab.isIdle() && !QApplication::activeModalWidget());
+        const QString fuses = "Fuse bits write successfully.\nFuse bits verify successfully.";
+        QCOMPARE(tab.boxes.take(), QStringList({"AVRDUDE: Verification error.", "Profiles: " + fuses}));
+
+        // Started again in the middle of a run: the new first step is refused, and the old run's end goes on with the
+        // new ones.
         tab.tick("fu");
         tab.write->click();
-        tab.tick("u");
+        tab.tick("eu");
         tab.write->click();
         QCOMPARE(tab.boxes.wait(),
-                 QStringList {"Profiles: Fuse bits write successfully.\nFuse bits verify successfully."});
-        QCOMPARE(tab.requests().mid(4), QStringList {"-U flash"});
+                 QStringList {"Profiles: Eeprom write successfully.\nEeprom verify successfully.\n" + fuses});
+        QCOMPARE(tab.requests().mid(6), QStringList({"-U flash", "-Ulock:w:0x0:m"}));
     }
 };
 
