@@ -10,5 +10,5 @@ echo "clang-format: ${#sources[@]} files are in order"
 # clang-tidy wants the generated headers and a record of how each file is compiled.
 build release
 mapfile -t units < <(git ls-files 'src/*.cpp' 'tools/*.cpp')
-printf '%s\0' "${units[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/release 2>/dev/null
+printf '%s\0' "${units[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/release
 echo "clang-tidy: ${#units[@]} files are in order"
