@@ -23,5 +23,5 @@ public:
 private:
     QComboBox* m_profiles;
     QPushButton* m_write;
-    std::unique_ptr<QCheckBox> m_externalButton; ///< deliberately on no panel: its text is kept for translators
+    std::unique_ptr<QCheckBox> m_externalButton; ///< deliberately on no panel and without effect
 };
