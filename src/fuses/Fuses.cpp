@@ -12,25 +12,26 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     : QWidget(parent)
     , m_avrdude(avrdude)
     , m_bytesModel(new BytesModel(avrdude, this))
+    , m_scrollArea(new QScrollArea(this))
 {
     auto* bytesView = new FusesBytesView;
-    auto* scrollArea = new QScrollArea(this);
-    scrollArea->setWidgetResizable(true);
-    scrollArea->setWidget(bytesView);
-    scrollArea->setStyleSheet(QStringLiteral("QScrollArea { border: none; background: transparent; }"));
-    scrollArea->viewport()->setAutoFillBackground(false);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setWidget(bytesView);
+    m_scrollArea->setStyleSheet(QStringLiteral("QScrollArea { border: none; background: transparent; }"));
+    m_scrollArea->viewport()->setAutoFillBackground(false);
     bytesView->setAutoFillBackground(false);
     auto* buttonsView = new FusesButtonsView(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new FusesTextView(this));
-    layout->addWidget(scrollArea);
+    layout->addWidget(m_scrollArea);
     layout->addWidget(buttonsView);
 
     m_bytes = new FusesBytes(avrdude, *bytesView, this);
@@ -47,6 +48,7 @@ void Fuses::loadMcu(const QString& name)
 void Fuses::rebuild()
 {
     m_bytes->rebuild();
+    m_scrollArea->verticalScrollBar()->setValue(0);
 }
 
 void Fuses::refresh()

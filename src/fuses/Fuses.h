@@ -5,6 +5,7 @@
 class Avrdude;
 class BytesModel;
 class FusesBytes;
+class QScrollArea;
 
 /// The Fuses tab: an editor for each fuse byte of the microcontroller, and what is done with all of them.
 class Fuses : public QWidget
@@ -18,7 +19,7 @@ public:
     /// their defaults. The editors follow with rebuild().
     void loadMcu(const QString& name);
 
-    /// Makes the editors anew from the settings record. Due whenever its list of fuse bytes was replaced.
+    /// Makes the editors anew from the settings record and shows the first. Due whenever its list of fuse bytes was replaced.
     void rebuild();
 
 private:
@@ -28,5 +29,6 @@ private:
 
     Avrdude& m_avrdude;
     BytesModel* m_bytesModel;
+    QScrollArea* m_scrollArea;
     FusesBytes* m_bytes;
 };
