@@ -7,6 +7,7 @@ ListComboBox::ListComboBox(QWidget* parent)
     : QComboBox(parent)
 {
     setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    connect(this, &QComboBox::currentTextChanged, this, &QWidget::setToolTip);
 }
 
 void ListComboBox::showPopup()

@@ -3,7 +3,8 @@
 #include <QComboBox>
 
 /// A combo box whose list opens as a plain scrolling drop-down, wide enough for its longest entry however narrow the
-/// box is, instead of the platform's popup menu that may cover the screen.
+/// box is, instead of the platform's popup menu that may cover the screen. What the box itself cuts off stands in its
+/// tooltip.
 class ListComboBox : public QComboBox
 {
     Q_OBJECT
