@@ -2,6 +2,7 @@
 #include "app/ProductInfo.h"
 #include "app/Startup.h"
 #include "i18n/JsonToQtTranslator.h"
+#include "i18n/LanguageFiles.h"
 #include "update/UpdateChecker.h"
 
 #include <QApplication>
@@ -12,6 +13,8 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
+
+    LanguageFiles::useUtf8Names();
 
     // Before any widget: the texts that widgets show are translated while they are built.
     auto* translator = new JsonToQtTranslator(&application);

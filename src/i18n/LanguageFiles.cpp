@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTextCodec>
 
 QString LanguageFiles::baseFolder()
 {
@@ -18,4 +19,11 @@ QString LanguageFiles::path(const QString& language)
 QString LanguageFiles::applicationFolder()
 {
     return QCoreApplication::applicationDirPath() + QLatin1String("/Languages");
+}
+
+void LanguageFiles::useUtf8Names()
+{
+#ifdef Q_OS_UNIX
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
 }
