@@ -18,7 +18,7 @@ if [ "$(uname -s)" = Linux ] && [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     packages+=(xvfb xdotool imagemagick)
 fi
 need_packages "${packages[@]}"
-build release korvel korvel-virtual-programmer korvel_data
+build release korvel korvel-virtual-programmer korvel_data korvel_languages
 
 started=()
 stop_all() {

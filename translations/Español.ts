@@ -1,0 +1,395 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- Términos: fusibles y bytes de fusibles (fuse bits), bits de bloqueo (lock bits), byte de calibración, reloj para la
+     velocidad del programador; «grabar» para escribir en el chip. -->
+<TS version="2.1" language="es_ES" sourcelanguage="en_US">
+<context>
+    <name>Attributes</name>
+    <message>
+        <source>MCU erased successfully.</source>
+        <translation>MCU borrado correctamente.</translation>
+    </message>
+    <message>
+        <source>MCU auto-detected successfully. Do you want to continue?</source>
+        <translation>MCU detectado correctamente. ¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Calibration byte read successfully.</source>
+        <translation>Byte de calibración leído correctamente.</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesView</name>
+    <message>
+        <source>Auto-Detect</source>
+        <translation>Detectar</translation>
+    </message>
+    <message>
+        <source>Erase all</source>
+        <translation>Borrar todo</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>MCU</source>
+        <translation>MCU</translation>
+    </message>
+    <message>
+        <source>Calibration Byte</source>
+        <translation>Byte de calibración</translation>
+    </message>
+</context>
+<context>
+    <name>Avrdude</name>
+    <message>
+        <source>avrdude not found</source>
+        <translation>No se encuentra avrdude</translation>
+    </message>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Programador no encontrado.</translation>
+    </message>
+</context>
+<context>
+    <name>BytesModel</name>
+    <message>
+        <source>MCU JSON FILE NOT FOUND</source>
+        <translation>ARCHIVO JSON DEL MCU NO ENCONTRADO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>No se puede abrir el archivo</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERROR EN EL ARCHIVO JSON</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationView</name>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Add / Remove profile</source>
+        <translation>Añadir / quitar perfil</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Nombre del perfil</translation>
+    </message>
+    <message>
+        <source>Description (optional)</source>
+        <translation>Descripción (opcional)</translation>
+    </message>
+    <message>
+        <source>&quot;Add&quot; - save current settings as a profile.
+&quot;Remove&quot; - remove selected profile.</source>
+        <translation>«Añadir» - guarda los ajustes actuales.
+«Quitar» - quita el perfil elegido.</translation>
+    </message>
+</context>
+<context>
+    <name>Fuses</name>
+    <message>
+        <source>Fuse bytes set to default values successfully.</source>
+        <translation>Bytes de fusibles puestos en los valores de fábrica.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtons</name>
+    <message>
+        <source>Fuse bytes written successfully.</source>
+        <translation>Bytes de fusibles grabados correctamente.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes verified successfully.</source>
+        <translation>Bytes de fusibles verificados correctamente.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes read successfully.</source>
+        <translation>Bytes de fusibles leídos correctamente.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtonsView</name>
+    <message>
+        <source>Write</source>
+        <translation>Grabar</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Verificar</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>De fábrica</translation>
+    </message>
+</context>
+<context>
+    <name>KorvelApp</name>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>No se pudieron guardar los ajustes en el archivo: </translation>
+    </message>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>No se pudieron cargar los ajustes del archivo: </translation>
+    </message>
+</context>
+<context>
+    <name>Memory</name>
+    <message>
+        <source>EEPROM written successfully.</source>
+        <translation>EEPROM grabada correctamente.</translation>
+    </message>
+    <message>
+        <source>EEPROM verified successfully.</source>
+        <translation>EEPROM verificada correctamente.</translation>
+    </message>
+    <message>
+        <source>EEPROM read successfully.</source>
+        <translation>EEPROM leída correctamente.</translation>
+    </message>
+    <message>
+        <source>FLASH written successfully.</source>
+        <translation>FLASH grabada correctamente.</translation>
+    </message>
+    <message>
+        <source>FLASH verified successfully.</source>
+        <translation>FLASH verificada correctamente.</translation>
+    </message>
+    <message>
+        <source>FLASH read successfully.</source>
+        <translation>FLASH leída correctamente.</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryView</name>
+    <message>
+        <source>Write</source>
+        <translation>Grabar</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Verificar</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Programador no encontrado.</translation>
+    </message>
+    <message>
+        <source>Programmer did not detect the microcontroller
+
+- Check connections and power supply
+- Set a lower speed (Port &amp; Speed)</source>
+        <translation>El programador no detectó el microcontrolador
+
+- Compruebe las conexiones y la alimentación
+- Elija un reloj más lento (Puerto &amp; reloj)</translation>
+    </message>
+    <message>
+        <source>Could not read contents
+Device is either blank or read-protected (Lock Bits are set).</source>
+        <translation>No se pudo leer el contenido
+El dispositivo está vacío o protegido contra lectura (bits de bloqueo activos).</translation>
+    </message>
+    <message>
+        <source>Wrong microcontroller selected.</source>
+        <translation>El microcontrolador elegido no es el correcto.</translation>
+    </message>
+    <message>
+        <source>Verification error.</source>
+        <translation>Error de verificación.</translation>
+    </message>
+    <message>
+        <source>Invalid file format. Please choose another file.</source>
+        <translation>Formato de archivo no válido. Elija otro archivo.</translation>
+    </message>
+    <message>
+        <source>See the message in the dialog box.</source>
+        <translation>Vea el mensaje en la ventana de salida.</translation>
+    </message>
+    <message>
+        <source>UsbAsp not found.</source>
+        <translation>Usar pulsador externo</translation>
+    </message>
+    <message>
+        <source>No such file or directory.</source>
+        <translation>No existe el archivo o la carpeta.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPresenter</name>
+    <message>
+        <source>Configuration named «%1» already exists.
+Do you want to overwrite it?</source>
+        <translation>La configuración «%1» ya existe.
+¿Desea sobrescribirla?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Delete this profile?</source>
+        <translation>¿Borrar este perfil?</translation>
+    </message>
+    <message>
+        <source>Select profile...</source>
+        <translation>Elegir perfil...</translation>
+    </message>
+    <message>
+        <source>Flash write successfully.
+Flash verify successfully.
+</source>
+        <translation>Flash grabada correctamente.
+Flash verificada correctamente.
+</translation>
+    </message>
+    <message>
+        <source>Eeprom write successfully.
+Eeprom verify successfully.
+</source>
+        <translation>EEPROM grabada correctamente.
+EEPROM verificada correctamente.
+</translation>
+    </message>
+    <message>
+        <source>Fuse bits write successfully.
+Fuse bits verify successfully.</source>
+        <translation>Fusibles grabados correctamente.
+Fusibles verificados correctamente.</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>MCU selected: </source>
+        <translation>MCU elegido: </translation>
+    </message>
+    <message>
+        <source>.
+Fuse bytes set to datasheet default values.</source>
+        <translation>.
+Bytes de fusibles en los valores de la hoja de datos.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammingView</name>
+    <message>
+        <source>Write</source>
+        <translation>Grabar</translation>
+    </message>
+    <message>
+        <source>Use external button</source>
+        <translation>UsbAsp no encontrado.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfiles</translation>
+    </message>
+    <message>
+        <source>Write Selected Areas</source>
+        <translation>Grabar las áreas elegidas</translation>
+    </message>
+</context>
+<context>
+    <name>SelectView</name>
+    <message>
+        <source>FLASH</source>
+        <translation>FLASH</translation>
+    </message>
+    <message>
+        <source>EEPROM</source>
+        <translation>EEPROM</translation>
+    </message>
+    <message>
+        <source>FUSES</source>
+        <translation>FUSIBLES</translation>
+    </message>
+    <message>
+        <source>Select memory areas to write:</source>
+        <translation>Áreas de memoria para grabar:</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPresenter</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>ARCHIVO JSON NO ENCONTRADO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>No se puede abrir el archivo</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERROR EN EL ARCHIVO JSON</translation>
+    </message>
+    <message>
+        <source>Please restart the application to apply language changes.</source>
+        <translation>Reinicie el programa para aplicar el cambio de idioma.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Programmer</source>
+        <translation>Programador</translation>
+    </message>
+    <message>
+        <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
+        <translation>Puerto &amp;&amp; reloj ( nuevo -&gt; 185kHz )</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Download URL is missing in server response.</source>
+        <translation>Falta la dirección de descarga en la respuesta del servidor.</translation>
+    </message>
+    <message>
+        <source>New version %1 available.
+
+Open download page?</source>
+        <translation>La versión %1 está disponible.
+
+¿Abrir la página de descarga?</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>Actualización disponible</translation>
+    </message>
+    <message>
+        <source>Could not open the link.</source>
+        <translation>No se pudo abrir el enlace.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,395 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- Termes : fusibles et octets de fusibles (fuse bits), bits de verrouillage (lock bits), octet de calibration, débit
+     pour la vitesse du programmateur. -->
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>Attributes</name>
+    <message>
+        <source>MCU erased successfully.</source>
+        <translation>MCU effacé.</translation>
+    </message>
+    <message>
+        <source>MCU auto-detected successfully. Do you want to continue?</source>
+        <translation>MCU détecté. Voulez-vous continuer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Calibration byte read successfully.</source>
+        <translation>Octet de calibration lu.</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesView</name>
+    <message>
+        <source>Auto-Detect</source>
+        <translation>Détecter</translation>
+    </message>
+    <message>
+        <source>Erase all</source>
+        <translation>Tout effacer</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>MCU</source>
+        <translation>MCU</translation>
+    </message>
+    <message>
+        <source>Calibration Byte</source>
+        <translation>Octet de calibration</translation>
+    </message>
+</context>
+<context>
+    <name>Avrdude</name>
+    <message>
+        <source>avrdude not found</source>
+        <translation>avrdude introuvable</translation>
+    </message>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Programmateur introuvable.</translation>
+    </message>
+</context>
+<context>
+    <name>BytesModel</name>
+    <message>
+        <source>MCU JSON FILE NOT FOUND</source>
+        <translation>FICHIER JSON DU MCU INTROUVABLE</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERREUR DANS LE FICHIER JSON</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationView</name>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Add / Remove profile</source>
+        <translation>Ajouter / retirer un profil</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Nom du profil</translation>
+    </message>
+    <message>
+        <source>Description (optional)</source>
+        <translation>Description (facultative)</translation>
+    </message>
+    <message>
+        <source>&quot;Add&quot; - save current settings as a profile.
+&quot;Remove&quot; - remove selected profile.</source>
+        <translation>«&#xa0;Ajouter&#xa0;» - garde les réglages actuels.
+«&#xa0;Retirer&#xa0;» - retire le profil choisi.</translation>
+    </message>
+</context>
+<context>
+    <name>Fuses</name>
+    <message>
+        <source>Fuse bytes set to default values successfully.</source>
+        <translation>Octets de fusibles remis aux valeurs d&apos;origine.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtons</name>
+    <message>
+        <source>Fuse bytes written successfully.</source>
+        <translation>Octets de fusibles écrits.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes verified successfully.</source>
+        <translation>Octets de fusibles vérifiés.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes read successfully.</source>
+        <translation>Octets de fusibles lus.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtonsView</name>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Vérifier</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>D&apos;origine</translation>
+    </message>
+</context>
+<context>
+    <name>KorvelApp</name>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Impossible d&apos;enregistrer les réglages dans le fichier&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Impossible de charger les réglages du fichier&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>Memory</name>
+    <message>
+        <source>EEPROM written successfully.</source>
+        <translation>EEPROM écrite.</translation>
+    </message>
+    <message>
+        <source>EEPROM verified successfully.</source>
+        <translation>EEPROM vérifiée.</translation>
+    </message>
+    <message>
+        <source>EEPROM read successfully.</source>
+        <translation>EEPROM lue.</translation>
+    </message>
+    <message>
+        <source>FLASH written successfully.</source>
+        <translation>FLASH écrite.</translation>
+    </message>
+    <message>
+        <source>FLASH verified successfully.</source>
+        <translation>FLASH vérifiée.</translation>
+    </message>
+    <message>
+        <source>FLASH read successfully.</source>
+        <translation>FLASH lue.</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryView</name>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Vérifier</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Programmateur introuvable.</translation>
+    </message>
+    <message>
+        <source>Programmer did not detect the microcontroller
+
+- Check connections and power supply
+- Set a lower speed (Port &amp; Speed)</source>
+        <translation>Le programmateur n&apos;a pas détecté de microcontrôleur
+
+- Vérifiez les connexions et l&apos;alimentation
+- Choisissez un débit plus bas (Port &amp; débit)</translation>
+    </message>
+    <message>
+        <source>Could not read contents
+Device is either blank or read-protected (Lock Bits are set).</source>
+        <translation>Impossible de lire le contenu
+Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</translation>
+    </message>
+    <message>
+        <source>Wrong microcontroller selected.</source>
+        <translation>Le microcontrôleur choisi n&apos;est pas le bon.</translation>
+    </message>
+    <message>
+        <source>Verification error.</source>
+        <translation>Erreur de vérification.</translation>
+    </message>
+    <message>
+        <source>Invalid file format. Please choose another file.</source>
+        <translation>Format de fichier non valable. Choisissez un autre fichier.</translation>
+    </message>
+    <message>
+        <source>See the message in the dialog box.</source>
+        <translation>Voyez le message dans la fenêtre de sortie.</translation>
+    </message>
+    <message>
+        <source>UsbAsp not found.</source>
+        <translation>Utiliser un bouton externe</translation>
+    </message>
+    <message>
+        <source>No such file or directory.</source>
+        <translation>Fichier ou dossier introuvable.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPresenter</name>
+    <message>
+        <source>Configuration named «%1» already exists.
+Do you want to overwrite it?</source>
+        <translation>La configuration «&#xa0;%1&#xa0;» existe déjà.
+Voulez-vous la remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete this profile?</source>
+        <translation>Supprimer ce profil&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Select profile...</source>
+        <translation>Choisir un profil...</translation>
+    </message>
+    <message>
+        <source>Flash write successfully.
+Flash verify successfully.
+</source>
+        <translation>Flash écrite.
+Flash vérifiée.
+</translation>
+    </message>
+    <message>
+        <source>Eeprom write successfully.
+Eeprom verify successfully.
+</source>
+        <translation>EEPROM écrite.
+EEPROM vérifiée.
+</translation>
+    </message>
+    <message>
+        <source>Fuse bits write successfully.
+Fuse bits verify successfully.</source>
+        <translation>Fusibles écrits.
+Fusibles vérifiés.</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>MCU selected: </source>
+        <translation>MCU choisi&#xa0;: </translation>
+    </message>
+    <message>
+        <source>.
+Fuse bytes set to datasheet default values.</source>
+        <translation>.
+Octets de fusibles mis aux valeurs de la fiche technique.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammingView</name>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Use external button</source>
+        <translation>UsbAsp introuvable.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>Write Selected Areas</source>
+        <translation>Écrire les zones choisies</translation>
+    </message>
+</context>
+<context>
+    <name>SelectView</name>
+    <message>
+        <source>FLASH</source>
+        <translation>FLASH</translation>
+    </message>
+    <message>
+        <source>EEPROM</source>
+        <translation>EEPROM</translation>
+    </message>
+    <message>
+        <source>FUSES</source>
+        <translation>FUSIBLES</translation>
+    </message>
+    <message>
+        <source>Select memory areas to write:</source>
+        <translation>Zones de mémoire à écrire&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPresenter</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>FICHIER JSON INTROUVABLE</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERREUR DANS LE FICHIER JSON</translation>
+    </message>
+    <message>
+        <source>Please restart the application to apply language changes.</source>
+        <translation>Redémarrez le programme pour changer de langue.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Programmer</source>
+        <translation>Programmateur</translation>
+    </message>
+    <message>
+        <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
+        <translation>Port &amp;&amp; débit ( neuf -&gt; 185kHz )</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Download URL is missing in server response.</source>
+        <translation>L&apos;adresse de téléchargement manque dans la réponse du serveur.</translation>
+    </message>
+    <message>
+        <source>New version %1 available.
+
+Open download page?</source>
+        <translation>La version %1 est disponible.
+
+Ouvrir la page de téléchargement&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>Mise à jour disponible</translation>
+    </message>
+    <message>
+        <source>Could not open the link.</source>
+        <translation>Impossible d&apos;ouvrir le lien.</translation>
+    </message>
+</context>
+</TS>

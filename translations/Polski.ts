@@ -1,0 +1,395 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- Terminy: fusebity, bajty fuse i lockbity, jak przyjęło się mówić; bajt kalibracyjny; zegar jako szybkość
+     programatora. -->
+<TS version="2.1" language="pl_PL" sourcelanguage="en_US">
+<context>
+    <name>Attributes</name>
+    <message>
+        <source>MCU erased successfully.</source>
+        <translation>Skasowano MCU.</translation>
+    </message>
+    <message>
+        <source>MCU auto-detected successfully. Do you want to continue?</source>
+        <translation>Wykryto MCU. Czy kontynuować?</translation>
+    </message>
+    <message>
+        <source>Calibration byte read successfully.</source>
+        <translation>Odczytano bajt kalibracyjny.</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesView</name>
+    <message>
+        <source>Auto-Detect</source>
+        <translation>Wykryj</translation>
+    </message>
+    <message>
+        <source>Erase all</source>
+        <translation>Skasuj układ</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Odczytaj</translation>
+    </message>
+    <message>
+        <source>MCU</source>
+        <translation>MCU</translation>
+    </message>
+    <message>
+        <source>Calibration Byte</source>
+        <translation>Bajt kalibracyjny</translation>
+    </message>
+</context>
+<context>
+    <name>Avrdude</name>
+    <message>
+        <source>avrdude not found</source>
+        <translation>Nie znaleziono avrdude</translation>
+    </message>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Nie znaleziono programatora.</translation>
+    </message>
+</context>
+<context>
+    <name>BytesModel</name>
+    <message>
+        <source>MCU JSON FILE NOT FOUND</source>
+        <translation>NIE ZNALEZIONO PLIKU JSON DLA MCU</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Nie można otworzyć pliku</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>BŁĄD W PLIKU JSON</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationView</name>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Add / Remove profile</source>
+        <translation>Dodaj / usuń profil</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Nazwa profilu</translation>
+    </message>
+    <message>
+        <source>Description (optional)</source>
+        <translation>Opis (opcjonalny)</translation>
+    </message>
+    <message>
+        <source>&quot;Add&quot; - save current settings as a profile.
+&quot;Remove&quot; - remove selected profile.</source>
+        <translation>„Dodaj” - zapisuje bieżące ustawienia.
+„Usuń” - usuwa wybrany profil.</translation>
+    </message>
+</context>
+<context>
+    <name>Fuses</name>
+    <message>
+        <source>Fuse bytes set to default values successfully.</source>
+        <translation>Przywrócono domyślne wartości bajtów fuse.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtons</name>
+    <message>
+        <source>Fuse bytes written successfully.</source>
+        <translation>Zapisano bajty fuse.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes verified successfully.</source>
+        <translation>Zweryfikowano bajty fuse.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes read successfully.</source>
+        <translation>Odczytano bajty fuse.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtonsView</name>
+    <message>
+        <source>Write</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Weryfikuj</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Odczytaj</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Domyślne</translation>
+    </message>
+</context>
+<context>
+    <name>KorvelApp</name>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Nie udało się zapisać ustawień w pliku: </translation>
+    </message>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Nie udało się wczytać ustawień z pliku: </translation>
+    </message>
+</context>
+<context>
+    <name>Memory</name>
+    <message>
+        <source>EEPROM written successfully.</source>
+        <translation>Zapisano pamięć EEPROM.</translation>
+    </message>
+    <message>
+        <source>EEPROM verified successfully.</source>
+        <translation>Zweryfikowano pamięć EEPROM.</translation>
+    </message>
+    <message>
+        <source>EEPROM read successfully.</source>
+        <translation>Odczytano pamięć EEPROM.</translation>
+    </message>
+    <message>
+        <source>FLASH written successfully.</source>
+        <translation>Zapisano pamięć FLASH.</translation>
+    </message>
+    <message>
+        <source>FLASH verified successfully.</source>
+        <translation>Zweryfikowano pamięć FLASH.</translation>
+    </message>
+    <message>
+        <source>FLASH read successfully.</source>
+        <translation>Odczytano pamięć FLASH.</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryView</name>
+    <message>
+        <source>Write</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Odczytaj</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Weryfikuj</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Nie znaleziono programatora.</translation>
+    </message>
+    <message>
+        <source>Programmer did not detect the microcontroller
+
+- Check connections and power supply
+- Set a lower speed (Port &amp; Speed)</source>
+        <translation>Programator nie wykrył mikrokontrolera
+
+- Sprawdź połączenia i zasilanie
+- Ustaw wolniejszy zegar (Port &amp; zegar)</translation>
+    </message>
+    <message>
+        <source>Could not read contents
+Device is either blank or read-protected (Lock Bits are set).</source>
+        <translation>Nie udało się odczytać zawartości
+Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translation>
+    </message>
+    <message>
+        <source>Wrong microcontroller selected.</source>
+        <translation>Wybrano niewłaściwy mikrokontroler.</translation>
+    </message>
+    <message>
+        <source>Verification error.</source>
+        <translation>Błąd weryfikacji.</translation>
+    </message>
+    <message>
+        <source>Invalid file format. Please choose another file.</source>
+        <translation>Nieprawidłowy format pliku. Wybierz inny plik.</translation>
+    </message>
+    <message>
+        <source>See the message in the dialog box.</source>
+        <translation>Zobacz komunikat w oknie wyjścia.</translation>
+    </message>
+    <message>
+        <source>UsbAsp not found.</source>
+        <translation>Użyj zewnętrznego przycisku</translation>
+    </message>
+    <message>
+        <source>No such file or directory.</source>
+        <translation>Nie ma takiego pliku ani katalogu.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPresenter</name>
+    <message>
+        <source>Configuration named «%1» already exists.
+Do you want to overwrite it?</source>
+        <translation>Konfiguracja „%1” już istnieje.
+Czy ją zastąpić?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Delete this profile?</source>
+        <translation>Usunąć ten profil?</translation>
+    </message>
+    <message>
+        <source>Select profile...</source>
+        <translation>Wybierz profil...</translation>
+    </message>
+    <message>
+        <source>Flash write successfully.
+Flash verify successfully.
+</source>
+        <translation>Zapisano pamięć Flash.
+Zweryfikowano pamięć Flash.
+</translation>
+    </message>
+    <message>
+        <source>Eeprom write successfully.
+Eeprom verify successfully.
+</source>
+        <translation>Zapisano pamięć EEPROM.
+Zweryfikowano pamięć EEPROM.
+</translation>
+    </message>
+    <message>
+        <source>Fuse bits write successfully.
+Fuse bits verify successfully.</source>
+        <translation>Zapisano fusebity.
+Zweryfikowano fusebity.</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>MCU selected: </source>
+        <translation>Wybrano MCU: </translation>
+    </message>
+    <message>
+        <source>.
+Fuse bytes set to datasheet default values.</source>
+        <translation>.
+Bajty fuse mają wartości domyślne z noty katalogowej.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammingView</name>
+    <message>
+        <source>Write</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Use external button</source>
+        <translation>Nie znaleziono UsbAsp.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Write Selected Areas</source>
+        <translation>Zapisz wybrane obszary</translation>
+    </message>
+</context>
+<context>
+    <name>SelectView</name>
+    <message>
+        <source>FLASH</source>
+        <translation>FLASH</translation>
+    </message>
+    <message>
+        <source>EEPROM</source>
+        <translation>EEPROM</translation>
+    </message>
+    <message>
+        <source>FUSES</source>
+        <translation>FUSEBITY</translation>
+    </message>
+    <message>
+        <source>Select memory areas to write:</source>
+        <translation>Obszary pamięci do zapisu:</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPresenter</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>NIE ZNALEZIONO PLIKU JSON</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Nie można otworzyć pliku</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>BŁĄD W PLIKU JSON</translation>
+    </message>
+    <message>
+        <source>Please restart the application to apply language changes.</source>
+        <translation>Uruchom program ponownie, aby zmienić język.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Programmer</source>
+        <translation>Programator</translation>
+    </message>
+    <message>
+        <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
+        <translation>Port &amp;&amp; zegar ( nowy MCU -&gt; 185kHz )</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Error</source>
+        <translation>Błąd</translation>
+    </message>
+    <message>
+        <source>Download URL is missing in server response.</source>
+        <translation>W odpowiedzi serwera brakuje adresu pobierania.</translation>
+    </message>
+    <message>
+        <source>New version %1 available.
+
+Open download page?</source>
+        <translation>Dostępna jest wersja %1.
+
+Otworzyć stronę pobierania?</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>Dostępna aktualizacja</translation>
+    </message>
+    <message>
+        <source>Could not open the link.</source>
+        <translation>Nie udało się otworzyć odnośnika.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,395 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- Português do Brasil. Termos: fuse, fuse bits e lock bits ficam em inglês, como é de costume; byte de calibração;
+     gravador para o aparelho; clock para a velocidade dele. -->
+<TS version="2.1" language="pt_BR" sourcelanguage="en_US">
+<context>
+    <name>Attributes</name>
+    <message>
+        <source>MCU erased successfully.</source>
+        <translation>MCU apagado com sucesso.</translation>
+    </message>
+    <message>
+        <source>MCU auto-detected successfully. Do you want to continue?</source>
+        <translation>MCU detectado com sucesso. Deseja continuar?</translation>
+    </message>
+    <message>
+        <source>Calibration byte read successfully.</source>
+        <translation>Byte de calibração lido com sucesso.</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesView</name>
+    <message>
+        <source>Auto-Detect</source>
+        <translation>Detectar</translation>
+    </message>
+    <message>
+        <source>Erase all</source>
+        <translation>Apagar tudo</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Ler</translation>
+    </message>
+    <message>
+        <source>MCU</source>
+        <translation>MCU</translation>
+    </message>
+    <message>
+        <source>Calibration Byte</source>
+        <translation>Byte de calibração</translation>
+    </message>
+</context>
+<context>
+    <name>Avrdude</name>
+    <message>
+        <source>avrdude not found</source>
+        <translation>avrdude não encontrado</translation>
+    </message>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Gravador não encontrado.</translation>
+    </message>
+</context>
+<context>
+    <name>BytesModel</name>
+    <message>
+        <source>MCU JSON FILE NOT FOUND</source>
+        <translation>ARQUIVO JSON DO MCU NÃO ENCONTRADO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Não foi possível abrir o arquivo</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERRO NO ARQUIVO JSON</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationView</name>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Add / Remove profile</source>
+        <translation>Adicionar / remover perfil</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Nome do perfil</translation>
+    </message>
+    <message>
+        <source>Description (optional)</source>
+        <translation>Descrição (opcional)</translation>
+    </message>
+    <message>
+        <source>&quot;Add&quot; - save current settings as a profile.
+&quot;Remove&quot; - remove selected profile.</source>
+        <translation>“Adicionar” - salva as configurações atuais.
+“Remover” - remove o perfil escolhido.</translation>
+    </message>
+</context>
+<context>
+    <name>Fuses</name>
+    <message>
+        <source>Fuse bytes set to default values successfully.</source>
+        <translation>Bytes de fuse restaurados para os valores padrão.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtons</name>
+    <message>
+        <source>Fuse bytes written successfully.</source>
+        <translation>Bytes de fuse gravados com sucesso.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes verified successfully.</source>
+        <translation>Bytes de fuse verificados com sucesso.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes read successfully.</source>
+        <translation>Bytes de fuse lidos com sucesso.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtonsView</name>
+    <message>
+        <source>Write</source>
+        <translation>Gravar</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Verificar</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Ler</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Padrão</translation>
+    </message>
+</context>
+<context>
+    <name>KorvelApp</name>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Não foi possível salvar as configurações no arquivo: </translation>
+    </message>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Não foi possível carregar as configurações do arquivo: </translation>
+    </message>
+</context>
+<context>
+    <name>Memory</name>
+    <message>
+        <source>EEPROM written successfully.</source>
+        <translation>EEPROM gravada com sucesso.</translation>
+    </message>
+    <message>
+        <source>EEPROM verified successfully.</source>
+        <translation>EEPROM verificada com sucesso.</translation>
+    </message>
+    <message>
+        <source>EEPROM read successfully.</source>
+        <translation>EEPROM lida com sucesso.</translation>
+    </message>
+    <message>
+        <source>FLASH written successfully.</source>
+        <translation>FLASH gravada com sucesso.</translation>
+    </message>
+    <message>
+        <source>FLASH verified successfully.</source>
+        <translation>FLASH verificada com sucesso.</translation>
+    </message>
+    <message>
+        <source>FLASH read successfully.</source>
+        <translation>FLASH lida com sucesso.</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryView</name>
+    <message>
+        <source>Write</source>
+        <translation>Gravar</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Ler</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Verificar</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Gravador não encontrado.</translation>
+    </message>
+    <message>
+        <source>Programmer did not detect the microcontroller
+
+- Check connections and power supply
+- Set a lower speed (Port &amp; Speed)</source>
+        <translation>O gravador não detectou o microcontrolador
+
+- Verifique as conexões e a alimentação
+- Escolha um clock mais lento (Porta &amp; clock)</translation>
+    </message>
+    <message>
+        <source>Could not read contents
+Device is either blank or read-protected (Lock Bits are set).</source>
+        <translation>Não foi possível ler o conteúdo
+O dispositivo está vazio ou protegido contra leitura (lock bits ativos).</translation>
+    </message>
+    <message>
+        <source>Wrong microcontroller selected.</source>
+        <translation>O microcontrolador escolhido não é o correto.</translation>
+    </message>
+    <message>
+        <source>Verification error.</source>
+        <translation>Erro de verificação.</translation>
+    </message>
+    <message>
+        <source>Invalid file format. Please choose another file.</source>
+        <translation>Formato de arquivo inválido. Escolha outro arquivo.</translation>
+    </message>
+    <message>
+        <source>See the message in the dialog box.</source>
+        <translation>Veja a mensagem na janela de saída.</translation>
+    </message>
+    <message>
+        <source>UsbAsp not found.</source>
+        <translation>Usar botão externo</translation>
+    </message>
+    <message>
+        <source>No such file or directory.</source>
+        <translation>Arquivo ou pasta inexistente.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPresenter</name>
+    <message>
+        <source>Configuration named «%1» already exists.
+Do you want to overwrite it?</source>
+        <translation>A configuração “%1” já existe.
+Deseja substituí-la?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Delete this profile?</source>
+        <translation>Excluir este perfil?</translation>
+    </message>
+    <message>
+        <source>Select profile...</source>
+        <translation>Escolher perfil...</translation>
+    </message>
+    <message>
+        <source>Flash write successfully.
+Flash verify successfully.
+</source>
+        <translation>Flash gravada com sucesso.
+Flash verificada com sucesso.
+</translation>
+    </message>
+    <message>
+        <source>Eeprom write successfully.
+Eeprom verify successfully.
+</source>
+        <translation>EEPROM gravada com sucesso.
+EEPROM verificada com sucesso.
+</translation>
+    </message>
+    <message>
+        <source>Fuse bits write successfully.
+Fuse bits verify successfully.</source>
+        <translation>Fuse bits gravados com sucesso.
+Fuse bits verificados com sucesso.</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>MCU selected: </source>
+        <translation>MCU escolhido: </translation>
+    </message>
+    <message>
+        <source>.
+Fuse bytes set to datasheet default values.</source>
+        <translation>.
+Bytes de fuse nos valores padrão da folha de dados.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammingView</name>
+    <message>
+        <source>Write</source>
+        <translation>Gravar</translation>
+    </message>
+    <message>
+        <source>Use external button</source>
+        <translation>UsbAsp não encontrado.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfis</translation>
+    </message>
+    <message>
+        <source>Write Selected Areas</source>
+        <translation>Gravar as áreas escolhidas</translation>
+    </message>
+</context>
+<context>
+    <name>SelectView</name>
+    <message>
+        <source>FLASH</source>
+        <translation>FLASH</translation>
+    </message>
+    <message>
+        <source>EEPROM</source>
+        <translation>EEPROM</translation>
+    </message>
+    <message>
+        <source>FUSES</source>
+        <translation>FUSES</translation>
+    </message>
+    <message>
+        <source>Select memory areas to write:</source>
+        <translation>Áreas de memória a gravar:</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPresenter</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>ARQUIVO JSON NÃO ENCONTRADO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Não foi possível abrir o arquivo</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERRO NO ARQUIVO JSON</translation>
+    </message>
+    <message>
+        <source>Please restart the application to apply language changes.</source>
+        <translation>Reinicie o programa para mudar o idioma.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Programmer</source>
+        <translation>Gravador</translation>
+    </message>
+    <message>
+        <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
+        <translation>Porta &amp;&amp; clock ( novo -&gt; 185kHz )</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Download URL is missing in server response.</source>
+        <translation>Falta o endereço de download na resposta do servidor.</translation>
+    </message>
+    <message>
+        <source>New version %1 available.
+
+Open download page?</source>
+        <translation>A versão %1 está disponível.
+
+Abrir a página de download?</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>Atualização disponível</translation>
+    </message>
+    <message>
+        <source>Could not open the link.</source>
+        <translation>Não foi possível abrir o link.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,394 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- Термины: фьюз-биты и фьюз-байты, как принято говорить; биты защиты (lock bits), калибровочный байт, частота (bit clock); МК - микроконтроллер. -->
+<TS version="2.1" language="ru_RU" sourcelanguage="en_US">
+<context>
+    <name>Attributes</name>
+    <message>
+        <source>MCU erased successfully.</source>
+        <translation>МК успешно стёрт.</translation>
+    </message>
+    <message>
+        <source>MCU auto-detected successfully. Do you want to continue?</source>
+        <translation>МК успешно определён. Продолжить?</translation>
+    </message>
+    <message>
+        <source>Calibration byte read successfully.</source>
+        <translation>Калибровочный байт успешно прочитан.</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesView</name>
+    <message>
+        <source>Auto-Detect</source>
+        <translation>Определить</translation>
+    </message>
+    <message>
+        <source>Erase all</source>
+        <translation>Стереть всё</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Читать</translation>
+    </message>
+    <message>
+        <source>MCU</source>
+        <translation>МК</translation>
+    </message>
+    <message>
+        <source>Calibration Byte</source>
+        <translation>Калибровочный байт</translation>
+    </message>
+</context>
+<context>
+    <name>Avrdude</name>
+    <message>
+        <source>avrdude not found</source>
+        <translation>avrdude не найден</translation>
+    </message>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Программатор не найден.</translation>
+    </message>
+</context>
+<context>
+    <name>BytesModel</name>
+    <message>
+        <source>MCU JSON FILE NOT FOUND</source>
+        <translation>ФАЙЛ JSON ДЛЯ МК НЕ НАЙДЕН</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Не удаётся открыть файл</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ОШИБКА В ФАЙЛЕ JSON</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationView</name>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Add / Remove profile</source>
+        <translation>Добавить / убрать профиль</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>Имя профиля</translation>
+    </message>
+    <message>
+        <source>Description (optional)</source>
+        <translation>Описание (необязательно)</translation>
+    </message>
+    <message>
+        <source>&quot;Add&quot; - save current settings as a profile.
+&quot;Remove&quot; - remove selected profile.</source>
+        <translation>«Добавить» - сохранить настройки.
+«Убрать» - убрать выбранный профиль.</translation>
+    </message>
+</context>
+<context>
+    <name>Fuses</name>
+    <message>
+        <source>Fuse bytes set to default values successfully.</source>
+        <translation>Фьюз-байты установлены по умолчанию.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtons</name>
+    <message>
+        <source>Fuse bytes written successfully.</source>
+        <translation>Фьюз-байты успешно записаны.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes verified successfully.</source>
+        <translation>Фьюз-байты успешно проверены.</translation>
+    </message>
+    <message>
+        <source>Fuse bytes read successfully.</source>
+        <translation>Фьюз-байты успешно прочитаны.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtonsView</name>
+    <message>
+        <source>Write</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Проверить</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Читать</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>По умолчанию</translation>
+    </message>
+</context>
+<context>
+    <name>KorvelApp</name>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Не удалось сохранить настройки в файл: </translation>
+    </message>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Не удалось загрузить настройки из файла: </translation>
+    </message>
+</context>
+<context>
+    <name>Memory</name>
+    <message>
+        <source>EEPROM written successfully.</source>
+        <translation>EEPROM успешно записана.</translation>
+    </message>
+    <message>
+        <source>EEPROM verified successfully.</source>
+        <translation>EEPROM успешно проверена.</translation>
+    </message>
+    <message>
+        <source>EEPROM read successfully.</source>
+        <translation>EEPROM успешно прочитана.</translation>
+    </message>
+    <message>
+        <source>FLASH written successfully.</source>
+        <translation>FLASH успешно записана.</translation>
+    </message>
+    <message>
+        <source>FLASH verified successfully.</source>
+        <translation>FLASH успешно проверена.</translation>
+    </message>
+    <message>
+        <source>FLASH read successfully.</source>
+        <translation>FLASH успешно прочитана.</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryView</name>
+    <message>
+        <source>Write</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Читать</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Проверить</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>Программатор не найден.</translation>
+    </message>
+    <message>
+        <source>Programmer did not detect the microcontroller
+
+- Check connections and power supply
+- Set a lower speed (Port &amp; Speed)</source>
+        <translation>Программатор не обнаружил микроконтроллер
+
+- Проверьте соединения и питание
+- Установите меньшую частоту (Порт &amp; частота)</translation>
+    </message>
+    <message>
+        <source>Could not read contents
+Device is either blank or read-protected (Lock Bits are set).</source>
+        <translation>Не удалось прочитать содержимое
+Микросхема пуста или защищена от чтения (установлены биты защиты).</translation>
+    </message>
+    <message>
+        <source>Wrong microcontroller selected.</source>
+        <translation>Выбран не тот микроконтроллер.</translation>
+    </message>
+    <message>
+        <source>Verification error.</source>
+        <translation>Ошибка проверки.</translation>
+    </message>
+    <message>
+        <source>Invalid file format. Please choose another file.</source>
+        <translation>Неверный формат файла. Выберите другой файл.</translation>
+    </message>
+    <message>
+        <source>See the message in the dialog box.</source>
+        <translation>Смотрите сообщение в окне вывода.</translation>
+    </message>
+    <message>
+        <source>UsbAsp not found.</source>
+        <translation>Внешняя кнопка</translation>
+    </message>
+    <message>
+        <source>No such file or directory.</source>
+        <translation>Нет такого файла или каталога.</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPresenter</name>
+    <message>
+        <source>Configuration named «%1» already exists.
+Do you want to overwrite it?</source>
+        <translation>Конфигурация «%1» уже существует.
+Заменить её?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete this profile?</source>
+        <translation>Удалить этот профиль?</translation>
+    </message>
+    <message>
+        <source>Select profile...</source>
+        <translation>Выбрать профиль...</translation>
+    </message>
+    <message>
+        <source>Flash write successfully.
+Flash verify successfully.
+</source>
+        <translation>Flash успешно записана.
+Flash успешно проверена.
+</translation>
+    </message>
+    <message>
+        <source>Eeprom write successfully.
+Eeprom verify successfully.
+</source>
+        <translation>EEPROM успешно записана.
+EEPROM успешно проверена.
+</translation>
+    </message>
+    <message>
+        <source>Fuse bits write successfully.
+Fuse bits verify successfully.</source>
+        <translation>Фьюз-биты успешно записаны.
+Фьюз-биты успешно проверены.</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>MCU selected: </source>
+        <translation>Выбран МК: </translation>
+    </message>
+    <message>
+        <source>.
+Fuse bytes set to datasheet default values.</source>
+        <translation>.
+Фьюз-байты установлены по умолчанию (как в даташите).</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammingView</name>
+    <message>
+        <source>Write</source>
+        <translation>Записать</translation>
+    </message>
+    <message>
+        <source>Use external button</source>
+        <translation>UsbAsp не найден.</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Профили</translation>
+    </message>
+    <message>
+        <source>Write Selected Areas</source>
+        <translation>Записать выбранные области</translation>
+    </message>
+</context>
+<context>
+    <name>SelectView</name>
+    <message>
+        <source>FLASH</source>
+        <translation>FLASH</translation>
+    </message>
+    <message>
+        <source>EEPROM</source>
+        <translation>EEPROM</translation>
+    </message>
+    <message>
+        <source>FUSES</source>
+        <translation>ФЬЮЗЫ</translation>
+    </message>
+    <message>
+        <source>Select memory areas to write:</source>
+        <translation>Области памяти для записи:</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPresenter</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>ФАЙЛ JSON НЕ НАЙДЕН</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Не удаётся открыть файл</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ОШИБКА В ФАЙЛЕ JSON</translation>
+    </message>
+    <message>
+        <source>Please restart the application to apply language changes.</source>
+        <translation>Перезапустите программу, чтобы сменить язык.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Programmer</source>
+        <translation>Программатор</translation>
+    </message>
+    <message>
+        <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
+        <translation>Порт &amp;&amp; частота ( новый: 185kHz )</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Download URL is missing in server response.</source>
+        <translation>В ответе сервера нет адреса загрузки.</translation>
+    </message>
+    <message>
+        <source>New version %1 available.
+
+Open download page?</source>
+        <translation>Доступна версия %1.
+
+Открыть страницу загрузки?</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>Доступно обновление</translation>
+    </message>
+    <message>
+        <source>Could not open the link.</source>
+        <translation>Не удалось открыть ссылку.</translation>
+    </message>
+</context>
+</TS>

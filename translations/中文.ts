@@ -1,0 +1,394 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- 术语：熔丝位（fuse bit）、锁定位（lock bit）、校准字节（calibration byte）、速度（bit clock），均为国内通用说法。 -->
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>Attributes</name>
+    <message>
+        <source>MCU erased successfully.</source>
+        <translation>MCU 擦除成功。</translation>
+    </message>
+    <message>
+        <source>MCU auto-detected successfully. Do you want to continue?</source>
+        <translation>已检测到 MCU。要继续吗？</translation>
+    </message>
+    <message>
+        <source>Calibration byte read successfully.</source>
+        <translation>校准字节读取成功。</translation>
+    </message>
+</context>
+<context>
+    <name>AttributesView</name>
+    <message>
+        <source>Auto-Detect</source>
+        <translation>自动检测</translation>
+    </message>
+    <message>
+        <source>Erase all</source>
+        <translation>全部擦除</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <source>MCU</source>
+        <translation>MCU</translation>
+    </message>
+    <message>
+        <source>Calibration Byte</source>
+        <translation>校准字节</translation>
+    </message>
+</context>
+<context>
+    <name>Avrdude</name>
+    <message>
+        <source>avrdude not found</source>
+        <translation>找不到 avrdude</translation>
+    </message>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>找不到编程器。</translation>
+    </message>
+</context>
+<context>
+    <name>BytesModel</name>
+    <message>
+        <source>MCU JSON FILE NOT FOUND</source>
+        <translation>找不到 MCU 的 JSON 文件</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>JSON 文件错误</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigurationView</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Add / Remove profile</source>
+        <translation>添加 / 移除配置文件</translation>
+    </message>
+    <message>
+        <source>Profile name</source>
+        <translation>配置文件名称</translation>
+    </message>
+    <message>
+        <source>Description (optional)</source>
+        <translation>说明（可选）</translation>
+    </message>
+    <message>
+        <source>&quot;Add&quot; - save current settings as a profile.
+&quot;Remove&quot; - remove selected profile.</source>
+        <translation>“添加” - 将当前设置保存为配置文件。
+“移除” - 移除所选的配置文件。</translation>
+    </message>
+</context>
+<context>
+    <name>Fuses</name>
+    <message>
+        <source>Fuse bytes set to default values successfully.</source>
+        <translation>熔丝字节已恢复为默认值。</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtons</name>
+    <message>
+        <source>Fuse bytes written successfully.</source>
+        <translation>熔丝字节写入成功。</translation>
+    </message>
+    <message>
+        <source>Fuse bytes verified successfully.</source>
+        <translation>熔丝字节校验成功。</translation>
+    </message>
+    <message>
+        <source>Fuse bytes read successfully.</source>
+        <translation>熔丝字节读取成功。</translation>
+    </message>
+</context>
+<context>
+    <name>FusesButtonsView</name>
+    <message>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>校验</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认值</translation>
+    </message>
+</context>
+<context>
+    <name>KorvelApp</name>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>无法将设置保存到文件：</translation>
+    </message>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>无法从文件加载设置：</translation>
+    </message>
+</context>
+<context>
+    <name>Memory</name>
+    <message>
+        <source>EEPROM written successfully.</source>
+        <translation>EEPROM 写入成功。</translation>
+    </message>
+    <message>
+        <source>EEPROM verified successfully.</source>
+        <translation>EEPROM 校验成功。</translation>
+    </message>
+    <message>
+        <source>EEPROM read successfully.</source>
+        <translation>EEPROM 读取成功。</translation>
+    </message>
+    <message>
+        <source>FLASH written successfully.</source>
+        <translation>FLASH 写入成功。</translation>
+    </message>
+    <message>
+        <source>FLASH verified successfully.</source>
+        <translation>FLASH 校验成功。</translation>
+    </message>
+    <message>
+        <source>FLASH read successfully.</source>
+        <translation>FLASH 读取成功。</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryView</name>
+    <message>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>校验</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Programmer not found.</source>
+        <translation>找不到编程器。</translation>
+    </message>
+    <message>
+        <source>Programmer did not detect the microcontroller
+
+- Check connections and power supply
+- Set a lower speed (Port &amp; Speed)</source>
+        <translation>编程器未检测到单片机
+
+- 请检查连接和供电
+- 请降低速度（端口 &amp; 速度）</translation>
+    </message>
+    <message>
+        <source>Could not read contents
+Device is either blank or read-protected (Lock Bits are set).</source>
+        <translation>无法读取内容
+芯片为空或已加读保护（锁定位已设置）。</translation>
+    </message>
+    <message>
+        <source>Wrong microcontroller selected.</source>
+        <translation>所选的单片机不正确。</translation>
+    </message>
+    <message>
+        <source>Verification error.</source>
+        <translation>校验错误。</translation>
+    </message>
+    <message>
+        <source>Invalid file format. Please choose another file.</source>
+        <translation>文件格式无效，请选择其他文件。</translation>
+    </message>
+    <message>
+        <source>See the message in the dialog box.</source>
+        <translation>请查看输出窗口中的消息。</translation>
+    </message>
+    <message>
+        <source>UsbAsp not found.</source>
+        <translation>使用外部按钮</translation>
+    </message>
+    <message>
+        <source>No such file or directory.</source>
+        <translation>没有此文件或目录。</translation>
+    </message>
+</context>
+<context>
+    <name>ProfilesPresenter</name>
+    <message>
+        <source>Configuration named «%1» already exists.
+Do you want to overwrite it?</source>
+        <translation>配置“%1”已存在。
+要覆盖它吗？</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Delete this profile?</source>
+        <translation>要删除此配置文件吗？</translation>
+    </message>
+    <message>
+        <source>Select profile...</source>
+        <translation>选择配置文件...</translation>
+    </message>
+    <message>
+        <source>Flash write successfully.
+Flash verify successfully.
+</source>
+        <translation>Flash 写入成功。
+Flash 校验成功。
+</translation>
+    </message>
+    <message>
+        <source>Eeprom write successfully.
+Eeprom verify successfully.
+</source>
+        <translation>EEPROM 写入成功。
+EEPROM 校验成功。
+</translation>
+    </message>
+    <message>
+        <source>Fuse bits write successfully.
+Fuse bits verify successfully.</source>
+        <translation>熔丝位写入成功。
+熔丝位校验成功。</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>MCU selected: </source>
+        <translation>已选择 MCU：</translation>
+    </message>
+    <message>
+        <source>.
+Fuse bytes set to datasheet default values.</source>
+        <translation>。
+熔丝字节已设为数据手册的默认值。</translation>
+    </message>
+</context>
+<context>
+    <name>ProgrammingView</name>
+    <message>
+        <source>Write</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Use external button</source>
+        <translation>找不到 UsbAsp。</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>配置文件</translation>
+    </message>
+    <message>
+        <source>Write Selected Areas</source>
+        <translation>写入所选区域</translation>
+    </message>
+</context>
+<context>
+    <name>SelectView</name>
+    <message>
+        <source>FLASH</source>
+        <translation>FLASH</translation>
+    </message>
+    <message>
+        <source>EEPROM</source>
+        <translation>EEPROM</translation>
+    </message>
+    <message>
+        <source>FUSES</source>
+        <translation>熔丝</translation>
+    </message>
+    <message>
+        <source>Select memory areas to write:</source>
+        <translation>要写入的存储区：</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPresenter</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>找不到 JSON 文件</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>JSON 文件错误</translation>
+    </message>
+    <message>
+        <source>Please restart the application to apply language changes.</source>
+        <translation>请重新启动程序以更改语言。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsView</name>
+    <message>
+        <source>Programmer</source>
+        <translation>编程器</translation>
+    </message>
+    <message>
+        <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
+        <translation>端口 &amp;&amp; 速度（新 MCU -&gt; 185kHz）</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateChecker</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Download URL is missing in server response.</source>
+        <translation>服务器的响应中缺少下载地址。</translation>
+    </message>
+    <message>
+        <source>New version %1 available.
+
+Open download page?</source>
+        <translation>新版本 %1 已发布。
+
+要打开下载页面吗？</translation>
+    </message>
+    <message>
+        <source>Update available</source>
+        <translation>有可用更新</translation>
+    </message>
+    <message>
+        <source>Could not open the link.</source>
+        <translation>无法打开链接。</translation>
+    </message>
+</context>
+</TS>
