@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
-# Checks layout (clang-format) and code (clang-tidy) of all our sources. Changes nothing.
+# Checks the translations, and layout (clang-format) and code (clang-tidy) of all our sources. Changes nothing.
 source "$(dirname "$0")/common.sh"
+export LC_ALL=C.UTF-8 # for the names of the translations
 
-need_packages "${build_packages[@]}" clang-format clang-tidy
+need_packages "${build_packages[@]}" clang-format clang-tidy python3 qttools5-dev-tools
+scratch=$(mktemp -d)
+trap 'rm -r "$scratch"' EXIT
+lupdate -silent src -ts "$scratch/texts.ts"
+scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
+
 mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h')
 clang-format --dry-run --Werror "${sources[@]}"
 echo "clang-format: ${#sources[@]} files are in order"

@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Brings translations/*.ts up to date with the texts in the code: new ones come in as unfinished, and those that the
+# code no longer has go. Translators then open the files in Qt Linguist.
+source "$(dirname "$0")/common.sh"
+export LC_ALL=C.UTF-8 # for the names of the files
+
+need_packages qttools5-dev-tools
+for file in translations/*.ts; do
+    header=$(sed -n '/^<!-- /,$ { p; / -->$/q }' "$file")
+    lupdate -silent -locations none -no-obsolete src -ts "$file"
+    # lupdate writes no comments.
+    printf '%s\n' "$header" | sed -i '/^<!DOCTYPE TS>$/r /dev/stdin' "$file"
+done
