@@ -56,7 +56,7 @@
     <name>BytesModel</name>
     <message>
         <source>MCU JSON FILE NOT FOUND</source>
-        <translation>JSON-DATEI DES MCU NICHT GEFUNDEN</translation>
+        <translation>JSON-DATEI DER MCU NICHT GEFUNDEN</translation>
     </message>
     <message>
         <source>Cannot open file</source>
@@ -92,8 +92,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>„Anlegen“ - Einstellungen als Profil sichern.
-„Entfernen“ - gewähltes Profil entfernen.</translation>
+        <translation>„Anlegen“ – Einstellungen als Profil sichern.
+„Entfernen“ – gewähltes Profil entfernen.</translation>
     </message>
 </context>
 <context>
@@ -141,11 +141,11 @@
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
-        <translation>Einstellungen lassen sich nicht speichern in der Datei: </translation>
+        <translation>Einstellungen ließen sich nicht in dieser Datei speichern: </translation>
     </message>
     <message>
         <source>Failed to load settings from file: </source>
-        <translation>Einstellungen lassen sich nicht laden aus der Datei: </translation>
+        <translation>Einstellungen ließen sich nicht aus dieser Datei laden: </translation>
     </message>
 </context>
 <context>
@@ -242,7 +242,7 @@ Der Baustein ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>Die Konfiguration «%1» gibt es schon.
+        <translation>Die Konfiguration „%1“ gibt es schon.
 Soll sie überschrieben werden?</translation>
     </message>
     <message>
@@ -358,7 +358,7 @@ Fuse-Bytes auf die Vorgabewerte des Datenblatts gesetzt.</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Port &amp;&amp; Takt ( neuer MCU -&gt; 185kHz )</translation>
+        <translation>Port &amp;&amp; Takt ( neue MCU -&gt; 185kHz )</translation>
     </message>
     <message>
         <source>Language</source>

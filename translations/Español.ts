@@ -100,7 +100,7 @@
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Bytes de fusibles puestos en los valores de fábrica.</translation>
+        <translation>Bytes de fusibles restablecidos a los valores de fábrica.</translation>
     </message>
 </context>
 <context>
@@ -230,7 +230,7 @@ El dispositivo está vacío o protegido contra lectura (bits de bloqueo activos)
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Usar pulsador externo</translation>
+        <translation>UsbAsp no encontrado.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -290,7 +290,7 @@ Fusibles verificados correctamente.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bytes de fusibles en los valores de la hoja de datos.</translation>
+Bytes de fusibles restablecidos a los valores de fábrica de la hoja de datos.</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@ Bytes de fusibles en los valores de la hoja de datos.</translation>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp no encontrado.</translation>
+        <translation>Usar pulsador externo</translation>
     </message>
     <message>
         <source>Profiles</source>

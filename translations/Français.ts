@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Termes : fusibles et octets de fusibles (fuse bits), bits de verrouillage (lock bits), octet de calibration, débit
-     pour la vitesse du programmateur. -->
+<!-- Termes : fusibles et octets de fusibles (fuse bits), bits de verrouillage (lock bits), octet de calibration, vitesse
+     (bit clock). -->
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -92,7 +92,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«&#xa0;Ajouter&#xa0;» - garde les réglages actuels.
+        <translation>«&#xa0;Ajouter&#xa0;» - enregistre les réglages.
 «&#xa0;Retirer&#xa0;» - retire le profil choisi.</translation>
     </message>
 </context>
@@ -204,7 +204,7 @@
         <translation>Le programmateur n&apos;a pas détecté de microcontrôleur
 
 - Vérifiez les connexions et l&apos;alimentation
-- Choisissez un débit plus bas (Port &amp; débit)</translation>
+- Choisissez une vitesse plus basse (Port &amp; vitesse)</translation>
     </message>
     <message>
         <source>Could not read contents
@@ -222,7 +222,7 @@ Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</
     </message>
     <message>
         <source>Invalid file format. Please choose another file.</source>
-        <translation>Format de fichier non valable. Choisissez un autre fichier.</translation>
+        <translation>Format de fichier non valide. Choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
@@ -230,7 +230,7 @@ Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Utiliser un bouton externe</translation>
+        <translation>UsbAsp introuvable.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -290,7 +290,7 @@ Fusibles vérifiés.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Octets de fusibles mis aux valeurs de la fiche technique.</translation>
+Octets de fusibles remis aux valeurs d&apos;origine de la fiche technique.</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@ Octets de fusibles mis aux valeurs de la fiche technique.</translation>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp introuvable.</translation>
+        <translation>Utiliser un bouton externe</translation>
     </message>
     <message>
         <source>Profiles</source>
@@ -358,7 +358,7 @@ Octets de fusibles mis aux valeurs de la fiche technique.</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Port &amp;&amp; débit ( neuf -&gt; 185kHz )</translation>
+        <translation>Port &amp;&amp; vitesse ( neuf -&gt; 185kHz )</translation>
     </message>
     <message>
         <source>Language</source>

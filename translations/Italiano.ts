@@ -210,7 +210,7 @@
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>Impossibile leggere il contenuto
-Il dispositivo è vuoto o protetto dalla lettura (lock bit attivi).</translation>
+Il dispositivo è vuoto o protetto contro la lettura (lock bit attivi).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -230,7 +230,7 @@ Il dispositivo è vuoto o protetto dalla lettura (lock bit attivi).</translation
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Usa pulsante esterno</translation>
+        <translation>UsbAsp non trovato.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -290,7 +290,7 @@ Fuse bit verificati correttamente.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Byte dei fuse impostati sui valori del datasheet.</translation>
+Byte dei fuse impostati sui valori predefiniti del datasheet.</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@ Byte dei fuse impostati sui valori del datasheet.</translation>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp non trovato.</translation>
+        <translation>Usa pulsante esterno</translation>
     </message>
     <message>
         <source>Profiles</source>

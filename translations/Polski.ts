@@ -92,8 +92,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>„Dodaj” - zapisuje bieżące ustawienia.
-„Usuń” - usuwa wybrany profil.</translation>
+        <translation>„Dodaj” – zapisuje bieżące ustawienia.
+„Usuń” – usuwa wybrany profil.</translation>
     </message>
 </context>
 <context>
@@ -226,11 +226,11 @@ Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translati
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Zobacz komunikat w oknie wyjścia.</translation>
+        <translation>Zobacz komunikat w oknie poniżej.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Użyj zewnętrznego przycisku</translation>
+        <translation>Nie znaleziono UsbAsp.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -301,7 +301,7 @@ Bajty fuse mają wartości domyślne z noty katalogowej.</translation>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>Nie znaleziono UsbAsp.</translation>
+        <translation>Użyj zewnętrznego przycisku</translation>
     </message>
     <message>
         <source>Profiles</source>

@@ -230,7 +230,7 @@ O dispositivo está vazio ou protegido contra leitura (lock bits ativos).</trans
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Usar botão externo</translation>
+        <translation>UsbAsp não encontrado.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -290,7 +290,7 @@ Fuse bits verificados com sucesso.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bytes de fuse nos valores padrão da folha de dados.</translation>
+Bytes de fuse nos valores padrão do datasheet.</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@ Bytes de fuse nos valores padrão da folha de dados.</translation>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp não encontrado.</translation>
+        <translation>Usar botão externo</translation>
     </message>
     <message>
         <source>Profiles</source>

@@ -230,7 +230,7 @@ Aygıt boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translatio
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Harici düğme kullan</translation>
+        <translation>UsbAsp bulunamadı.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -301,7 +301,7 @@ Fuse baytları veri sayfasındaki varsayılan değerlere ayarlandı.</translatio
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp bulunamadı.</translation>
+        <translation>Harici düğme kullan</translation>
     </message>
     <message>
         <source>Profiles</source>

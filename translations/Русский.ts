@@ -91,15 +91,15 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Добавить» - сохранить настройки.
-«Убрать» - убрать выбранный профиль.</translation>
+        <translation>«Добавить» — сохранить настройки.
+«Убрать» — убрать выбранный профиль.</translation>
     </message>
 </context>
 <context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Фьюз-байты установлены по умолчанию.</translation>
+        <translation>Фьюз-байтам присвоены значения по умолчанию.</translation>
     </message>
 </context>
 <context>
@@ -229,7 +229,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Внешняя кнопка</translation>
+        <translation>UsbAsp не найден.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -289,7 +289,7 @@ Fuse bits verify successfully.</source>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Фьюз-байты установлены по умолчанию (как в даташите).</translation>
+Фьюз-байтам присвоены значения по умолчанию из даташита.</translation>
     </message>
 </context>
 <context>
@@ -300,7 +300,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp не найден.</translation>
+        <translation>Внешняя кнопка</translation>
     </message>
     <message>
         <source>Profiles</source>

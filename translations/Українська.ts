@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Терміни: фʼюз-біти та фʼюз-байти, як заведено казати; біти захисту (lock bits), калібрувальний байт, такт (bit
-     clock); МК - мікроконтролер. -->
+<!-- Терміни: фʼюз-біти та фʼюз-байти, як заведено казати; біти захисту (lock bits), калібрувальний байт, частота
+     (bit clock); МК - мікроконтролер. -->
 <TS version="2.1" language="uk_UA" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -92,15 +92,15 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Додати» - зберегти налаштування.
-«Прибрати» - прибрати вибраний профіль.</translation>
+        <translation>«Додати» — зберегти налаштування.
+«Прибрати» — прибрати вибраний профіль.</translation>
     </message>
 </context>
 <context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Фʼюз-байти встановлено за замовчуванням.</translation>
+        <translation>Фʼюз-байтам надано типові значення.</translation>
     </message>
 </context>
 <context>
@@ -204,7 +204,7 @@
         <translation>Програматор не виявив мікроконтролера
 
 - Перевірте зʼєднання та живлення
-- Встановіть повільніший такт (Порт &amp; такт)</translation>
+- Встановіть меншу частоту (Порт &amp; частота)</translation>
     </message>
     <message>
         <source>Could not read contents
@@ -230,7 +230,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>Зовнішня кнопка</translation>
+        <translation>UsbAsp не знайдено.</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -290,7 +290,7 @@ Fuse bits verify successfully.</source>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Фʼюз-байти встановлено за замовчуванням (як у даташиті).</translation>
+Фʼюз-байтам надано типові значення з даташиту.</translation>
     </message>
 </context>
 <context>
@@ -301,7 +301,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp не знайдено.</translation>
+        <translation>Зовнішня кнопка</translation>
     </message>
     <message>
         <source>Profiles</source>
@@ -358,7 +358,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Порт &amp;&amp; такт (новий: 185kHz)</translation>
+        <translation>Порт &amp;&amp; частота (новий: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>

@@ -229,7 +229,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>使用外部按钮</translation>
+        <translation>找不到 UsbAsp。</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -300,7 +300,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>找不到 UsbAsp。</translation>
+        <translation>使用外部按钮</translation>
     </message>
     <message>
         <source>Profiles</source>

@@ -229,7 +229,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>UsbAsp not found.</source>
-        <translation>外部ボタンを使用</translation>
+        <translation>UsbAsp が見つかりません。</translation>
     </message>
     <message>
         <source>No such file or directory.</source>
@@ -300,7 +300,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Use external button</source>
-        <translation>UsbAsp が見つかりません。</translation>
+        <translation>外部ボタンを使用</translation>
     </message>
     <message>
         <source>Profiles</source>
