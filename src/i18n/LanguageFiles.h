@@ -14,8 +14,8 @@ namespace LanguageFiles {
 /// The folder of the language files beside the program, wherever the package lies.
 [[nodiscard]] QString applicationFolder();
 
-/// Makes the names of files UTF-8 even where the locale cannot tell (that of a bare system is plain ASCII): languages
-/// are named as their speakers write them. To be called before the first file is opened.
+/// Makes the names of files UTF-8 whatever the locale says (that of a bare system is plain ASCII): languages are named
+/// as their speakers write them. To be called before the first file is opened.
 void useUtf8Names();
 
 } // namespace LanguageFiles
