@@ -14,6 +14,11 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 namespace {
 
 const QString file = QStringLiteral("save.json");
@@ -72,6 +77,18 @@ private slots:
 
         QVERIFY(record.loadFromFile(file) && record.configurationList.isEmpty());
         QVERIFY(!record.saveToFile("no-such-folder/save.json"));
+#ifdef Q_OS_LINUX
+        // A disk that is full when half of the file is written.
+        const QByteArray before = folder.read(file);
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit {};
+        getrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit half {static_cast<rlim_t>(before.size() / 2), limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &half);
+        const bool isSaved = record.saveToFile(file);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        QVERIFY(!isSaved && folder.read(file) == before);
+#endif
     }
 
     void settingsFlags()

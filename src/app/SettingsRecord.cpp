@@ -152,8 +152,9 @@ bool SettingsRecord::saveToFile(const QString& path) const
         {QStringLiteral("fileNamesReading"), toJson(fileNamesReading)},
         {QStringLiteral("profiles"), profiles},
     };
-    file.write(QJsonDocument(root).toJson(QJsonDocument::Indented));
-    return file.commit();
+    const QByteArray json = QJsonDocument(root).toJson(QJsonDocument::Indented);
+    // Flushed here: a disk that fills up while the file is closed goes unnoticed, and half a file would win.
+    return file.write(json) == json.size() && file.flush() && file.commit();
 }
 
 bool SettingsRecord::loadFromFile(const QString& path)
