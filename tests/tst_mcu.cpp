@@ -22,7 +22,7 @@ private slots:
         bench.folder.write("mcu/X.json", R"({"mcu": "other", "id": "x1", "signature": "1E 00 01", "FuseBytes": [
             {"name": "Low", "id": "lfuse", "bits": [
                 {"name": "B7", "default": 1, "enabled": 1}, {"name": "B6", "default": true, "enabled": true},
-                {}, {}, {}, {}, {}, {"name": "B0", "default": 1, "enabled": 2}, {"name": "ninth", "default": 1}]},
+                {}, {}, {}, {}, {}, {"name": "B0", "default": 21, "enabled": 2}, {"name": "ninth", "default": 1}]},
             {"id": "lock", "bits": [{"name": "L", "default": 0, "enabled": 0}]}, 5]})");
         BytesModel model(bench.avrdude);
         model.load("X");
@@ -122,7 +122,8 @@ private slots:
         QVERIFY(!view->autoDetectButton()->parent());
         QCOMPARE(bench.click(view->autoDetectButton()),
                  QString("MCU Detected: MCU auto-detected successfully. Do you want to continue?|"));
-        bench.folder.write("calibration.hex", "\x0D\x0A\x9F");
+        bench.folder.write("calibration.hex", "another chip's");
+        bench.folder.write("script", "wait 50\nmake calibration.hex 0D0A9F");
         const QString request = "|-U calibration:r:calibration.hex:r";
         const QString read = "Calibration Byte: Calibration byte read successfully." + request;
         QCOMPARE(bench.click(view->readButton()), read);
@@ -130,7 +131,8 @@ private slots:
         bench.folder.write("script", "err verification error");
         QCOMPARE(bench.click(view->readButton()), "AVRDUDE: Verification error." + request);
         QVERIFY(view->calibrationByte()->text().isEmpty());
-        QVERIFY(QFile::remove("script") && QFile::remove("calibration.hex"));
+        bench.folder.write("calibration.hex", "another chip's");
+        bench.folder.write("script", "wait 50"); // as for a microcontroller that has none
         view->calibrationByte()->setText("old");
         QCOMPARE(bench.click(view->readButton()), read);
         QVERIFY(view->calibrationByte()->text().isEmpty());

@@ -7,6 +7,7 @@
 #include "mcu/SignatureIndex.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -60,6 +61,8 @@ void Attributes::setAvrdudeCmdReadCallByte()
     m_view.calibrationByte()->clear();
     m_avrdude.execute({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
                       [this] { readFileCallByte(); });
+    // avrdude makes no file for a microcontroller without a calibration byte; the last one's must not be taken for it.
+    QFile::remove(calibrationFile());
 }
 
 void Attributes::readFileCallByte()

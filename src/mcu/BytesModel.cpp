@@ -28,7 +28,7 @@ FuseByte readFuseByte(const QJsonObject& description)
         FuseBit& bit = byte.fuseBits[static_cast<std::size_t>(number)];
         bit.bitNumber = number;
         bit.name = bitDescription.value(QLatin1String("name")).toString();
-        bit.currentBitValue = static_cast<quint32>(bitDescription.value(QLatin1String("default")).toInt());
+        bit.currentBitValue = bitDescription.value(QLatin1String("default")).toInt() == 0 ? 0 : 1;
         bit.defaultBitValue = bit.currentBitValue;
         bit.enabled = bitDescription.value(QLatin1String("enabled")).toInt() != 0;
         byte.currentValue += bit.currentBitValue << number;

@@ -1,6 +1,8 @@
 // Plays avrdude for the tests. Appends its arguments to the file "runs" in the working directory, a line a
 // run with tabs between them, then does what the file "script" there says, a word and its operand a line:
 //   err TEXT, out TEXT   print TEXT and a line break
+//   print FILE           print the file to standard error
+//   make FILE HEX        write the bytes into a file
 //   wait MS              sleep
 //   exit CODE, crash     end; without either it ends with 0 after the last line
 
@@ -28,6 +30,15 @@ int main(int argc, char* argv[])
         if (word == "err" || word == "out") {
             std::fprintf(word == "err" ? stderr : stdout, "%s\n", operand.constData());
             std::fflush(stdout);
+        } else if (word == "print") {
+            QFile file(QString::fromUtf8(operand));
+            file.open(QIODevice::ReadOnly);
+            const QByteArray content = file.readAll();
+            std::fwrite(content.constData(), 1, static_cast<std::size_t>(content.size()), stderr);
+        } else if (word == "make") {
+            QFile file(QString::fromUtf8(operand.split(' ').first()));
+            file.open(QIODevice::WriteOnly);
+            file.write(QByteArray::fromHex(operand.split(' ').last()));
         } else if (word == "wait") {
             QThread::msleep(operand.toULong());
         } else if (word == "exit") {
