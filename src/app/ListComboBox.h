@@ -10,7 +10,11 @@ class ListComboBox : public QComboBox
     Q_OBJECT
 
 public:
-    explicit ListComboBox(QWidget* parent = nullptr);
+    /// How narrow the box may become: with names that users choose, a long one must not widen the window.
+    enum class Width { OfEntries, Any };
 
+    explicit ListComboBox(Width width, QWidget* parent = nullptr);
+
+    bool event(QEvent* event) override;
     void showPopup() override;
 };

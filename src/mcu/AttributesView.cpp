@@ -1,8 +1,8 @@
 #include "mcu/AttributesView.h"
 
 #include "app/ListComboBox.h"
+#include "app/RowBox.h"
 
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,7 +16,7 @@ constexpr int visibleItems = 15;
 
 AttributesView::AttributesView(QWidget* parent)
     : QWidget(parent)
-    , m_mcuList(new ListComboBox(this))
+    , m_mcuList(new ListComboBox(ListComboBox::Width::OfEntries, this))
     , m_autoDetect(std::make_unique<QPushButton>(tr("Auto-Detect")))
     , m_erase(new QPushButton(tr("Erase all"), this))
     , m_read(new QPushButton(tr("Read"), this))
@@ -25,21 +25,11 @@ AttributesView::AttributesView(QWidget* parent)
     m_mcuList->setMaxVisibleItems(visibleItems);
     m_calibrationByte->setAlignment(Qt::AlignCenter);
 
-    auto* mcuBox = new QGroupBox(tr("MCU"), this);
-    auto* mcuLayout = new QHBoxLayout(mcuBox);
-    mcuLayout->addWidget(m_mcuList);
-    mcuLayout->addWidget(m_erase);
-
-    auto* calibrationBox = new QGroupBox(tr("Calibration Byte"), this);
-    auto* calibrationLayout = new QHBoxLayout(calibrationBox);
-    calibrationLayout->addWidget(m_read);
-    calibrationLayout->addWidget(new QLabel(QStringLiteral("HEX"), this));
-    calibrationLayout->addWidget(m_calibrationByte);
-
+    auto* label = new QLabel(QStringLiteral("HEX"), this);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(mcuBox);
-    layout->addWidget(calibrationBox);
+    layout->addWidget(new RowBox(tr("MCU"), {m_mcuList, m_erase}, this));
+    layout->addWidget(new RowBox(tr("Calibration Byte"), {m_read, label, m_calibrationByte}, this));
 }
 
 AttributesView::~AttributesView() = default;

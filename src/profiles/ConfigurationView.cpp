@@ -1,5 +1,7 @@
 #include "profiles/ConfigurationView.h"
 
+#include "app/RowBox.h"
+
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,14 +19,8 @@ ConfigurationView::ConfigurationView(QWidget* parent)
     auto* box = new QGroupBox(tr("Add / Remove profile"), this);
 
     auto* fields = new QHBoxLayout;
-    const auto addField = [box, fields](const QString& title, QLineEdit* field) {
-        auto* fieldBox = new QGroupBox(title, box);
-        auto* fieldLayout = new QHBoxLayout(fieldBox);
-        fieldLayout->addWidget(field);
-        fields->addWidget(fieldBox);
-    };
-    addField(tr("Profile name"), m_name);
-    addField(tr("Description (optional)"), m_description);
+    fields->addWidget(new RowBox(tr("Profile name"), {m_name}, box));
+    fields->addWidget(new RowBox(tr("Description (optional)"), {m_description}, box));
 
     auto* buttons = new QHBoxLayout;
     auto* hint = new QLabel(tr("\"Add\" - save current settings as a profile.\n\"Remove\" - remove selected profile."));

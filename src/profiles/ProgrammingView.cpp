@@ -1,15 +1,15 @@
 #include "profiles/ProgrammingView.h"
 
 #include "app/ListComboBox.h"
+#include "app/RowBox.h"
 
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 
 ProgrammingView::ProgrammingView(QWidget* parent)
     : QWidget(parent)
-    , m_profiles(new ListComboBox(this))
+    , m_profiles(new ListComboBox(ListComboBox::Width::Any, this))
     , m_write(new QPushButton(tr("Write"), this))
     , m_externalButton(std::make_unique<QCheckBox>(tr("Use external button")))
 {
@@ -17,14 +17,8 @@ ProgrammingView::ProgrammingView(QWidget* parent)
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto addBox = [this, layout](const QString& title, QWidget* widget) {
-        auto* box = new QGroupBox(title, this);
-        auto* boxLayout = new QHBoxLayout(box);
-        boxLayout->addWidget(widget);
-        layout->addWidget(box);
-    };
-    addBox(tr("Profiles"), m_profiles);
-    addBox(tr("Write Selected Areas"), m_write);
+    layout->addWidget(new RowBox(tr("Profiles"), {m_profiles}, this));
+    layout->addWidget(new RowBox(tr("Write Selected Areas"), {m_write}, this));
 }
 
 ProgrammingView::~ProgrammingView() = default;

@@ -1,7 +1,8 @@
 #include "profiles/SelectView.h"
 
+#include "app/RowBox.h"
+
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QHBoxLayout>
 
 SelectView::SelectView(QWidget* parent)
@@ -10,11 +11,8 @@ SelectView::SelectView(QWidget* parent)
     , m_eeprom(new QCheckBox(tr("EEPROM"), this))
     , m_fuses(new QCheckBox(tr("FUSES"), this))
 {
-    auto* box = new QGroupBox(tr("Select memory areas to write:"), this);
-    auto* boxLayout = new QHBoxLayout(box);
-    for (QCheckBox* checkBox : {m_flash, m_eeprom, m_fuses})
-        boxLayout->addWidget(checkBox);
-    boxLayout->addStretch();
+    auto* box = new RowBox(tr("Select memory areas to write:"), {m_flash, m_eeprom, m_fuses}, this);
+    box->row()->addStretch();
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,35 +1,29 @@
 #include "settings/SettingsView.h"
 
 #include "app/ListComboBox.h"
+#include "app/RowBox.h"
 
 #include <QHBoxLayout>
 
 namespace {
 
 constexpr int margin = 6; // pixels; the strip is the widest part of the window
-constexpr int minimumLength = 3; // characters
 
 } // namespace
 
 SettingsView::SettingsView(QWidget* parent)
     : QGroupBox(QStringLiteral("Settings"), parent)
 {
-    for (QComboBox*& comboBox : m_comboBoxes)
-        comboBox = new ListComboBox(this);
-    // The speeds are short and always shown whole; the names in the other lists must not make the window wider.
-    for (QComboBox* comboBox : {programmer(), port(), language()}) {
-        comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        comboBox->setMinimumContentsLength(minimumLength);
+    for (QComboBox*& comboBox : m_comboBoxes) {
+        const bool isSpeed = &comboBox == &m_comboBoxes[2]; // short, and always shown whole
+        comboBox = new ListComboBox(isSpeed ? ListComboBox::Width::OfEntries : ListComboBox::Width::Any, this);
     }
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
-    const auto addBox = [this, layout](const QString& title, std::initializer_list<QComboBox*> comboBoxes) {
-        auto* box = new QGroupBox(title, this);
-        auto* boxLayout = new QHBoxLayout(box);
-        boxLayout->setContentsMargins(margin, margin, margin, margin);
-        for (QComboBox* comboBox : comboBoxes)
-            boxLayout->addWidget(comboBox);
+    const auto addBox = [this, layout](const QString& title, std::initializer_list<QWidget*> widgets) {
+        auto* box = new RowBox(title, widgets, this);
+        box->row()->setContentsMargins(margin, margin, margin, margin);
         layout->addWidget(box);
     };
     addBox(tr("Programmer"), {programmer()});

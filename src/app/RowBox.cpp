@@ -1,0 +1,11 @@
+#include "app/RowBox.h"
+
+#include <QHBoxLayout>
+
+RowBox::RowBox(const QString& title, std::initializer_list<QWidget*> widgets, QWidget* parent)
+    : QGroupBox(title, parent)
+    , m_row(new QHBoxLayout(this))
+{
+    for (QWidget* widget : widgets)
+        m_row->addWidget(widget);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QGroupBox>
+
+#include <initializer_list>
+
+class QHBoxLayout;
+
+/// A titled box with widgets in one row.
+class RowBox : public QGroupBox
+{
+public:
+    /// The box becomes the parent of @p widgets, which stand from left to right.
+    RowBox(const QString& title, std::initializer_list<QWidget*> widgets, QWidget* parent);
+
+    /// The layout of the row.
+    [[nodiscard]] QHBoxLayout* row() const { return m_row; }
+
+private:
+    QHBoxLayout* m_row;
+};
