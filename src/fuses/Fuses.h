@@ -19,7 +19,8 @@ public:
     /// their defaults. The editors follow with rebuild().
     void loadMcu(const QString& name);
 
-    /// Makes the editors anew from the settings record and shows the first. Due whenever its list of fuse bytes was replaced.
+    /// Makes the editors anew from the settings record and shows the first. Due whenever its list of fuse bytes was
+    /// replaced.
     void rebuild();
 
 private:

@@ -10,21 +10,22 @@
 FusesByteView::FusesByteView(QWidget* parent)
     : QWidget(parent)
     , m_box(new QGroupBox(this))
-    , m_value(new QLineEdit(this))
 {
+    // From the highest bit down and the field last: the Tab key goes through them as they are made.
     constexpr int bitCount = 8;
     for (int i = 0; i < bitCount; ++i) {
         auto* checkBox = new QCheckBox(this);
         connect(checkBox, &QCheckBox::stateChanged, this, [this, checkBox] { emit bitChanged(m_fusesBit, checkBox); });
-        m_fusesBit.append(checkBox);
+        m_fusesBit.prepend(checkBox);
     }
+    m_value = new QLineEdit(this);
     auto* label = new QLabel(QStringLiteral("HEX"), this);
     const int width = fontMetrics().boundingRect(label->text()).width();
     label->setFixedWidth(width);
     m_value->setFixedWidth(width);
     m_value->setInputMask(QStringLiteral(">HH"));
     m_value->setAlignment(Qt::AlignCenter);
-    // What came in by menu or mouse would stand in the field and not in the byte.
+    // What came in by menu or drop would stand in the field and not in the byte.
     m_value->setContextMenuPolicy(Qt::NoContextMenu);
     m_value->setAcceptDrops(false);
 

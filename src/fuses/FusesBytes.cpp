@@ -35,7 +35,8 @@ void FusesBytes::rebuild()
 void FusesBytes::refresh()
 {
     const FuseBytes& bytes = m_avrdude.settings().fusesBytes;
-    if (bytes.size() != m_editors.size()) { // the list was replaced while a reading was under way
+    if (bytes.size()
+        != m_editors.size()) { // a profile brought another list, and a box is still open before it is shown
         rebuild();
         return;
     }
