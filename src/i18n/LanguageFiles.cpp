@@ -16,9 +16,14 @@ QString LanguageFiles::path(const QString& language)
     return QDir(baseFolder()).filePath(QStringLiteral("Languages/%1.json").arg(language));
 }
 
-QString LanguageFiles::applicationFolder()
+QString LanguageFiles::folderBesideProgram()
 {
     return QCoreApplication::applicationDirPath() + QLatin1String("/Languages");
+}
+
+QString LanguageFiles::pathBesideProgram(const QString& language)
+{
+    return QStringLiteral("%1/%2.json").arg(folderBesideProgram(), language);
 }
 
 void LanguageFiles::useUtf8Names()

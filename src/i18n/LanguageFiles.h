@@ -12,7 +12,10 @@ namespace LanguageFiles {
 [[nodiscard]] QString path(const QString& language);
 
 /// The folder of the language files beside the program, wherever the package lies.
-[[nodiscard]] QString applicationFolder();
+[[nodiscard]] QString folderBesideProgram();
+
+/// Path of the file of @p language in that folder.
+[[nodiscard]] QString pathBesideProgram(const QString& language);
 
 /// Makes the names of files UTF-8 whatever the locale says (that of a bare system is plain ASCII): languages are named
 /// as their speakers write them. To be called before the first file is opened.

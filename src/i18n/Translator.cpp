@@ -13,7 +13,7 @@ Translator& Translator::instance()
 
 bool Translator::loadLanguage(const QString& language)
 {
-    const QString path = QStringLiteral("%1/%2.json").arg(LanguageFiles::applicationFolder(), language);
+    const QString path = LanguageFiles::pathBesideProgram(language);
     const JsonFile file = JsonFile::read(path);
     if (!file.wasRead()) {
         qDebug().noquote() << "Translator: Failed to load file:" << path;
@@ -41,5 +41,5 @@ QString Translator::translate(const QString& key) const
 
 QStringList Translator::availableLanguages()
 {
-    return jsonBaseNames(LanguageFiles::applicationFolder());
+    return jsonBaseNames(LanguageFiles::folderBesideProgram());
 }

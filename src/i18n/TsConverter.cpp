@@ -41,17 +41,18 @@ void convertTsToJson(const QString& tsFilePath, const QString& languageName)
     }
     QXmlStreamReader reader(&input);
     const QJsonObject texts = readTexts(reader);
+    input.close();
     if (reader.hasError())
         qDebug().noquote() << "Converter: XML Error:" << reader.errorString();
 
-    const QString folder = LanguageFiles::applicationFolder();
-    QDir().mkpath(folder);
-    const QString path = QStringLiteral("%1/%2.json").arg(folder, languageName);
+    QDir().mkpath(LanguageFiles::folderBesideProgram());
+    const QString path = LanguageFiles::pathBesideProgram(languageName);
     QFile output(path);
     if (!output.open(QIODevice::WriteOnly)) {
         qDebug().noquote() << "Converter: Cannot write JSON to" << path;
         return;
     }
     output.write(QJsonDocument(texts).toJson(QJsonDocument::Indented));
+    output.close();
     qDebug().noquote() << "Converter: Successfully created" << path;
 }
