@@ -22,8 +22,6 @@ QDir applicationFolder()
 /// Where a dialog for the field's text @p path opens.
 QString startFolder(const QString& path)
 {
-    if (path.isEmpty())
-        return applicationFolder().path();
     const QFileInfo resolved(applicationFolder().absoluteFilePath(path));
     return resolved.isFile() ? resolved.absolutePath() : resolved.filePath();
 }

@@ -7,6 +7,7 @@
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
@@ -169,7 +170,7 @@ void ProfilesPresenter::nextStep()
     m_log += m_avrdude.logText();
     if (m_nextStep >= m_steps.size()) {
         m_avrdude.replaceLog(m_log);
-        QMessageBox::information(&m_programmingView, QStringLiteral("Profiles"), m_summary);
+        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Profiles"), m_summary);
         return;
     }
     const Step step = m_steps.at(m_nextStep);
