@@ -37,8 +37,8 @@ constexpr const char* history[] = {
     "- Added multi-language support\n"
     "- Fixed 'arguments' parameter for programmer\n"
     "- Fixed minor UI issues\n",
-    "v5.0 (beta) - 15.02.2026\n"
-    "- Korvel5\n",
+    ("v5.0 (beta) - 15.02.2026\n"
+     "- Korvel5\n"), // in parentheses, since one entry of two strings looks like a forgotten comma to clang
 };
 
 QString information()

@@ -11,7 +11,7 @@ class AvrdudeMessage : public QPlainTextEdit
 public:
     explicit AvrdudeMessage(QWidget* parent = nullptr);
 
-    /// Inserts @p text at the text cursor, which is where the user last clicked, else the end. What is selected
-    /// stays, and is not replaced: no output is lost.
+    /// Inserts @p text at the text cursor, which is where the user last clicked, else the end. What is selected is not
+    /// replaced: no output is lost.
     void insertAtCursor(const QString& text);
 };

