@@ -1,0 +1,265 @@
+// Prints one table: what is measured, beside what, both figures, their ratio, and the ratio to reach. Everything is
+// measured in turns within one run, and medians are compared, so that the machine's mood hits both sides alike.
+
+#include "app/KorvelApp.h"
+#include "avrdude/Avrdude.h"
+#include "fuses/Fuses.h"
+#include "memory/FlashView.h"
+#include "support/BoxAnswerer.h"
+#include "support/WorkFolder.h"
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+using Samples = QVector<double>;
+
+double median(Samples samples)
+{
+    std::sort(samples.begin(), samples.end());
+    return samples[samples.size() / 2];
+}
+
+void row(const char* what, const char* beside, double ours, double theirs, const char* unit, double toReach)
+{
+    std::printf("%-44s %-34s %9.1f %9.1f %-4s %6.2f  %5.2f  %s\n", what, beside, ours, theirs, unit, ours / theirs,
+                toReach, ours / theirs <= toReach ? "reached" : "MISSED");
+    std::fflush(stdout);
+}
+
+void copyFolder(const QString& from, const QString& to, int times = 1)
+{
+    QDir().mkpath(to);
+    for (const QString& name : QDir(from).entryList(QDir::Files)) {
+        for (int i = 0; i < times; ++i)
+            QFile::copy(from + '/' + name, to + '/' + (i ? QString::number(i) : QString()) + name);
+    }
+}
+
+/// Lays what ships into the working folder.
+void shipData(int descriptions = 1)
+{
+    if (descriptions)
+        copyFolder(DATA_FOLDER "/mcu", "mcu", descriptions);
+    else
+        QDir().mkpath("mcu");
+    for (const QString folder : {"programmer", "profiles", "demo"})
+        copyFolder(QString(DATA_FOLDER) + '/' + folder, folder);
+    copyFolder(LANGUAGES, "Languages");
+    QFile::copy(DATA_FOLDER "/save.json", "save.json");
+}
+
+struct Start {
+    double time = 0; ///< processor time in milliseconds
+    double memory = 0; ///< peak, in MiB
+};
+
+/// Starts a program in the working folder and waits for its first painted window.
+Start startOnce(const QString& program)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_PLUGIN_PATH", PLUGINS);
+    environment.insert("QT_QPA_GENERIC_PLUGINS", "first-paint");
+    process.setProcessEnvironment(environment);
+    process.start(program, QStringList());
+    process.waitForFinished();
+    const QList<QByteArray> figures = process.readAllStandardOutput().simplified().split(' ');
+    if (figures.size() != 2)
+        qFatal("%s was not painted", qPrintable(program));
+    return {figures[0].toDouble(), figures[1].toDouble() / 1024};
+}
+
+void benchStart()
+{
+    constexpr int repetitions = 21;
+    const WorkFolder folder;
+    shipData();
+    Samples ours, theirs, ourMemory, theirMemory;
+    for (int i = 0; i <= repetitions; ++i) {
+        const Start empty = startOnce(EMPTY_WINDOW);
+        const Start korvel = startOnce(KORVEL);
+        if (i == 0)
+            continue; // warms the disk
+        ours += korvel.time;
+        theirs += empty.time;
+        ourMemory += korvel.memory;
+        theirMemory += empty.memory;
+    }
+    row("start to first painted window, CPU time", "empty window with four tabs", median(ours), median(theirs), "ms",
+        3);
+    row("the same, peak memory", "the same", median(ourMemory), median(theirMemory), "MiB", 1.8);
+}
+
+void benchManyDescriptions()
+{
+    constexpr int repetitions = 11;
+    constexpr int times = 10;
+    Samples medians;
+    for (const int descriptions : {0, 1, times}) {
+        const WorkFolder folder;
+        shipData(descriptions);
+        Samples samples;
+        for (int i = 0; i < repetitions; ++i)
+            samples += startOnce(KORVEL).time;
+        medians += median(samples);
+    }
+    row("start with ten times the descriptions, added", "what the shipped ones add", medians[2] - medians[0],
+        medians[1] - medians[0], "ms", times);
+}
+
+void benchWrite()
+{
+    constexpr int repetitions = 9;
+    constexpr int flashSize = 32 * 1024;
+    const WorkFolder folder;
+    shipData();
+    QByteArray firmware;
+    for (int i = 0; i < flashSize; ++i)
+        firmware += static_cast<char>(i * 2654435761U >> 13);
+    folder.write("firmware.bin", firmware);
+    QProcess programmer;
+    programmer.start(VIRTUAL_PROGRAMMER, {"--port", "0", "--part", "ATmega328P"});
+    programmer.waitForReadyRead();
+    const QString port = QRegularExpression(":(\\d+)").match(programmer.readAllStandardOutput()).captured(1);
+    const QStringList arguments {"-p", "m328p", "-c", "stk500v1", "-P", "net:127.0.0.1:" + port, "-B 4"};
+    const QStringList request {"-U", "flash:w:firmware.bin:r"};
+
+    BoxAnswerer boxes;
+    KorvelApp window;
+    window.show();
+    auto& avrdude = *window.findChild<Avrdude*>();
+    avrdude.settings().mcuId = "m328p";
+    avrdude.settings().programmer.id = "stk500v1";
+    avrdude.settings().port = arguments[5];
+    avrdude.settings().arguments.clear();
+    auto* view = window.findChild<FlashView*>();
+    view->writePath()->setText("firmware.bin");
+
+    Samples ours, theirs;
+    for (int i = 0; i < repetitions; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        QProcess alone;
+        alone.start("avrdude", arguments + request);
+        alone.waitForFinished();
+        theirs += static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        timer.start();
+        view->writeButton()->click();
+        while (!boxes.hasAnswered())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        ours += static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        const QStringList told = boxes.wait();
+        if (told != QStringList("FLASH: FLASH written successfully.\nFLASH verified successfully."))
+            qFatal("%s", qPrintable(told.join('|')));
+    }
+    row("Write clicked to success box, 32 KiB flash", "avrdude alone, same arguments", median(ours), median(theirs),
+        "ms", 1.03);
+    programmer.kill();
+    programmer.waitForFinished();
+}
+
+/// Streams avrdude output of @p size bytes into the log. Returns the milliseconds that it took; @p longestWait becomes
+/// the longest time that an event had to wait.
+double stream(const WorkFolder& folder, Avrdude& avrdude, int size, double& longestWait)
+{
+    QByteArray output;
+    while (output.size() < size)
+        output += "avrdude: writing flash (1234 bytes) at 0x0000 .................\n";
+    folder.write("output", output);
+    folder.write("script", "print output");
+    bool isDone = false;
+    QElapsedTimer timer;
+    QElapsedTimer sinceEvent;
+    QTimer heartbeat;
+    QObject::connect(&heartbeat, &QTimer::timeout, &heartbeat, [&] {
+        longestWait = std::max(longestWait, static_cast<double>(sinceEvent.nsecsElapsed()) / 1e6);
+        sinceEvent.start();
+    });
+    sinceEvent.start();
+    heartbeat.start(0);
+    timer.start();
+    avrdude.execute({}, [&] { isDone = true; });
+    while (!isDone)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+void benchLog()
+{
+    constexpr int repetitions = 5;
+    constexpr int size = 5'000'000;
+    constexpr double patience = 100; // milliseconds
+    const WorkFolder folder;
+    shipData();
+    KorvelApp window;
+    window.show();
+    auto& avrdude = *window.findChild<Avrdude*>();
+    avrdude.settings().avrdude = STAND_IN;
+    double longestWait = 0;
+    Samples once, twice;
+    for (int i = 0; i < repetitions; ++i) {
+        once += stream(folder, avrdude, size, longestWait);
+        twice += stream(folder, avrdude, 2 * size, longestWait);
+    }
+    row("10 MB of avrdude output into the log", "5 MB of it", median(twice), median(once), "ms", 2.2);
+    row("the same, longest wait of an event", "100 ms", longestWait, patience, "ms", 1);
+}
+
+void benchPicking()
+{
+    constexpr int repetitions = 5;
+    constexpr double frame = 16; // milliseconds, at 60 Hz
+    const WorkFolder folder;
+    shipData();
+    KorvelApp window;
+    window.show();
+    auto* tabs = window.findChild<QTabWidget*>();
+    auto* fuses = window.findChild<Fuses*>();
+    tabs->setCurrentWidget(fuses);
+    const QStringList names = QDir("mcu").entryList(QDir::Files);
+    QVector<Samples> times(names.size());
+    for (int i = 0; i < repetitions; ++i) {
+        for (int part = 0; part < names.size(); ++part) {
+            QCoreApplication::processEvents();
+            QElapsedTimer timer;
+            timer.start();
+            fuses->loadMcu(names[part].chopped(5));
+            fuses->rebuild();
+            QCoreApplication::processEvents(); // lays out and paints
+            times[part] += static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        }
+    }
+    Samples samples;
+    for (const Samples& ofPart : times)
+        samples += median(ofPart);
+    row("picking a microcontroller, median of all", "one frame", median(samples), frame, "ms", 1);
+    row("the same, slowest of all", "one frame", *std::max_element(samples.begin(), samples.end()), frame, "ms", 1);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    std::printf("%-44s %-34s %9s %9s %-4s %6s  %5s\n", "what", "beside", "ours", "theirs", "", "ratio", "reach");
+    const QStringList only = QApplication::arguments().mid(1);
+    const QVector<QPair<QString, void (*)()>> benches {{"start", benchStart},
+                                                       {"descriptions", benchManyDescriptions},
+                                                       {"write", benchWrite},
+                                                       {"log", benchLog},
+                                                       {"picking", benchPicking}};
+    for (const auto& [name, bench] : benches) {
+        if (only.isEmpty() || only.contains(name))
+            bench();
+    }
+    return 0;
+}
