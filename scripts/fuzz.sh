@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Fuzzes every reader of what comes from outside, under the sanitizers: fuzz.sh [SECONDS [READER...]], for each reader
+# (600 seconds and all of them without arguments). What was tried is kept in build/fuzz/corpus, a finding in
+# build/fuzz/findings. Not part of CI.
+source "$(dirname "$0")/common.sh"
+export LC_ALL=C.UTF-8
+
+seconds=${1:-600}
+[ $# -gt 0 ] && shift
+readers=("$@")
+[ ${#readers[@]} -gt 0 ] || readers=(settings description catalogue language translation update output)
+
+need_packages "${build_packages[@]}" clang libclang-rt-14-dev
+CXX=clang++ cmake --preset dev -B build/fuzz -DKORVEL_FUZZ=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all" >/dev/null
+cmake --build build/fuzz --target "${readers[@]/#/fuzz-}" korvel_languages
+
+cd build/fuzz
+mkdir -p findings
+seed() { mkdir -p "corpus/$1" && cp -n "${@:2}" "corpus/$1/"; }
+seed settings ../../data/save.json ../../data/profiles/*
+seed description ../../data/mcu/ATmega16.json ../../data/mcu/ATtiny10.json
+seed catalogue ../../data/programmer/USBasp.json "../../data/programmer/Arduino as ISP.json"
+seed language bin/Languages/Deutsch.json
+seed translation ../../translations/Deutsch.ts
+mkdir -p corpus/update corpus/output
+echo '{"version": "6.0", "url": "https://korvel.example", "url_linux": ""}' >corpus/update/newer
+echo 'avrdude: error: program enable: target does not answer. Device signature = 0xffffff' >corpus/output/error
+
+printf '"%s"\n' '\"mcu\":' '\"FuseBytes\":' '\"bits\":' '\"default\":' '\"fusesBytes\":' '\"currentValue\":' \
+    '\"version\":' '\"url\":' '\"id\":' '\"port\":' '<source>' '<translation' 'verification error' 'getsync()' >words
+[ -d /dev/shm ] && export TMPDIR=/dev/shm # the settings are synchronised to the disk at every save
+export QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=fast_unwind_on_malloc=0 \
+    LSAN_OPTIONS=suppressions=$PWD/../../tests/leaks.supp
+status=0
+for reader in "${readers[@]}"; do # paths are absolute, because the harness changes its working folder
+    echo "== $reader"
+    tests/fuzz/bin/fuzz-"$reader" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -dict=words \
+        -artifact_prefix="$PWD/findings/$reader-" -print_final_stats=1 "$PWD/corpus/$reader" 2>"findings/$reader.log" || status=1
+    grep -E 'ERROR|SUMMARY|stat::number_of_executed_units|stat::average_exec|cov:' "findings/$reader.log" | tail -n 4
+done
+exit $status

@@ -1,0 +1,31 @@
+// avrdude's output, in pieces as a pipe delivers it, and the files that it reads fuse bytes into.
+
+#include "Fuzz.h"
+#include "app/AvrdudeMessage.h"
+#include "avrdude/Message.h"
+#include "avrdude/ReadFile.h"
+
+#include <QTextCodec>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const Fuzz& fuzz = Fuzz::instance();
+    static AvrdudeMessage log;
+    static const Message messages;
+    const QByteArray output = inputOf(data, size);
+    const std::unique_ptr<QTextDecoder> decoder(QTextCodec::codecForName("UTF-8")->makeDecoder());
+    log.clear();
+    constexpr int piece = 7;
+    for (int i = 0; i < output.size(); i += piece) {
+        const QString text = decoder->toUnicode(output.mid(i, piece));
+        static_cast<void>(Message::showsSilentProgrammer(text));
+        log.insertAtCursor(text);
+    }
+    static_cast<void>(messages.checkOutput(log.document()->toRawText()));
+    fuzz.folder.write("lfuse.hex", output);
+    ReadFile().readFiles({"lfuse.hex"}, [](const QStringList& values) {
+        if (values.size() != 1)
+            std::abort();
+    });
+    return 0;
+}
