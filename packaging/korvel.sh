@@ -10,8 +10,8 @@ if missing=$(ldd ./korvel | grep 'not found'); then
 fi
 command -v avrdude >/dev/null || echo "Korvel needs avrdude. On Debian or Ubuntu: apt-get install avrdude" >&2
 
-# Unpacking a newer archive over this folder must not take your settings, so they are laid in place only here.
+# Unpacking the archive once more must not take your settings, so they are laid in place only here.
 for starter in save.json profiles; do
-    [ -e "$starter" ] || cp -R "starter/$starter" .
+    [ -e "$starter" ] || cp -R "starter/$starter" . || echo "Korvel cannot write to this folder." >&2
 done
 exec ./korvel "$@"

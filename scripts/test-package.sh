@@ -32,6 +32,7 @@ make_root() {
     cp /etc/resolv.conf "$root/etc/"
     mount -t proc proc "$root/proc"
     mount --rbind /dev "$root/dev"
+    mount --make-rslave "$root/dev" # so that unmounting it stays in here
     in_root apt-get update -q >/dev/null
     install xvfb xauth xdotool openbox imagemagick fonts-dejavu-core
     in_root useradd --create-home tester
@@ -64,6 +65,7 @@ EOF
 use() {
     local settings=$1
     shift
+    as_user "rm -f chip.json '$settings'"
     as_user "xvfb-run -a -s '-screen 0 800x760x24 -dpi 96' sh /use.sh $*"
     grep -q '"name": "Blink"' "$root/home/tester/$settings" || { echo "the settings were not kept" >&2; false; }
 }
@@ -78,6 +80,12 @@ cp "$root/home/tester/written.png" "$packages/deb.png"
 as_user 'cd .local/share/korvel && rm mcu && mkdir mcu && cp /usr/share/korvel/mcu/ATmega16.json mcu/My.json'
 use .local/share/korvel/save.json korvel-virtual-programmer korvel /usr/share/korvel/demo/blink.hex
 as_user 'cd .local/share/korvel && test "$(ls mcu)" = My.json && test -L programmer'
+# So does a link that leads nowhere; and a language of one's own comes beside those that ship.
+echo '<TS><context><message><source>Write</source><translation>Schrijven</translation></message></context></TS>' \
+    >"$root/home/tester/my.ts"
+as_user 'cd .local/share/korvel && ln -sfn /media/none programmer && korvel-ts2json ~/my.ts Nederlands &&
+    test "$(readlink programmer)" = /media/none && grep -q Schrijven Languages/Nederlands.json &&
+    test -f Languages/Nederlands.json -a -L Languages/Deutsch.json -a ! -e korvel-ts2json'
 in_root apt-get purge -q -y korvel >/dev/null
 left=$(in_root find / -xdev -iname '*korvel*' -not -path '/home/*' -not -path '/proc/*' -not -name korvel.deb)
 [ -z "$left" ] || { printf 'left behind:\n%s\n' "$left" >&2; false; }
