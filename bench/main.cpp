@@ -245,18 +245,63 @@ void benchPicking()
     row("the same, slowest of all", "one frame", *std::max_element(samples.begin(), samples.end()), frame, "ms", 1);
 }
 
+constexpr char saveForever[] = "--save-forever";
+
+/// The settings with a text of @p size characters in them, as file content.
+SettingsRecord settingsOf(int size)
+{
+    SettingsRecord settings;
+    settings.description = QString(size, 'x');
+    return settings;
+}
+
+/// Kills a program while it saves the settings, again and again: the file must be whole each time.
+void benchKills()
+{
+    constexpr int kills = 1000;
+    constexpr int longestSave = 3; // milliseconds, with room to spare
+    const WorkFolder folder;
+    const QStringList contents = [&folder] {
+        QStringList both;
+        for (const int size : {10, 100'000}) {
+            if (!settingsOf(size).saveToFile("save.json"))
+                qFatal("cannot save");
+            both += folder.read("save.json");
+        }
+        return both;
+    }();
+    int whole = 0;
+    for (int i = 0; i < kills; ++i) {
+        QProcess saver;
+        saver.start(QCoreApplication::applicationFilePath(), {saveForever});
+        saver.waitForReadyRead();
+        QTest::qSleep(1 + i % longestSave);
+        saver.kill();
+        saver.waitForFinished();
+        whole += contents.contains(folder.read("save.json"));
+    }
+    row("kills while saving", "settings file whole after it", kills, whole, "", 1);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    if (argc == 2 && argv[1] == QByteArray(saveForever)) {
+        std::puts("saving");
+        std::fflush(stdout);
+        for (int i = 0;; ++i) {
+            if (!settingsOf(i % 2 ? 10 : 100'000).saveToFile("save.json"))
+                return 1;
+        }
+    }
     QApplication application(argc, argv);
     std::printf("%-44s %-34s %9s %9s %-4s %6s  %5s\n", "what", "beside", "ours", "theirs", "", "ratio", "reach");
     const QStringList only = QApplication::arguments().mid(1);
-    const QVector<QPair<QString, void (*)()>> benches {{"start", benchStart},
-                                                       {"descriptions", benchManyDescriptions},
-                                                       {"write", benchWrite},
-                                                       {"log", benchLog},
-                                                       {"picking", benchPicking}};
+    const QVector<QPair<QString, void (*)()>> benches {
+        {"start", benchStart},     {"descriptions", benchManyDescriptions},
+        {"write", benchWrite},     {"log", benchLog},
+        {"picking", benchPicking}, {"kills", benchKills}};
     for (const auto& [name, bench] : benches) {
         if (only.isEmpty() || only.contains(name))
             bench();
