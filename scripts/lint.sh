@@ -9,7 +9,7 @@ trap 'rm -r "$scratch"' EXIT
 lupdate -silent src -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
 
-mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h')
+mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp')
 clang-format --dry-run --Werror "${sources[@]}"
 echo "clang-format: ${#sources[@]} files are in order"
 
