@@ -17,6 +17,12 @@ QString bitClockOption(const QString& speed)
     return speed.split(QLatin1Char('(')).constLast().split(QLatin1Char(')')).constFirst();
 }
 
+/// An empty piece must not reach the decoder: it would forget the first half of a split character.
+QString decode(QTextDecoder& decoder, const QByteArray& piece)
+{
+    return piece.isEmpty() ? QString() : decoder.toUnicode(piece);
+}
+
 std::unique_ptr<QTextDecoder> makeDecoder()
 {
     return std::unique_ptr<QTextDecoder>(QTextCodec::codecForName("UTF-8")->makeDecoder());
@@ -76,8 +82,8 @@ int Avrdude::addEditText()
     if (!m_process)
         return 0;
 
-    const QString errorText = m_errorDecoder->toUnicode(m_process->readAllStandardError());
-    const QString outputText = m_outputDecoder->toUnicode(m_process->readAllStandardOutput());
+    const QString errorText = decode(*m_errorDecoder, m_process->readAllStandardError());
+    const QString outputText = decode(*m_outputDecoder, m_process->readAllStandardOutput());
     m_log->insertAtCursor(errorText);
     m_log->insertAtCursor(outputText);
 
