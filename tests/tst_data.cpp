@@ -12,124 +12,57 @@
 
 namespace {
 
-QString run(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
-    return process.waitForFinished() ? QString::fromUtf8(process.readAll()) : QString();
-}
-
 /// The lines of avrdude's tables: "-p" for parts, "-c" for programmers.
 QVector<QStringList> avrdudeTable(const QString& option)
 {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start("avrdude", {option, "*/St"});
+    process.waitForFinished();
     QVector<QStringList> lines;
-    for (const QString& line : run("avrdude", {option, "*/St"}).split('\n'))
+    for (const QString& line : QString::fromUtf8(process.readAll()).split('\n'))
         lines += line.split('\t');
     return lines;
-}
-
-QString unquoted(const QString& cell)
-{
-    return cell.mid(1, cell.size() - 2);
 }
 
 /// An AVR microcontroller as avrdude knows it.
 struct Part {
     QString id;
-    QString signature; ///< "0x1e 0x94 0x03"
-    QString interfaces; ///< "PM_SPM | PM_ISP"
-    QStringList bytes; ///< fuse and lock memories of one byte, in avrdude's order
+    QString signature; ///< "1E 94 03"
+    bool isSerial = false; ///< can be programmed over SPI
+    QStringList bytes; ///< fuse and lock memories of one byte, without those that are left out
 };
-
-/// By display name.
-QHash<QString, Part> avrdudeParts()
-{
-    static const QRegularExpression avr("^(AT(mega|tiny|xmega|90)|AVR)\\w+$");
-    QHash<QString, Part> parts;
-    for (const QStringList& cells : avrdudeTable("-p")) {
-        if (cells.size() < 4 || !avr.match(cells[1]).hasMatch())
-            continue;
-        Part& part = parts[cells[1]];
-        const QString kind = cells[0] + ' ' + cells[2];
-        if (kind == ".pt id")
-            part.id = unquoted(cells[3]);
-        else if (kind == ".pt signature")
-            part.signature = cells[3];
-        else if (kind == ".pt prog_modes")
-            part.interfaces = cells[3];
-        else if (cells.mid(3) == QStringList {"size", "1"} && QRegExp(".?fuse\\d?|lock(bits)?").exactMatch(cells[2]))
-            part.bytes += cells[2];
-    }
-    return parts;
-}
 
 /// The bytes that avrdude names and the files leave out; docs/devices.md tells why.
-const QVector<QPair<QRegularExpression, QString>> leftOut {
-    {QRegularExpression("^ATtiny(4|5|9|10)$|^ATmega406$"), "lockbits"},
-    {QRegularExpression("^ATtiny(11|12|15|28)$"), "lock"},
-    {QRegularExpression("^AVR|^ATmega\\d+0[89]$|^ATtiny\\d+[02]\\d$"), "fuse4"},
-    {QRegularExpression("^ATxmega(64|128)A1(revD)?$"), "fuse2 fuse5"},
-    {QRegularExpression("^ATxmega(16|32)A4$"), "fuse0"},
-};
+const QRegularExpression leftOut("^(ATtiny(4|5|9|10)|ATmega406) lockbits$|^ATtiny(11|12|15|28) lock$"
+                                 "|^(AVR\\w+|ATmega\\d+0[89]|ATtiny\\d+[02]\\d) fuse4$"
+                                 "|^ATxmega(64|128)A1(revD)? fuse[25]$|^ATxmega(16|32)A4 fuse0$");
 
-/// What the vendor delivers, from the datasheets: the bytes of each microcontroller in the order of its file.
-const QMap<QString, QByteArray> factoryBytes {
-    {"AT90CAN128", "62 99 FF FF"},
-    {"AT90PWM3B", "62 DF F9 FF"},
-    {"AT90USB1287", "5E 99 F3 FF"},
-    {"AT90USB162", "5E D9 F4 FF"},
-    {"ATmega128", "E1 99 FD FF"},
-    {"ATmega1284P", "62 99 FF FF"},
-    {"ATmega16", "E1 99 FF"},
-    {"ATmega162", "62 99 FF FF"},
-    {"ATmega164P", "62 99 FF FF"},
-    {"ATmega168", "62 DF F9 FF"},
-    {"ATmega169P", "62 99 FF FF"},
-    {"ATmega2560", "62 99 FF FF"},
-    {"ATmega32", "E1 99 FF"},
-    {"ATmega328P", "62 D9 FF FF"},
-    {"ATmega328PB", "62 D9 F7 FF"},
-    {"ATmega32U2", "5E D9 F4 FF"},
-    {"ATmega32U4", "52 99 FB FF"}, // the RC order codes; the others come with 5E
-    {"ATmega48", "62 DF FF FF"},
-    {"ATmega4809", "00 00 02 C4 07 00 00 C5"},
-    {"ATmega64", "E1 99 FD FF"},
-    {"ATmega644P", "62 99 FF FF"},
-    {"ATmega8", "E1 D9 FF"},
-    {"ATmega8515", "E1 D9 FF"},
-    {"ATmega8535", "E1 D9 FF"},
-    {"ATmega88PA", "62 DF F9 FF"},
-    {"ATtiny10", "FF"},
-    {"ATtiny13A", "6A FF FF"},
-    {"ATtiny1634", "62 DF FF FF"},
-    {"ATtiny1614", "00 00 02 00 C4 07 00 00 C5"},
-    {"ATtiny2313", "64 DF FF FF"},
-    {"ATtiny24A", "62 DF FF FF"},
-    {"ATtiny26", "E1 F7 FF"},
-    {"ATtiny412", "00 00 02 00 C4 07 00 00 C5"},
-    {"ATtiny44", "62 DF FF FF"},
-    {"ATtiny45", "62 DF FF FF"},
-    {"ATtiny84", "62 DF FF FF"},
-    {"ATtiny85", "62 DF FF FF"},
-    {"ATtiny861", "62 DF FF FF"},
-    {"ATtiny88", "6E DF FF FF"},
-    {"ATxmega128A1U", "FF 00 FF FE FF FF"},
-    {"AVR128DA28", "00 00 00 C0 00 00 00"},
-    {"AVR128DB48", "00 00 00 C0 08 00 00"},
-    {"AVR64DD32", "00 00 00 D0 08 00 00"},
-};
+/// How the bytes are called: microcontroller, identifier, name.
+const QRegularExpression titles(
+    "^(\\w+ (lfuse Low Fuse|hfuse High Fuse|efuse Extended Fuse|fuse Fuse|lock Lock Bits)"
+    "|ATxmega\\w+ fuse(\\d) Fuse \\3 FUSEBYTE\\3"
+    "|(ATmega|ATtiny|AVR)\\w+ fuse(0 Fuse 0 WDTCFG|1 Fuse 1 BODCFG|2 Fuse 2 OSCCFG|5 Fuse 5 SYSCFG0|6 Fuse 6 SYSCFG1)"
+    "|(ATmega|ATtiny)\\w+ fuse(4 Fuse 4 TCD0CFG|7 Fuse 7 APPEND|8 Fuse 8 BOOTEND)"
+    "|AVR\\w+ fuse(7 Fuse 7 CODESIZE|8 Fuse 8 BOOTSIZE))$");
 
-/// Different parts with one signature, each group for a reason of its own. Besides these, revisions of one part share
-/// it: ATmega8 and ATmega8A.
-const QVector<QSet<QString>> sameSignature {
-    {"AT90PWM2", "AT90PWM3"}, // one die, fewer pins
-    {"AT90PWM2B", "AT90PWM3B"}, // likewise
-    {"AT90PWM216", "AT90PWM316"}, // likewise
-    {"AT90USB646", "AT90USB647"}, // one die, without and with USB host
-    {"AT90USB1286", "AT90USB1287"}, // likewise
-    {"ATmega4809", "ATxmega64B3"}, // given twice, to parts that no one programmer interface reaches
-};
+/// What the vendor delivers, from the datasheets: the bytes in the order of the files. ATmega32U4 as the RC order codes
+/// have it; the others come with 5E.
+const QString factoryBytes =
+    "AT90CAN128 ATmega1284P ATmega162 ATmega164P ATmega169P ATmega2560 ATmega644P: 62 99 FF FF; "
+    "AT90PWM3B ATmega168 ATmega88PA: 62 DF F9 FF; AT90USB1287: 5E 99 F3 FF; AT90USB162 ATmega32U2: 5E D9 F4 FF; "
+    "ATmega128 ATmega64: E1 99 FD FF; ATmega16 ATmega32: E1 99 FF; ATmega328P: 62 D9 FF FF; "
+    "ATmega328PB: 62 D9 F7 FF; ATmega32U4: 52 99 FB FF; "
+    "ATmega48 ATtiny1634 ATtiny24A ATtiny44 ATtiny45 ATtiny84 ATtiny85 ATtiny861: 62 DF FF FF; "
+    "ATmega4809: 00 00 02 C4 07 00 00 C5; ATmega8 ATmega8515 ATmega8535: E1 D9 FF; ATtiny10: FF; "
+    "ATtiny13A: 6A FF FF; ATtiny1614 ATtiny412: 00 00 02 00 C4 07 00 00 C5; ATtiny2313: 64 DF FF FF; "
+    "ATtiny26: E1 F7 FF; ATtiny88: 6E DF FF FF; ATxmega128A1U: FF 00 FF FE FF FF; "
+    "AVR128DA28: 00 00 00 C0 00 00 00; AVR128DB48: 00 00 00 C0 08 00 00; AVR64DD32: 00 00 00 D0 08 00 00";
+
+/// Different parts with one signature: one die, some with fewer pins or without USB host, and in the last pair given
+/// twice, to parts that no one programmer interface reaches. Besides these, revisions of one part share it.
+const QStringList sameSignature {"AT90PWM2 AT90PWM3",     "AT90PWM2B AT90PWM3B",     "AT90PWM216 AT90PWM316",
+                                 "AT90USB646 AT90USB647", "AT90USB1286 AT90USB1287", "ATmega4809 ATxmega64B3"};
 
 } // namespace
 
@@ -141,64 +74,87 @@ private slots:
     void initTestCase()
     {
         QVERIFY(QDir::setCurrent(DATA_FOLDER));
-        m_parts = avrdudeParts();
+        const QRegularExpression avr("^(AT(mega|tiny|xmega|90)|AVR)\\w+$");
+        const QRegularExpression wanted("^(.?fuse\\d?|lock(bits)?) size 1$");
+        for (const QStringList& cells : avrdudeTable("-p")) {
+            if (cells.size() < 4 || !avr.match(cells[1]).hasMatch())
+                continue;
+            Part& part = m_parts[cells[1]];
+            const QString kind = cells[0] + ' ' + cells[2];
+            if (kind == ".pt id")
+                part.id = QString(cells[3]).remove('"');
+            else if (kind == ".pt signature")
+                part.signature = QString(cells[3]).remove("0x").toUpper();
+            else if (kind == ".pt prog_modes")
+                part.isSerial = cells[3].contains("PM_ISP");
+            else if (wanted.match(cells.mid(2).join(' ')).hasMatch()
+                     && !leftOut.match(cells[1] + ' ' + cells[2]).hasMatch())
+                part.bytes += cells[2];
+        }
         QVERIFY(m_parts.contains("ATmega16"));
     }
 
     void everyFileIsAnObjectWithOneDotInItsName()
     {
-        QDirIterator files(".", {"*.json"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
+        for (QDirIterator files(".", {"*.json"}, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
             const QString file = files.next();
-            QVERIFY2(JsonFile::read(file).isObject(), qPrintable(file));
-            QVERIFY2(files.fileInfo().baseName() == files.fileInfo().completeBaseName(), qPrintable(file));
+            QVERIFY2(JsonFile::read(file).isObject() && files.fileName().count('.') == 1, qPrintable(file));
         }
     }
 
     void descriptionsAgreeWithAvrdude()
     {
         for (const QString& name : jsonBaseNames("mcu")) {
-            const QJsonObject description = JsonFile::read("mcu/" + name + ".json").document.object();
-            const QString failure = complaint(name, description);
-            QVERIFY2(failure.isEmpty(), qPrintable(name + ": " + failure));
+            QJsonObject description = JsonFile::read("mcu/" + name + ".json").document.object();
+            Part part = m_parts.value(name);
+            QStringList ids;
+            for (const QJsonValue& byte : description.take("FuseBytes").toArray()) {
+                ids += byte["id"].toString();
+                const QString title = name + ' ' + ids.last() + ' ' + byte["name"].toString();
+                QVERIFY2(titles.match(title).hasMatch(), qPrintable(title));
+                QVERIFY2(byte["bits"] == wellFormed(byte["bits"].toArray(), part.isSerial), qPrintable(title));
+            }
+            if (part.bytes.removeOne("lock"))
+                part.bytes += "lock"; // comes last in the files
+            QCOMPARE(name + ' ' + ids.join(' '), name + ' ' + part.bytes.join(' '));
+            QVERIFY2((description == QJsonObject {{"mcu", name}, {"id", part.id}, {"signature", part.signature}}),
+                     qPrintable(name));
         }
     }
 
     void factoryValues()
     {
-        for (auto known = factoryBytes.cbegin(); known != factoryBytes.cend(); ++known) {
-            QByteArray bytes;
-            for (const FuseByte& byte : load(known.key()))
-                bytes += static_cast<char>(byte.defaultValue);
-            QCOMPARE(known.key() + ' ' + bytes.toHex(' ').toUpper(), known.key() + ' ' + known.value());
-        }
+        for (const QString& group : factoryBytes.split("; "))
+            for (const QString& name : group.section(": ", 0, 0).split(' ')) {
+                QByteArray bytes;
+                for (const FuseByte& byte : load(name))
+                    bytes += static_cast<char>(byte.defaultValue);
+                QCOMPARE(name + ": " + bytes.toHex(' ').toUpper(), name + ": " + group.section(": ", 1));
+            }
     }
 
     void signaturesAreSharedForAReason()
     {
         static const QRegularExpression revision("(P|P?A|[RU])$");
-        QHash<QString, QSet<QString>> owners;
+        QHash<QString, QStringList> owners;
         for (const QString& name : jsonBaseNames("mcu"))
             owners[JsonFile::read("mcu/" + name + ".json").document["signature"].toString()] += name;
-        for (const QSet<QString>& names : qAsConst(owners)) {
+        for (QStringList& names : owners) {
+            names.sort();
             QSet<QString> bare;
             for (QString name : names)
                 bare += name.remove(revision);
-            QVERIFY2(bare.size() == 1 || sameSignature.contains(names), qPrintable(names.values().join(' ')));
+            QVERIFY2(bare.size() == 1 || sameSignature.contains(names.join(' ')), qPrintable(names.join(' ')));
         }
     }
 
     void programmersAgreeWithAvrdude()
     {
         QHash<QString, QString> ports;
-        for (const QStringList& cells : avrdudeTable("-c")) {
-            if (cells.value(2) == "id")
-                ports.insert(cells[1], "usb");
-            else if (cells.value(2) == "connection_type" && cells[3] == "serial")
-                ports[cells[1]] = "com";
-        }
-        QSet<QString> ids;
-        QSet<QString> runs;
+        for (const QStringList& cells : avrdudeTable("-c")) // each with its id first, and not always with a connection
+            if (cells.value(2) == "id" || cells.value(2) == "connection_type")
+                ports[cells[1]] = cells[3] == "serial" ? "com" : "usb";
+        QSet<QString> offered; // identifiers, and identifiers with arguments
         for (const QString& name : jsonBaseNames("programmer")) {
             const QJsonObject programmer = JsonFile::read("programmer/" + name + ".json").document.object();
             const QString id = programmer["id"].toString();
@@ -206,41 +162,36 @@ private slots:
             const QJsonObject expected {
                 {"id", id}, {"arguments", arguments}, {"port", arguments.contains("-P ") ? "usb" : ports.value(id)}};
             QVERIFY2(programmer == expected && ports.contains(id), qPrintable(name));
-            QVERIFY2(!runs.contains(id + ' ' + arguments), qPrintable(name + " is there twice"));
-            runs += id + ' ' + arguments;
-            ids += id;
+            QVERIFY2(!offered.contains(id + ' ' + arguments), qPrintable(name + " is there twice"));
+            offered << id << id + ' ' + arguments;
         }
         const QString missing = devices("Programmers that do not ship");
-        for (auto port = ports.cbegin(); port != ports.cend(); ++port)
-            QVERIFY2(ids.contains(port.key()) != missing.contains(QRegularExpression("[ ]" + port.key() + "\\b")),
-                     qPrintable(port.key()));
+        for (const QString& id : ports.keys())
+            QVERIFY2(offered.contains(id) != missing.contains(QRegularExpression("[ ]" + id + "\\b")), qPrintable(id));
     }
 
     void sampleSettingsFitTheirDescription()
     {
-        QStringList files {"save.json"};
-        for (const QString& name : jsonBaseNames("profiles"))
-            files += "profiles/" + name + ".json";
-        for (const QString& file : qAsConst(files)) {
+        const auto text = [](const QString& id, const FuseBytes& bytes) {
+            QString all = id;
+            for (const FuseByte& byte : bytes)
+                all += ' ' + byte.id + ' ' + QString::number(byte.defaultValue);
+            return all;
+        };
+        for (const QFileInfo& file : jsonFiles("profiles") + QFileInfoList {QFileInfo("save.json")}) {
             SettingsRecord sample;
-            QVERIFY2(sample.loadFromFile(file), qPrintable(file));
-            const FuseBytes bytes = load(sample.mcuName);
-            QCOMPARE(sample.mcuId, m_parts.value(sample.mcuName).id);
-            QCOMPARE(sample.fusesBytes.size(), bytes.size());
-            for (int i = 0; i < bytes.size(); ++i)
-                QVERIFY2(sample.fusesBytes[i].id == bytes[i].id
-                             && sample.fusesBytes[i].defaultValue == bytes[i].defaultValue,
-                         qPrintable(file));
+            QVERIFY2(sample.loadFromFile(file.filePath()), qPrintable(file.filePath()));
+            QCOMPARE(text(sample.mcuId, sample.fusesBytes),
+                     text(m_parts.value(sample.mcuName).id, load(sample.mcuName)));
         }
     }
 
     void theListOfDevicesTellsWhatIsMissing()
     {
-        const QString missing = devices("Microcontrollers that do not ship");
-        for (auto part = m_parts.cbegin(); part != m_parts.cend(); ++part) {
-            const bool isTold = missing.contains(QRegularExpression("\\b" + part.key() + "\\b"));
-            QVERIFY2(QFile::exists("mcu/" + part.key() + ".json") != isTold, qPrintable(part.key()));
-        }
+        const QString told = devices("Microcontrollers that do not ship");
+        const QStringList ships = jsonBaseNames("mcu");
+        for (const QString& name : m_parts.keys())
+            QVERIFY2(ships.contains(name) != told.contains(QRegularExpression("\\b" + name + "\\b")), qPrintable(name));
     }
 
 private:
@@ -261,77 +212,24 @@ private:
         return avrdude.settings().fusesBytes;
     }
 
-    /// What is wrong with a description; empty when nothing is.
-    QString complaint(const QString& name, const QJsonObject& description) const
+    /// What an array of eight bits has to look like that has these names and values.
+    static QJsonArray wellFormed(const QJsonArray& bits, bool isSerial)
     {
-        if (!m_parts.contains(name) || description["mcu"] != name)
-            return "name";
-        const Part part = m_parts[name];
-        const QString signature = description["signature"].toString();
-        if (description["id"] != part.id || "0x" + signature.toLower().replace(" ", " 0x") != part.signature
-            || signature != signature.toUpper())
-            return "identifier or signature";
-        QStringList expected = part.bytes;
-        expected.removeOne("lock");
-        expected += part.bytes.filter(QRegularExpression("^lock$"));
-        for (const auto& [parts, bytes] : leftOut)
-            for (const QString& byte : parts.match(name).hasMatch() ? bytes.split(' ') : QStringList())
-                expected.removeOne(byte);
-        QStringList ids;
-        for (const QJsonValue& byte : description["FuseBytes"].toArray()) {
-            const QString id = byte["id"].toString();
-            ids += id;
-            const QString bit = complaint(byte["bits"].toArray(), part.interfaces.contains("PM_ISP"));
-            if (byte["name"] != title(name, id) || !bit.isEmpty())
-                return id + ' ' + byte["name"].toString() + ' ' + bit;
-        }
-        return ids == expected ? QString() : ids.join(' ') + " and not " + expected.join(' ');
-    }
-
-    /// How a byte is to be called.
-    static QString title(const QString& mcu, const QString& id)
-    {
-        const QHash<QString, QString> names {{"lfuse", "Low Fuse"},
-                                             {"hfuse", "High Fuse"},
-                                             {"efuse", "Extended Fuse"},
-                                             {"fuse", "Fuse"},
-                                             {"lock", "Lock Bits"}};
-        if (names.contains(id))
-            return names.value(id);
-        const int number = id.right(1).toInt();
-        const bool isDx = mcu.startsWith("AVR");
-        const QStringList registers {"WDTCFG",
-                                     "BODCFG",
-                                     "OSCCFG",
-                                     {},
-                                     "TCD0CFG",
-                                     "SYSCFG0",
-                                     "SYSCFG1",
-                                     isDx ? "CODESIZE" : "APPEND",
-                                     isDx ? "BOOTSIZE" : "BOOTEND"};
-        return QString("Fuse %1 %2")
-            .arg(number)
-            .arg(mcu.startsWith("ATxmega") ? "FUSEBYTE" + id.right(1) : registers[number]);
-    }
-
-    static QString complaint(const QJsonArray& bits, bool isSerial)
-    {
-        QSet<QString> names;
-        for (const QJsonValue& bit : bits) {
-            const QString name = bit["name"].toString();
+        QJsonArray expected;
+        QSet<QString> taken {""};
+        for (int i = 0; i < 8; ++i) {
+            const QString name = bits.at(i)["name"].toString();
             const bool mayChange = name != "NOT USED" && !(name == "SPIEN" && isSerial);
-            const QJsonObject expected {
-                {"name", name}, {"default", bit["default"].toInt() & 1}, {"enabled", mayChange ? 1 : 0}};
-            if (bit != expected || name.isEmpty() || (mayChange && names.contains(name)))
-                return "bit " + name;
-            names += name;
+            expected += QJsonObject {{"name", mayChange && taken.contains(name) ? "a name of its own" : name},
+                                     {"default", bits.at(i)["default"].toInt() & 1},
+                                     {"enabled", mayChange ? 1 : 0}};
+            taken += name;
         }
-        return bits.size() == 8 ? QString() : "has not eight bits";
+        return expected;
     }
 
     QHash<QString, Part> m_parts;
 };
 
 QTEST_MAIN(tst_Data)
-
 #include "tst_data.moc"

@@ -20,57 +20,34 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include <memory>
+
 namespace {
 
-/// Copies what ships into the working folder.
-void ship(const WorkFolder& folder, const QStringList& files)
-{
-    for (const QString& file : files)
-        folder.write(file, folder.read(DATA_FOLDER "/" + file));
-}
-
-/// A virtual programmer with a fresh chip in it, listening on a free port for as long as the object lives.
-struct Programmer {
-    explicit Programmer(const WorkFolder& folder, const QStringList& arguments = {})
+/// The main window in a fresh working folder, and the virtual programmer with a fresh chip in it, chosen.
+struct Desk {
+    explicit Desk(const QStringList& arguments = {})
     {
-        process.start(VIRTUAL_PROGRAMMER, QStringList {"--port", "0"} + arguments);
-        process.waitForReadyRead();
-        port = QRegularExpression(":(\\d+)").match(process.readAllStandardOutput()).captured(1).toUtf8();
-        const QString entry = "programmer/Virtual programmer.json"; // what ships, with the port that was free
-        folder.write(entry, folder.read(DATA_FOLDER "/" + entry).replace("7016", port));
-    }
-
-    /// Runs avrdude behind the window's back.
-    int avrdude(const QStringList& arguments) const
-    {
-        return QProcess::execute(
-            "avrdude", QStringList {"-p", "m16", "-c", "stk500v1", "-P", "net:127.0.0.1:" + port} + arguments);
-    }
-
-    QProcess process;
-    QByteArray port;
-};
-
-/// The main window with the virtual programmer chosen; closed, with its settings saved, at the end.
-struct Window : KorvelApp {
-    Window()
-    {
-        show();
-        auto* programmers = findChild<SettingsView*>()->programmer();
+        programmer.start(VIRTUAL_PROGRAMMER, QStringList {"--port", "0", "--state", "chip"} + arguments);
+        programmer.waitForReadyRead();
+        port = QRegularExpression(":\\d+").match(programmer.readAllStandardOutput()).captured().toUtf8();
+        for (const QString file : {"programmer/Virtual programmer.json", "profiles/Blink complete.json",
+                                   "mcu/ATmega16.json", "demo/blink.hex", "demo/greeting.eep"})
+            folder.write(file, folder.read(DATA_FOLDER "/" + file).replace(":7016", port)); // the one that was free
+        window = std::make_unique<KorvelApp>();
+        window->show();
+        avrdude = window->findChild<Avrdude*>();
+        auto* programmers = window->findChild<SettingsView*>()->programmer();
         programmers->setCurrentIndex(-1);
         boxes.take(); // no programmer has no entry, says a box
         programmers->setCurrentText("Virtual programmer");
     }
 
-    ~Window() override { close(); }
-
-    /// The values in the Fuses tab, joined; editors on their way out do not count.
-    QString fuses() const
+    /// Runs avrdude behind the window's back.
+    int runAvrdude(const QStringList& arguments) const
     {
-        QString values;
-        for (const FusesByteView* view : findChild<Fuses*>()->findChildren<FusesByteView*>())
-            values += view->parentWidget()->isHidden() ? "" : view->value()->text();
-        return values;
+        return QProcess::execute("avrdude",
+                                 QStringList {"-p", "m16", "-c", "stk500v1", "-P", "net:127.0.0.1" + port} + arguments);
     }
 
     /// Clicks, waits for the end of the run, and returns the boxes that told it.
@@ -78,11 +55,24 @@ struct Window : KorvelApp {
     {
         QTest::mouseClick(button, Qt::LeftButton);
         const QStringList told = boxes.wait(30000);
-        return told.isEmpty() ? "no box; the log says: " + avrdude.logText() : told.join(" | ");
+        return told.isEmpty() ? "no box; the log says: " + avrdude->logText() : told.join(" | ");
     }
 
+    /// The values in the Fuses tab, joined; editors on their way out do not count.
+    QString fuses() const
+    {
+        QString values;
+        for (const FusesByteView* view : window->findChild<Fuses*>()->findChildren<FusesByteView*>())
+            values += view->parentWidget()->isHidden() ? "" : view->value()->text();
+        return values;
+    }
+
+    WorkFolder folder;
+    QProcess programmer;
+    QByteArray port; ///< ":7016"
     BoxAnswerer boxes;
-    Avrdude& avrdude = *findChild<Avrdude*>();
+    std::unique_ptr<KorvelApp> window;
+    Avrdude* avrdude = nullptr;
 };
 
 } // namespace
@@ -94,111 +84,77 @@ class tst_EndToEnd : public QObject
 private slots:
     void writeVerifyRead()
     {
+        Desk desk;
         for (const QString name : {"FLASH", "EEPROM"}) {
-            const int size = name == "FLASH" ? 5001 : 301;
-            const auto view = [&name](const Window& window) {
-                return window.findChildren<MemoryView*>().at(name == "FLASH" ? 0 : 1);
-            };
-            const QString verified = name + " verified successfully.";
-            const QString written = name + ": " + name + " written successfully.\n" + verified;
-            const QString readBack = name + ": " + name + " read successfully.";
-            const WorkFolder folder;
+            const MemoryView* memory = desk.window->findChildren<MemoryView*>().at(name == "FLASH" ? 0 : 1);
             QByteArray firmware;
-            for (int i = 0; i < size; ++i)
+            for (int i = 0; i < (name == "FLASH" ? 5001 : 301); ++i)
                 firmware.append(static_cast<char>(i * i / 7 + i));
-            folder.write("my firmware.bin", firmware);
-            {
-                const Programmer programmer(folder);
-                Window window;
-                const MemoryView* memory = view(window);
-                memory->writePath()->setText("my firmware.bin");
-                QCOMPARE(window.boxAfter(memory->writeButton()), written);
-                QCOMPARE(window.boxAfter(memory->writeVerifyButton()), name + ": " + verified);
-                memory->readPath()->setText("back.hex");
-                QCOMPARE(window.boxAfter(memory->readButton()), readBack);
-                QVERIFY(folder.read("back.hex").startsWith(":"));
-                QCOMPARE(window.boxAfter(memory->readVerifyButton()), name + ": " + verified);
-            }
-            // What was read as Intel hex goes into a fresh chip and comes back as raw bytes. The window is new, too.
-            const Programmer programmer(folder);
-            Window window;
-            const MemoryView* memory = view(window);
-            QCOMPARE(window.boxAfter(memory->writeVerifyButton()), QString("AVRDUDE: Verification error."));
-            memory->writePath()->setText("back.hex");
-            QCOMPARE(window.boxAfter(memory->writeButton()), written);
+            desk.folder.write("my firmware.bin", firmware);
+            memory->writePath()->setText("my firmware.bin");
+            QCOMPARE(desk.boxAfter(memory->writeButton()),
+                     QString("%1: %1 written successfully.\n%1 verified successfully.").arg(name));
+            desk.folder.write("my firmware.bin", firmware + "one byte more");
+            QCOMPARE(desk.boxAfter(memory->writeVerifyButton()), QString("AVRDUDE: Verification error."));
+
+            const QString read = QString("%1: %1 read successfully.").arg(name);
+            memory->readPath()->setText("back.hex");
+            QCOMPARE(desk.boxAfter(memory->readButton()), read);
+            QVERIFY(desk.folder.read("back.hex").startsWith(":"));
+            QCOMPARE(desk.boxAfter(memory->readVerifyButton()), QString("%1: %1 verified successfully.").arg(name));
             memory->readPath()->setText("back.bin");
-            QCOMPARE(window.boxAfter(memory->readButton()), readBack);
-            const QByteArray back = folder.read("back.bin");
-            QCOMPARE(back.left(size), firmware);
-            QCOMPARE(back.mid(size).count('\xff'), back.size() - size);
+            QCOMPARE(desk.boxAfter(memory->readButton()), read);
+            const QByteArray back = desk.folder.read("back.bin");
+            QCOMPARE(back, firmware.leftJustified(back.size(), '\xff'));
         }
     }
 
     void fusesAndWholeChip()
     {
-        const WorkFolder folder;
-        ship(folder, {"mcu/ATmega16.json"});
-        const QString read = "Calibration Byte: Calibration byte read successfully.";
-        {
-            const Programmer programmer(folder, {"--state", "chip"});
-            Window window;
-            const auto* attributes = window.findChild<AttributesView*>();
-            emit attributes->mcuList()->textActivated("ATmega16");
-            window.boxes.take();
-            const auto* buttons = window.findChild<FusesButtonsView*>();
-            const auto chip = [&folder] {
-                const auto state = QJsonDocument::fromJson(folder.read("chip")).object();
-                return state["fuses"]["low"].toString() + state["fuses"]["high"].toString() + state["lock"].toString();
-            };
-            const auto editors = window.findChild<Fuses*>()->findChildren<FusesByteView*>();
-            QTest::keyClicks(editors[0]->value(), "e4");
-            editors[2]->fusesBit()[0]->click(); // LB1
-            QCOMPARE(window.boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
-            QCOMPARE(chip(), QString("0xE40x990xFE"));
-            QCOMPARE(window.boxAfter(buttons->verifyButton()), QString("FUSES: Fuse bytes verified successfully."));
-            QCOMPARE(window.boxAfter(attributes->eraseButton()), QString("MCU: MCU erased successfully."));
-            QCOMPARE(chip(), QString("0xE40x990xFF"));
-            QCOMPARE(programmer.avrdude({"-Ulfuse:w:0xd1:m", "-Uhfuse:w:0x91:m"}), 0);
-            QCOMPARE(window.boxAfter(buttons->verifyButton()), QString("AVRDUDE: Verification error."));
-            QCOMPARE(window.boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
-            QCOMPARE(window.fuses(), QString("D191FF"));
-            QCOMPARE(window.boxAfter(attributes->readButton()), read);
-            QCOMPARE(attributes->calibrationByte()->text(), QString("A9 A4 A2 9F"));
-        }
-        const Programmer programmer(folder, {"--part", "ATtiny85"});
-        Window window;
-        window.avrdude.settings().mcuId = "t85";
-        QCOMPARE(window.boxAfter(window.findChild<AttributesView*>()->readButton()), read);
-        QCOMPARE(window.findChild<AttributesView*>()->calibrationByte()->text(), QString("A9"));
+        Desk desk;
+        const auto* attributes = desk.window->findChild<AttributesView*>();
+        emit attributes->mcuList()->textActivated("ATmega16");
+        desk.boxes.take();
+        const auto* buttons = desk.window->findChild<FusesButtonsView*>();
+        const auto chip = [&desk] {
+            const auto state = QJsonDocument::fromJson(desk.folder.read("chip")).object();
+            return state["fuses"]["low"].toString() + state["fuses"]["high"].toString() + state["lock"].toString();
+        };
+        const auto editors = desk.window->findChild<Fuses*>()->findChildren<FusesByteView*>();
+        QTest::keyClicks(editors[0]->value(), "e4");
+        editors[2]->fusesBit()[0]->click(); // LB1
+        QCOMPARE(desk.boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
+        QCOMPARE(chip(), QString("0xE40x990xFE"));
+        QCOMPARE(desk.boxAfter(buttons->verifyButton()), QString("FUSES: Fuse bytes verified successfully."));
+        QCOMPARE(desk.boxAfter(attributes->eraseButton()), QString("MCU: MCU erased successfully."));
+        QCOMPARE(chip(), QString("0xE40x990xFF"));
+        QCOMPARE(desk.runAvrdude({"-Ulfuse:w:0xd1:m", "-Uhfuse:w:0x91:m"}), 0);
+        QCOMPARE(desk.boxAfter(buttons->verifyButton()), QString("AVRDUDE: Verification error."));
+        QCOMPARE(desk.boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
+        QCOMPARE(desk.fuses(), QString("D191FF"));
+        QCOMPARE(desk.boxAfter(attributes->readButton()),
+                 QString("Calibration Byte: Calibration byte read successfully."));
+        QCOMPARE(attributes->calibrationByte()->text(), QString("A9 A4 A2 9F"));
     }
 
     void profiles()
     {
-        const WorkFolder folder;
-        ship(folder, {"mcu/ATmega16.json", "profiles/Blink complete.json", "demo/blink.hex", "demo/greeting.eep"});
-        QByteArray states[2];
-        for (QByteArray& state : states) { // a board, and the next board
-            QFile::remove("chip");
-            const Programmer programmer(folder, {"--state", "chip"});
-            Window window;
-            // The profile brings the fixed port of the entry that ships; this one is on another.
-            const QString arguments = window.avrdude.settings().arguments;
-            const auto* view = window.findChild<ProgrammingView*>();
-            emit view->profiles()->textActivated("Blink complete");
-            window.avrdude.settings().arguments = arguments;
-            QCOMPARE(window.findChild<FlashView*>()->writePath()->text(), QString("demo/blink.hex"));
-            QCOMPARE(window.fuses(), QString("E1D9FF"));
-            QCOMPARE(window.boxAfter(view->writeButton()),
-                     QString("Profiles: Flash write successfully.\nFlash verify successfully.\n"
-                             "Eeprom write successfully.\nEeprom verify successfully.\n"
-                             "Fuse bits write successfully.\nFuse bits verify successfully."));
-            QCOMPARE(window.avrdude.logText().count("Korvel: avrdude"), 3);
-            state = folder.read("chip");
-            QCOMPARE(programmer.avrdude({"-Uflash:v:demo/blink.hex:i", "-Ueeprom:v:demo/greeting.eep:i",
-                                         "-Ulfuse:v:0xe1:m", "-Uhfuse:v:0xd9:m", "-Ulock:v:0xff:m"}),
+        Desk desk;
+        const auto* view = desk.window->findChild<ProgrammingView*>();
+        emit view->profiles()->textActivated("Blink complete");
+        QCOMPARE(desk.window->findChild<FlashView*>()->writePath()->text(), QString("demo/blink.hex"));
+        QCOMPARE(desk.fuses(), QString("E1D9FF"));
+        for (const QString board : {"one", "the next"}) {
+            QCOMPARE(desk.runAvrdude({"-e", "-Ulfuse:w:0x62:m", "-Uhfuse:w:0x99:m"}), 0); // nothing on it yet
+            QCOMPARE(board + ": " + desk.boxAfter(view->writeButton()),
+                     board
+                         + ": Profiles: Flash write successfully.\nFlash verify successfully.\n"
+                           "Eeprom write successfully.\nEeprom verify successfully.\n"
+                           "Fuse bits write successfully.\nFuse bits verify successfully.");
+            QCOMPARE(desk.runAvrdude({"-Uflash:v:demo/blink.hex:i", "-Ueeprom:v:demo/greeting.eep:i",
+                                      "-Ulfuse:v:0xe1:m", "-Uhfuse:v:0xd9:m", "-Ulock:v:0xff:m"}),
                      0);
         }
-        QVERIFY(states[0].contains("0c942a00") && states[0] == states[1]);
     }
 
     void failures()
@@ -211,15 +167,13 @@ private slots:
               {"--silent", "m16", "fw.bin", "Programmer not found."},
               {"--flip=0x10", "m16", "fw.bin", "Verification error."},
               {"--unplug-after=50", "m16", "fw.bin", "Programmer not found."}}) {
-            const WorkFolder folder;
-            folder.write("fw.bin", QByteArray(100, 'x'));
-            folder.write("garbage.hex", "this is no hex file\n");
-            const Programmer started(folder, QString(programmer).split(' ', Qt::SkipEmptyParts));
-            Window window;
-            window.avrdude.settings().mcuId = part;
-            auto* flash = window.findChild<FlashView*>();
+            Desk desk(QString(programmer).split(' ', Qt::SkipEmptyParts));
+            desk.folder.write("fw.bin", QByteArray(100, 'x'));
+            desk.folder.write("garbage.hex", "this is no hex file\n");
+            desk.avrdude->settings().mcuId = part;
+            auto* flash = desk.window->findChild<FlashView*>();
             flash->writePath()->setText(path);
-            QCOMPARE(path + window.boxAfter(flash->writeButton()), path + QString("AVRDUDE: ") + message);
+            QCOMPARE(path + desk.boxAfter(flash->writeButton()), path + QString("AVRDUDE: ") + message);
         }
     }
 };

@@ -1,10 +1,8 @@
-#include "avrdude/ReadFile.h"
 #include "fuses/Fuses.h"
 #include "fuses/FusesByteView.h"
 #include "mcu/AttributesView.h"
 #include "mcu/BytesModel.h"
 #include "mcu/Program.h"
-#include "mcu/SignatureIndex.h"
 #include "support/Bench.h"
 
 #include <QComboBox>
@@ -20,134 +18,72 @@ private slots:
     {
         Bench bench;
         bench.folder.write("mcu/X.json", R"({"mcu": "other", "id": "x1", "signature": "1E 00 01", "FuseBytes": [
-            {"name": "Low", "id": "lfuse", "bits": [
-                {"name": "B7", "default": 1, "enabled": 1}, {"name": "B6", "default": true, "enabled": true},
+            {"id": "lfuse", "bits": [{"name": "B7", "default": 1, "enabled": 1}, {"default": true, "enabled": true},
                 {}, {}, {}, {}, {}, {"name": "B0", "default": 21, "enabled": 2}, {"name": "ninth", "default": 1}]},
-            {"id": "lock", "bits": [{"name": "L", "default": 0, "enabled": 0}]}, 5]})");
-        BytesModel model(bench.avrdude);
-        model.load("X");
+            {"id": "lock", "bits": [{"name": "L"}]}]})");
         bench.folder.write("mcu/Broken.json", "{\"id\": \"x\"");
-        bench.folder.write("mcu/Folder.json/x", "");
-        for (const char* unusable : {"Missing", "Broken", "Folder"})
-            model.load(unusable);
-        QCOMPARE(bench.boxes.take(),
-                 QStringList({"Korvel: MCU JSON FILE NOT FOUND", "JSON FILE ERROR: JSON FILE ERROR",
-                              "Cannot open file: Cannot open file"}));
+        BytesModel model(bench.avrdude);
+        for (const char* name : {"X", "Missing", "Broken"}) // the last two change nothing
+            model.load(name);
         const SettingsRecord& settings = bench.avrdude.settings();
-        QCOMPARE(settings.mcuName + '|' + settings.mcuId + '|' + settings.signature, QString("X|x1|1E 00 01"));
-        QCOMPARE(settings.fusesBytes.size(), 3);
-        const FuseByte& low = settings.fusesBytes[0];
-        QVERIFY(low.name == "Low" && low.id == "lfuse" && low.currentValue == 0x81 && low.defaultValue == 0x81);
-        const auto& lock = settings.fusesBytes[1].fuseBits;
-        QStringList bits;
-        for (const FuseBit& bit : {low.fuseBits[7], low.fuseBits[6], low.fuseBits[0], lock[7], lock[6]})
-            bits += QString::asprintf("%d %s %d %u%u", bit.bitNumber, qPrintable(bit.name), bit.enabled,
-                                      bit.currentBitValue, bit.defaultBitValue);
-        // A JSON boolean is no number.
-        QCOMPARE(bits, QStringList({"7 B7 1 11", "6 B6 0 00", "0 B0 1 11", "7 L 0 00", "0 NOT USED 0 00"}));
-
-        bench.folder.write("mcu/Array.json", "[1]"); // as if it were an empty object
-        model.load("Array");
-        QVERIFY(settings.mcuName == "Array" && settings.mcuId.isEmpty() && settings.fusesBytes.isEmpty());
+        QStringList texts = bench.boxes.take() + QStringList {settings.mcuName, settings.mcuId, settings.signature};
+        for (const FuseByte& byte : settings.fusesBytes) {
+            texts += QString("%1 %2 %3").arg(byte.id).arg(byte.currentValue, 0, 16).arg(byte.defaultValue, 0, 16);
+            for (const FuseBit& bit : {byte.fuseBits[7], byte.fuseBits[6], byte.fuseBits[0]})
+                texts += QString("%1 %2 %3").arg(bit.name).arg(bit.enabled).arg(bit.defaultBitValue);
+        }
+        // A JSON boolean is no number, and a bit is 0 or 1.
+        QCOMPARE(texts.join('|'),
+                 QString("Korvel: MCU JSON FILE NOT FOUND|JSON FILE ERROR: JSON FILE ERROR|"
+                         "X|x1|1E 00 01|lfuse 81 81|B7 1 1| 0 0|B0 1 1|lock 0 0|L 0 0|NOT USED 0 0|NOT USED 0 0"));
     }
 
-    void listAndPicking()
+    void pickingAndReading()
     {
         Bench bench;
-        for (const QString file : {"ATmega16.json", "ATmega2560.json", "ATtiny13A.json"})
-            bench.folder.write("mcu/" + file, bench.folder.read(DATA_FOLDER "/mcu/" + file));
-        bench.folder.write("mcu/atmega8.json", R"({"mcu": "a8", "id": "m8", "signature": "1"})");
-        bench.folder.write("mcu/AT90.old.json", R"({"mcu": "a90", "id": "", "signature": "2"})");
-        bench.folder.write("mcu/folder.json/x", "");
-        SignatureIndex index;
-        index.build();
-        QCOMPARE(index.find("1").name + index.find("1").id + index.find("2").name, QString("a8m8"));
-
+        for (const QString file : {"mcu/ATmega16.json", "mcu/ATmega2560.json"})
+            bench.folder.write(file, bench.folder.read(DATA_FOLDER "/" + file));
+        bench.folder.write("mcu/AT90.old.json", "{}"); // listed up to the first dot
         Fuses fuses(bench.avrdude, nullptr);
         Program program(bench.avrdude, fuses, nullptr);
         fuses.show();
         const auto* view = program.findChild<AttributesView*>();
         QComboBox* list = view->mcuList();
-        QStringList names;
-        for (int i = 0; i < list->count(); ++i)
-            names += list->itemText(i);
-        QCOMPARE(names, QStringList({"AT90", "ATmega16", "ATmega2560", "ATtiny13A", "atmega8"}));
-        SettingsRecord& settings = bench.avrdude.settings();
-        QCOMPARE(list->currentText() + settings.mcuId, QString("ATmega16m16")); // the record's, and nothing is loaded
-        settings.callByte = "5A";
-        for (const auto& [name, position] : {std::pair("atmega8", 4), {"unlisted", -1}}) {
-            settings.mcuName = name;
-            program.refresh();
-            QCOMPARE(list->currentIndex(), position);
-            QCOMPARE(view->calibrationByte()->text(), QString("5A"));
-        }
-
+        const SettingsRecord& settings = bench.avrdude.settings();
+        QCOMPARE(list->itemText(0) + ' ' + list->currentText(), QString("AT90 ATmega16"));
+        const QString box = "MCU: MCU selected: %1.\nFuse bytes set to datasheet default values.";
         bench.boxes.delay = 50;
-        for (const auto& [part, values] : {std::pair("ATmega2560", "6299FFFF"),
-                                           {"ATtiny13A", "6AFFFF"},
-                                           {"ATmega16", "E199FF"},
-                                           {"ATmega16", "E199FF"}}) {
+        for (const auto& [part, values] :
+             {std::pair("ATmega2560", "6299FFFF"), {"ATmega16", "E199FF"}, {"ATmega16", "E199FF"}}) {
             QString shown; // while the box is open
             QTimer::singleShot(20, this, [&] {
                 for (const FusesByteView* editor : fuses.findChildren<FusesByteView*>())
                     shown += editor->isVisible() ? editor->value()->text() : "";
             });
             emit list->textActivated(part);
-            QCOMPARE(shown, QString(values)); // no trace of the part before, and none of what was typed
-            const QString box = "MCU: MCU selected: %1.\nFuse bytes set to datasheet default values.";
-            QCOMPARE(bench.boxes.take(), QStringList {box.arg(part)});
+            // No trace of the part before, and none of what was typed.
+            QCOMPARE(shown + bench.boxes.take().join('|'), values + box.arg(part));
             QVERIFY(settings.mcuName == part && settings.fusesEnable);
             QTest::keyClicks(fuses.findChild<FusesByteView*>()->value(), "00");
             QCOMPARE(settings.fusesBytes[0].currentValue, 0U);
         }
-        emit list->textActivated("Missing"); // says so twice: that it is missing, and that it was selected
-        QCOMPARE(bench.boxes.take().size(), 2);
-        QCOMPARE(settings.mcuName + settings.mcuId, QString("Missingm16"));
+        emit list->textActivated("Missing");
+        QCOMPARE(bench.boxes.take().size(), 2); // that it is missing, and that it was selected
 
-        settings.fusesBytes.clear();
-        fuses.rebuild();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(fuses.findChildren<FusesByteView*>().isEmpty() && !settings.fusesEnable);
-        QDir("mcu").removeRecursively();
-        index.build();
-        QVERIFY(index.find("1").name.isEmpty());
-    }
-
-    void wholeChip()
-    {
-        Bench bench;
-        Fuses fuses(bench.avrdude, nullptr);
-        Program program(bench.avrdude, fuses, nullptr);
-        const auto* view = program.findChild<AttributesView*>();
-        QVERIFY(!view->autoDetectButton()->parent());
-        QCOMPARE(bench.click(view->autoDetectButton()),
-                 QString("MCU Detected: MCU auto-detected successfully. Do you want to continue?|"));
-        bench.folder.write("calibration.hex", "another chip's");
-        bench.folder.write("script", "wait 50\nmake calibration.hex 0D0A9F");
-        const QString request = "|-U calibration:r:calibration.hex:r";
-        const QString read = "Calibration Byte: Calibration byte read successfully." + request;
-        QCOMPARE(bench.click(view->readButton()), read);
-        QCOMPARE(view->calibrationByte()->text() + bench.avrdude.settings().callByte, QString("0D 0A 9F0D 0A 9F"));
-        bench.folder.write("script", "err verification error");
-        QCOMPARE(bench.click(view->readButton()), "AVRDUDE: Verification error." + request);
-        QVERIFY(view->calibrationByte()->text().isEmpty());
-        bench.folder.write("calibration.hex", "another chip's");
-        bench.folder.write("script", "wait 50"); // as for a microcontroller that has none
-        view->calibrationByte()->setText("old");
-        QCOMPARE(bench.click(view->readButton()), read);
-        QVERIFY(view->calibrationByte()->text().isEmpty());
-    }
-
-    void resultFiles()
-    {
-        const WorkFolder folder;
-        folder.write("a", "\x1e\x95\x0f");
-        folder.write("empty", "");
-        QVector<QStringList> results;
-        const auto collect = [&results](const QStringList& texts) { results += texts; };
-        ReadFile().readFiles({"missing", "a", "empty"}, collect);
-        ReadFile().readFiles({}, collect);
-        QCOMPARE(results, QVector<QStringList>({{"1E 95 0F", ""}, {}}));
+        const QString read = "Calibration Byte: Calibration byte read successfully.";
+        for (const auto& [script, told, shown] :
+             {std::array<QString, 3> {"wait 50\nmake calibration.hex 0D0A9F", read, "0D 0A 9F"},
+              {"err verification error", "AVRDUDE: Verification error.", ""},
+              {"wait 50", read, ""}}) { // as for a microcontroller that has none
+            bench.folder.write("calibration.hex", "another chip's");
+            bench.folder.write("script", script.toUtf8());
+            QCOMPARE(bench.click(view->readButton()), told + "|-U calibration:r:calibration.hex:r");
+            QCOMPARE(view->calibrationByte()->text(), shown);
+        }
+        program.refresh(); // the list has no entry for the name, and shows none; the byte read last is remembered
+        const QStringList state {settings.mcuName, settings.mcuId, list->currentText(),
+                                 view->calibrationByte()->text()};
+        QCOMPARE(state.join('|'), QString("Missing|m16||0D 0A 9F"));
     }
 };
 

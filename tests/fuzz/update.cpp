@@ -5,42 +5,13 @@
 
 #include <QNetworkReply>
 
-#include <cstring>
-
-namespace {
-
-class Reply : public QNetworkReply
-{
-public:
-    explicit Reply(const QByteArray& content)
-        : m_content(content)
-    {
-        open(QIODevice::ReadOnly);
-    }
-
-    void abort() override { }
-    qint64 bytesAvailable() const override { return m_content.size() + QNetworkReply::bytesAvailable(); }
-
-protected:
-    qint64 readData(char* data, qint64 maximum) override
-    {
-        const auto size = std::min<qint64>(maximum, m_content.size());
-        std::memcpy(data, m_content.constData(), static_cast<std::size_t>(size));
-        m_content.remove(0, static_cast<int>(size));
-        return size;
-    }
-
-private:
-    QByteArray m_content;
-};
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     Fuzz::instance().boxes.button = QMessageBox::No;
+    static QNetworkAccessManager manager;
     static UpdateChecker checker;
-    checker.onReplyFinished(new Reply(inputOf(data, size)));
+    const QUrl url("data:application/json;base64," + QString::fromLatin1(inputOf(data, size).toBase64()));
+    checker.onReplyFinished(manager.get(QNetworkRequest(url)));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return 0;
 }
