@@ -3,7 +3,7 @@
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the translations
 
-need_packages "${build_packages[@]}" clang-format clang-tidy python3 qttools5-dev-tools
+need_packages "${build_packages[@]}" clang-format clang-tidy git python3 qttools5-dev-tools
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
 lupdate -silent src -ts "$scratch/texts.ts"
