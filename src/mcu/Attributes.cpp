@@ -59,10 +59,10 @@ void Attributes::autoDetect()
 void Attributes::setAvrdudeCmdReadCallByte()
 {
     m_view.calibrationByte()->clear();
-    m_avrdude.execute({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
-                      [this] { readFileCallByte(); });
     // avrdude makes no file for a microcontroller without a calibration byte; the last one's must not be taken for it.
     QFile::remove(calibrationFile());
+    m_avrdude.execute({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
+                      [this] { readFileCallByte(); });
 }
 
 void Attributes::readFileCallByte()
