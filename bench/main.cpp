@@ -35,6 +35,7 @@ void row(const char* what, const char* beside, double ours, double theirs, const
     std::fflush(stdout);
 }
 
+/// Copies the files of a folder, each @p times under names of its own; the folder is made even if that is never.
 void copyFolder(const QString& from, const QString& to, int times = 1)
 {
     QDir().mkpath(to);
@@ -44,13 +45,10 @@ void copyFolder(const QString& from, const QString& to, int times = 1)
     }
 }
 
-/// Lays what ships into the working folder.
+/// Lays what ships into the working folder, each description as often as told.
 void shipData(int descriptions = 1)
 {
-    if (descriptions)
-        copyFolder(DATA_FOLDER "/mcu", "mcu", descriptions);
-    else
-        QDir().mkpath("mcu");
+    copyFolder(DATA_FOLDER "/mcu", "mcu", descriptions);
     for (const QString folder : {"programmer", "profiles", "demo"})
         copyFolder(QString(DATA_FOLDER) + '/' + folder, folder);
     copyFolder(LANGUAGES, "Languages");

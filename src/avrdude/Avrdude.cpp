@@ -131,8 +131,8 @@ void Avrdude::finishRun(QProcess::ExitStatus status, const Callback& callback)
     // A run that we ended has had its box, even if avrdude was quicker than the kill and exited by itself.
     if (status == QProcess::CrashExit || m_killedOnError)
         return;
-    // The exit code is not asked: what counts is what avrdude said. The raw text differs from the plain one in its line
-    // breaks only, which no fragment holds, and costs half as much to get from a log of megabytes.
+    // The exit code is not asked: what counts is what avrdude said. The raw text differs from the plain one in line
+    // breaks and fixed blanks only, which no fragment holds, and costs far less to get from a log of megabytes.
     if (!m_messages.checkOutput(m_log->document()->toRawText()))
         callback();
 }

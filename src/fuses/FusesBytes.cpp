@@ -35,8 +35,8 @@ void FusesBytes::rebuild()
 void FusesBytes::refresh()
 {
     const FuseBytes& bytes = m_avrdude.settings().fusesBytes;
-    if (bytes.size()
-        != m_editors.size()) { // a profile brought another list, and a box is still open before it is shown
+    // A profile may have brought another list while a box still keeps it from being shown.
+    if (bytes.size() != m_editors.size()) {
         rebuild();
         return;
     }
