@@ -20,19 +20,65 @@ private slots:
         }
     }
 
+    void everyVersion()
+    {
+        const QString seeLog = "AVRDUDE: See the message in the dialog box.";
+        const QHash<QChar, QString> boxes {{'-', ""},
+                                           {'N', "AVRDUDE: Programmer not found."},
+                                           {'D',
+                                            "AVRDUDE: Programmer did not detect the microcontroller\n\n"
+                                            "- Check connections and power supply\n"
+                                            "- Set a lower speed (Port & Speed)"},
+                                           {'W', "AVRDUDE: Wrong microcontroller selected."},
+                                           {'V', "AVRDUDE: Verification error."},
+                                           {'F', "AVRDUDE: No such file or directory."},
+                                           {'I', "AVRDUDE: Invalid file format. Please choose another file."},
+                                           {'E',
+                                            "AVRDUDE: Could not read contents\nDevice is either blank or "
+                                            "read-protected (Lock Bits are set)."},
+                                           {'S', seeLog}};
+        Bench bench;
+        // A letter for each command, in the order of the recordings; the callback runs in '-' alone.
+        for (const auto& [version, expected] : {std::pair("6.3", "--IIFIVW-E--SSNNNSND"),
+                                                {"7.0", "--IIFIVW-E--SSNNNNND"},
+                                                {"7.1", "--SSFSVW-----SSNNNNS"},
+                                                {"7.3", "--SSFSVW----SSSSNSNS"},
+                                                {"8.2", "--IIFIVW----SSNSNNND"}}) {
+            const QString path = QString(DATA_FOLDER "/../tests/recordings/avrdude-%1.txt").arg(version);
+            const QStringList commands = QString('\n' + bench.folder.read(path)).split("\n### -").mid(1);
+            QCOMPARE(commands.size(), static_cast<int>(qstrlen(expected)));
+            for (int i = 0; i < commands.size(); ++i) {
+                const QString command = version + (" -" + commands[i].section('\n', 0, 0));
+                bench.folder.write("recorded", commands[i].section('\n', 1).section("### exit", 0, 0).toUtf8());
+                const int calls = bench.run("print recorded\nexit" + commands[i].section("### exit", 1).toUtf8());
+                QCOMPARE(command + (calls == 1 ? "" : bench.boxes.wait().join('|')),
+                         command + boxes.value(expected[i]));
+            }
+        }
+        // Words of the second table count with an exit code other than 0 alone, and that code with such a word alone.
+        for (const auto& [script, told] :
+             {std::pair("err Error: retrying", ""),
+              {"err was: no Error: at all\nexit 1", ""},
+              {"err \rWriting | ###\rError: cut off\nexit 1", "AVRDUDE: See the message in the dialog box."},
+              {"err Avrdude done.  Thank you.\nexit 0", ""},
+              {"err avrdude: invalid file format 'a90' in update specifier\nexit 1",
+               "AVRDUDE: See the message in the dialog box."},
+              {"err Error: initialization failed  (rc = -1)\nexit 1", "AVRDUDE: Programmer did not detect the"},
+              {"err avrdude: Error: Could not find USBtiny device (0x1781/0xc9f)\nexit 1", "AVRDUDE: Programmer not"}})
+            QVERIFY2(bench.run(script) != 0 ? !*told : *told && bench.boxes.wait().join('|').startsWith(told), script);
+    }
+
     void verdict()
     {
         BoxAnswerer boxes;
         QString told;
         for (const QString output :
              {"error: unable to open programmer", "\"usb\" failed", "cannot open port\nverification error",
-              "can't open device", "USBasp not found", "error: program enable: target does not answer",
-              "ERROR: No valid record found", "Device signature = 0xffffff use -F to override this check",
-              "is empty, resulting file has no contents", "Invalid file format"})
+              "USBasp not found", "error: program enable: target does not answer",
+              "Device signature = 0xffffff use -F to override this check", "Invalid file format"})
             told += Message().checkOutput("Hi\n" + output) ? boxes.take().value(0).section(' ', 1, 2) + '|' : "-|";
         QCOMPARE(told,
-                 "Programmer not|Programmer not|Programmer not|Programmer not|UsbAsp not|Programmer did|"
-                 "Invalid file|Programmer did|Could not|Invalid file|");
+                 "Programmer not|Programmer not|Programmer not|UsbAsp not|Programmer did|Programmer did|Invalid file|");
     }
 
     void silentProgrammer()

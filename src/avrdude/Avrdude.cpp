@@ -51,6 +51,7 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
 
     m_process = new QProcess(this);
     m_killedOnError = false;
+    m_output.clear();
     m_errorDecoder = makeDecoder();
     m_outputDecoder = makeDecoder();
 
@@ -60,7 +61,9 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
     connect(m_process, &QProcess::readyReadStandardOutput, this, &Avrdude::addEditText, Qt::QueuedConnection);
     connect(
         m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
-        [this, callback = std::move(callback)](int, QProcess::ExitStatus status) { finishRun(status, callback); },
+        [this, callback = std::move(callback)](int exitCode, QProcess::ExitStatus status) {
+            finishRun(exitCode, status, callback);
+        },
         Qt::QueuedConnection);
 
     const QString program = m_settings.avrdude;
@@ -84,8 +87,10 @@ int Avrdude::addEditText()
 
     const QString errorText = decode(*m_errorDecoder, m_process->readAllStandardError());
     const QString outputText = decode(*m_outputDecoder, m_process->readAllStandardOutput());
-    m_log->insertAtCursor(errorText);
-    m_log->insertAtCursor(outputText);
+    for (const QString& text : {errorText, outputText}) {
+        m_log->insertAtCursor(text);
+        m_output += text;
+    }
 
     if (!m_killedOnError && Message::showsSilentProgrammer(errorText)) {
         m_killedOnError = true;
@@ -118,7 +123,7 @@ QStringList Avrdude::commonArguments() const
     return frame;
 }
 
-void Avrdude::finishRun(QProcess::ExitStatus status, const Callback& callback)
+void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)
 {
     if (status == QProcess::CrashExit && !m_killedOnError)
         QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Information"),
@@ -131,8 +136,12 @@ void Avrdude::finishRun(QProcess::ExitStatus status, const Callback& callback)
     // A run that we ended has had its box, even if avrdude was quicker than the kill and exited by itself.
     if (status == QProcess::CrashExit || m_killedOnError)
         return;
-    // The exit code is not asked: what counts is what avrdude said. The raw text differs from the plain one in line
-    // breaks and fixed blanks only, which no fragment holds, and costs far less to get from a log of megabytes.
-    if (!m_messages.checkOutput(m_log->document()->toRawText()))
-        callback();
+    // What counts is what avrdude said; its exit code only lends weight to some of its words. The raw text differs from
+    // the plain one in line breaks and fixed blanks only, which no fragment of the first table holds, and costs far
+    // less to get from a log of megabytes.
+    if (m_messages.checkOutput(m_log->document()->toRawText()))
+        return;
+    if (exitCode != 0 && Message::checkFailedRun(m_output))
+        return;
+    callback();
 }

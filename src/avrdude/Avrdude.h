@@ -27,7 +27,8 @@ public:
 
     /// Starts avrdude with the common frame (part, programmer, port, the user's extra arguments, bit clock) followed by
     /// @p arguments, each of which reaches avrdude as one argument, blanks included. @p callback runs after a run that
-    /// ended normally with no known error in the log; then the next run may be started. Failures show their own boxes.
+    /// ended normally and of which no failure is known; then the next run may be started. Failures show their own
+    /// boxes.
     ///
     /// A call during a run is dropped: it returns 0 and its callback never runs. Returns -1 when avrdude could not be
     /// started within 30 seconds; the log says why, and the runner stays busy until the program ends.
@@ -49,13 +50,14 @@ public slots:
 
 private:
     [[nodiscard]] QStringList commonArguments() const;
-    void finishRun(QProcess::ExitStatus status, const Callback& callback);
+    void finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback);
 
     QProcess* m_process = nullptr; ///< the current run; null when idle
     AvrdudeMessage* m_log;
     SettingsRecord m_settings;
     Message m_messages;
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
+    QString m_output; ///< of the current run, as it came; the log may hold it in pieces, where the user clicked into it
     // A character may be split between two pieces of output, so each channel keeps a decoder for the length of a run.
     std::unique_ptr<QTextDecoder> m_errorDecoder;
     std::unique_ptr<QTextDecoder> m_outputDecoder;

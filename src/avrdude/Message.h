@@ -17,6 +17,10 @@ public:
     /// box and returns true; returns false when the text is clean.
     [[nodiscard]] bool checkOutput(const QString& text) const;
 
+    /// The same for a run that ended with another exit code than 0 and whose log checkOutput() found clean: looks in
+    /// @p output, what avrdude printed in that run, for the words of versions that the first table does not know.
+    [[nodiscard]] static bool checkFailedRun(const QString& output);
+
     /// True when @p errorText, one piece of a running avrdude's standard error, shows that the programmer does not
     /// answer, so that waiting for avrdude's own retries is pointless.
     [[nodiscard]] static bool showsSilentProgrammer(const QString& errorText);
