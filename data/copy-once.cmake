@@ -1,4 +1,5 @@
-# Copies the folder FROM to TO unless that is there already.
-if(NOT EXISTS ${TO})
-  file(COPY ${FROM}/ DESTINATION ${TO})
+# Copies FROM, a file or a folder, into the folder INTO unless something of its name is there already.
+get_filename_component(name ${FROM} NAME)
+if(NOT EXISTS ${INTO}/${name})
+  file(COPY ${FROM} DESTINATION ${INTO})
 endif()

@@ -61,7 +61,6 @@ if [ -n "$demo" ]; then
     fi
     echo "The virtual programmer is running; its chip is kept in $PWD/chip.json"
 else
-    [ -e bin/save.json ] || cp ../../data/save.json bin/
     cd bin
 fi
 
