@@ -2,11 +2,13 @@
 #include "app/Startup.h"
 #include "avrdude/Avrdude.h"
 #include "profiles/SelectView.h"
+#include "settings/SettingsView.h"
 #include "support/BoxAnswerer.h"
 #include "support/LogCapture.h"
 #include "support/WorkFolder.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QJsonDocument>
 #include <QTabWidget>
@@ -99,6 +101,26 @@ private slots:
         // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
         for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
             QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(full)[key]);
+    }
+
+    void startShowsWhatIsUsed()
+    {
+        const WorkFolder folder;
+        BoxAnswerer boxes;
+        folder.write("programmer/USBasp.json", R"({"id": "usbasp", "arguments": "-F", "port": "usb"})"); // edited
+        folder.write("programmer/Mine.json", R"({"id": "avrisp", "port": "com"})");
+        QStringList seen;
+        for (const QByteArray& settings : {QByteArray(), QByteArray("{}"), full}) {
+            if (!settings.isEmpty())
+                folder.write(file, settings);
+            const KorvelApp window;
+            const SettingsRecord& record = window.findChild<Avrdude*>()->settings();
+            for (int i = 0; i < 2; ++i) // programmer and port
+                seen += window.findChild<SettingsView*>()->findChildren<QComboBox*>()[i]->currentText();
+            seen += {record.programmer.id, record.arguments};
+            folder.write("programmer/USBasp.json", settings.isEmpty() ? R"({"port": "usb"})" : "{"); // broken
+        }
+        QCOMPARE((seen + boxes.take()).join('|'), QString("USBasp|usb|usbasp|-F|USBasp|usb|||Mine||avrisp|"));
     }
 
     void closingDuringARun()

@@ -73,17 +73,23 @@ private slots:
 
     void refresh()
     {
-        for (const auto& [stored, expected] : {std::pair("/dev/ttyACM0", "/dev/ttyACM0|ttyACM0"),
-                                               {"ttyACM0", "/dev/ttyACM0|ttyACM0"}, // found by its name
-                                               {"/dev/ttyUSB7", "/dev/ttyUSB7|ttyUSB0 (FT232R)"}}) { // not plugged in
-            Panel panel;
-            panel.settings.programmer.name = "Serial";
+        Panel panel;
+        panel.settings.language = "New";
+        for (const auto& [programmer, stored, expected] :
+             {std::array {"Serial", "/dev/ttyACM0", "Serial Serial /dev/ttyACM0|ttyACM0"},
+              {"Serial", "ttyUSB0", "Serial Serial /dev/ttyUSB0|ttyUSB0 (FT232R)"}, // found by its name
+              {"Serial", "/dev/ttyUSB7", "Serial Serial /dev/ttyUSB7|"}, // not plugged in
+              {"USBasp", "COM1", "USBasp USBasp usb|usb"},
+              {"Sold", "usb", " Sold usb|usb"}, // not in the catalogue
+              {"Sold", "/dev/ttyUSB0", " Sold /dev/ttyUSB0|"}}) {
+            panel.settings.programmer.name = programmer;
             panel.settings.port = stored;
-            panel.settings.language = "New";
             panel.presenter->refreshFromSettings();
             // The speed is in no entry, and is kept nevertheless. No box tells to restart.
-            const QString shown = panel.view.port()->currentText() + '|' + panel.view.language()->currentText();
-            QCOMPARE(panel.settings.port + '|' + shown + panel.settings.speed + panel.boxes.take().join('|'),
+            const SettingsRecord& now = panel.settings;
+            const QString port = now.port + '|' + panel.view.port()->currentText() + '|';
+            QCOMPARE(panel.view.programmer()->currentText() + ' ' + now.programmer.name + ' ' + port
+                         + panel.view.language()->currentText() + now.speed + panel.boxes.take().join('|'),
                      expected + QString("|New-B 4"));
         }
     }

@@ -54,6 +54,8 @@ KorvelApp::KorvelApp(QWidget* parent)
 
     if (loadSettings())
         refreshPanels();
+    else
+        m_settings->updateView(); // the programmer of the built-in settings, and its port
 }
 
 void KorvelApp::saveSettings()

@@ -16,9 +16,6 @@ Settings::Settings(Avrdude& avrdude, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view);
-
-    // Without a settings file nobody refreshes the panel, and it must not show what the next run would not use.
-    m_presenter->refreshFromSettings();
 }
 
 Settings::~Settings() = default;

@@ -20,7 +20,9 @@ SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, Set
     , m_view(view)
 {
     // Filled before they are connected: what happens to stand first is no choice of the user's.
+    // No programmer is current before the record's is shown, whose entry is then always read.
     view.programmer()->addItems(model.programmerList());
+    view.programmer()->setCurrentIndex(-1);
     view.speed()->addItems(model.speedList());
     view.language()->addItems(model.languageList());
 
@@ -39,15 +41,48 @@ void SettingsPresenter::refreshFromSettings()
     // The programmer's list is not blocked: its catalogue entry is loaded here and rebuilds the port list. That list
     // is blocked, so the stored port survives the rebuild and is found again in it.
     const SettingsRecord& settings = m_avrdude.settings();
-    m_view.programmer()->setCurrentText(settings.programmer.name);
-    m_view.port()->setCurrentText(settings.port);
+    showProgrammer();
+    showPort();
     m_view.speed()->setCurrentText(settings.speed);
     m_view.language()->setCurrentText(settings.language);
 }
 
+void SettingsPresenter::showProgrammer()
+{
+    QComboBox* programmer = m_view.programmer();
+    const int index = programmer->findText(m_avrdude.settings().programmer.name);
+    // Blank is no choice of a programmer.
+    const QSignalBlocker blocker(index < 0 ? programmer : nullptr);
+    programmer->setCurrentIndex(index);
+}
+
+void SettingsPresenter::showPort()
+{
+    QComboBox* port = m_view.port();
+    if (!selectStoredPort(port))
+        port->setCurrentIndex(port->findText(m_avrdude.settings().port)); // a fixed port is its own name
+}
+
+bool SettingsPresenter::selectStoredPort(QComboBox* comboBox)
+{
+    QString& stored = m_avrdude.settings().port;
+    int index = comboBox->findData(stored);
+    if (index < 0 && !stored.isEmpty())
+        index = comboBox->findData(QString(QLatin1String("/dev/") + stored));
+    if (index < 0)
+        return false;
+    comboBox->setCurrentIndex(index);
+    stored = comboBox->itemData(index).toString();
+    return true;
+}
+
 void SettingsPresenter::loadProgrammer(const QString& name)
 {
-    const auto report = [this](const QString& text) { QMessageBox::information(&m_view, text, text); };
+    const auto report = [this](const QString& text) {
+        QMessageBox::information(&m_view, text, text);
+        const QSignalBlocker blocker(m_view.programmer());
+        showProgrammer(); // the one that the next run uses
+    };
     const JsonFile file = JsonFile::read(SettingsModel::programmerFile(name));
     switch (file.state) {
     case JsonFile::State::NotFound:
@@ -112,15 +147,7 @@ void SettingsPresenter::availableComPortsLin(QComboBox* comboBox)
             port.description.isEmpty() ? port.name : QStringLiteral("%1 (%2)").arg(port.name, port.description);
         comboBox->addItem(text, port.systemLocation);
     }
-
-    QString& stored = m_avrdude.settings().port;
-    int index = comboBox->findData(stored);
-    if (index < 0 && !stored.isEmpty())
-        index = comboBox->findData(QString(QLatin1String("/dev/") + stored));
-    if (index >= 0) {
-        comboBox->setCurrentIndex(index);
-        stored = comboBox->itemData(index).toString();
-    }
+    selectStoredPort(comboBox);
 }
 
 void SettingsPresenter::setSpeedProgrammer(const QString& speed)

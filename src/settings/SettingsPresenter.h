@@ -16,7 +16,8 @@ class SettingsPresenter : public QObject
 public:
     SettingsPresenter(Avrdude& avrdude, SettingsModel& model, SettingsView& view, QObject* parent = nullptr);
 
-    /// Shows the settings record again.
+    /// Shows the settings record again. A stored programmer or port that is in no list shows as blank, and stays
+    /// stored.
     void refreshFromSettings();
 
     /// Takes the catalogue entry called @p name into the record and offers its kind of port. A missing or broken entry
@@ -42,6 +43,13 @@ public slots:
     void setComPorts(const QString& comPort);
 
 private:
+    void showProgrammer();
+    void showPort();
+
+    /// Makes the record's port current, whole or as a name in "/dev", and stores it as it is listed. Returns false,
+    /// with nothing changed, when it is not in the list.
+    bool selectStoredPort(QComboBox* comboBox);
+
     Avrdude& m_avrdude;
     SettingsModel& m_model;
     SettingsView& m_view;
