@@ -14,7 +14,7 @@ namespace {
 /// A byte whose bit 3 is locked and whose bit 4 can be clicked, but not typed away; both are 0 in an editor.
 FuseByte makeByte(const QString& id, quint32 value)
 {
-    FuseByte byte {"Name", id, {}, value, value};
+    FuseByte byte {"Name of " + id, id, {}, value, value};
     byte.fuseBits.fill({0, true, "B", 0, 0});
     byte.fuseBits[3].enabled = false;
     byte.fuseBits[4].name = "NOT USED";
@@ -71,14 +71,31 @@ private slots:
         Fuses fuses(bench.avrdude, nullptr);
         fuses.rebuild();
         const auto* buttons = fuses.findChild<FusesButtonsView*>();
-        QString shown;
-        bench.folder.write("lfuse.hex", "\x0D"); // and no file for the lock byte, which stays
-        for (QPushButton* button : {buttons->readButton(), buttons->defaultButton()}) {
-            bench.click(button);
+        const auto shown = [&fuses] {
+            QString values;
             for (const FusesByteView* editor : fuses.findChildren<FusesByteView*>())
-                shown += editor->value()->text();
-        }
-        QCOMPARE(shown, QString("05E762E7"));
+                values += editor->value()->text();
+            return values;
+        };
+        bench.folder.write("lfuse.hex", "\xFF"); // yesterday's
+        bench.folder.write("script", "make lock.hex 0D");
+        QCOMPARE(bench.click(buttons->readButton()),
+                 QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"
+                         "|-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
+        QCOMPARE(shown(), QString("6205"));
+        bench.click(buttons->defaultButton());
+        QCOMPARE(shown(), QString("62E7"));
+
+        // A profile comes before a reading ends, which is not pressed twice.
+        QVERIFY(bench.avrdude.settings().saveToFile("profile"));
+        bench.folder.write("script", "make lfuse.hex C0\nmake lock.hex C0\nwait 100");
+        buttons->readButton()->click();
+        buttons->readButton()->click();
+        QVERIFY(bench.avrdude.settings().loadFromFile("profile"));
+        QTRY_VERIFY(bench.isIdle());
+        QCOMPARE(shown() + bench.boxes.take().join(""), QString("62E7"));
+        QCOMPARE(bench.click(buttons->readButton()).section('|', 0, 0),
+                 QString("FUSES: Fuse bytes read successfully."));
     }
 };
 

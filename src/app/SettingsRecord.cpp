@@ -163,6 +163,7 @@ bool SettingsRecord::loadFromFile(const QString& path)
     if (!file.isObject())
         return false;
 
+    ++generation;
     const SettingsRecord defaults;
     const Reader root(file.document.object());
     avrdude = root.text("avrdude", defaults.avrdude);

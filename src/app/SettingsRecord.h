@@ -48,6 +48,10 @@ struct SettingsRecord {
     QStringList configurationList; ///< further profile names to offer
     QString currentlyProfilesList; ///< the profile chosen last
 
+    /// Grows when another microcontroller or profile takes the record over; not stored. Whoever waits for something
+    /// from the chip sees from it whether that still belongs to what the record holds.
+    int generation = 0;
+
     /// Writes the whole record to @p path. The file is replaced at once or not at all.
     /// Returns false, with the old file untouched, when it cannot be written.
     [[nodiscard]] bool saveToFile(const QString& path) const;

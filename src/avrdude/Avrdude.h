@@ -35,6 +35,9 @@ public:
     int execute(
         const QStringList& arguments, Callback callback = [] {});
 
+    /// True while avrdude runs: a call of execute() would be dropped.
+    [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
+
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
 
     /// The log view's whole text: the echoed command line and the output of the current or last run.

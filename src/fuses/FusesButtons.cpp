@@ -5,6 +5,7 @@
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesByteModel.h"
 
+#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -30,9 +31,15 @@ void FusesButtons::onClickVerifyBt()
 
 void FusesButtons::onClickReadBt()
 {
+    if (m_avrdude.isBusy())
+        return; // another reading may be under way, whose files these are
     SettingsRecord& settings = m_avrdude.settings();
     settings.fileNamesReading = FuseRequests::files(settings.fusesBytes);
-    m_avrdude.execute(FuseRequests::read(settings.fusesBytes), [this] { readFuseBytesMcu(); });
+    // avrdude makes no file for a byte that the chip lacks; an old one must not be taken for it.
+    for (const QString& file : qAsConst(settings.fileNamesReading))
+        QFile::remove(file);
+    m_avrdude.execute(FuseRequests::read(settings.fusesBytes),
+                      [this, generation = settings.generation] { readFuseBytesMcu(generation); });
 }
 
 void FusesButtons::onClickWriteMessage()
@@ -45,11 +52,21 @@ void FusesButtons::onClickVerifyMessage()
     QMessageBox::information(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes verified successfully."));
 }
 
-void FusesButtons::readFuseBytesMcu()
+void FusesButtons::readFuseBytesMcu(int generation)
 {
-    m_readFile.readFiles(m_avrdude.settings().fileNamesReading, [this](const QStringList& texts) {
-        FusesByteModel::applyReadValues(m_avrdude.settings().fusesBytes, texts);
-        emit setReadingFusesEmit();
-        QMessageBox::information(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes read successfully."));
-    });
+    SettingsRecord& settings = m_avrdude.settings();
+    if (settings.generation != generation)
+        return;
+    QStringList texts; // one a byte, empty where there is no file
+    for (const QString& file : qAsConst(settings.fileNamesReading))
+        m_readFile.readFiles({file}, [&texts](const QStringList& read) { texts += read.value(0); });
+    const QStringList unread = FusesByteModel::applyReadValues(settings.fusesBytes, texts);
+    emit setReadingFusesEmit();
+
+    QStringList told;
+    if (unread.isEmpty() || unread.size() < texts.size())
+        told += tr("Fuse bytes read successfully.");
+    if (!unread.isEmpty())
+        told += tr("Not read: %1").arg(unread.join(QLatin1String(", ")));
+    QMessageBox::information(&m_view, QStringLiteral("FUSES"), told.join(QLatin1Char('\n')));
 }

@@ -28,7 +28,9 @@ signals:
     void setReadingFusesEmit();
 
 private:
-    void readFuseBytesMcu();
+    /// Takes the files of a reading over into the record's bytes, each its own, and tells the user. Nothing happens
+    /// when another microcontroller or profile has come since @p generation of the record: the values are not its.
+    void readFuseBytesMcu(int generation);
 
     Avrdude& m_avrdude;
     FusesButtonsView& m_view;

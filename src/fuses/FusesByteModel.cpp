@@ -54,9 +54,15 @@ void FusesByteModel::restoreDefaults(FuseBytes& bytes)
         byte.currentValue = byte.defaultValue;
 }
 
-void FusesByteModel::applyReadValues(FuseBytes& bytes, const QStringList& texts)
+QStringList FusesByteModel::applyReadValues(FuseBytes& bytes, const QStringList& texts)
 {
+    QStringList unread;
     const int count = qMin(bytes.size(), texts.size());
-    for (int i = 0; i < count; ++i)
-        bytes[i].currentValue = texts.at(i).toUInt(nullptr, 16);
+    for (int i = 0; i < count; ++i) {
+        if (texts.at(i).isEmpty())
+            unread += bytes.at(i).name;
+        else
+            bytes[i].currentValue = texts.at(i).toUInt(nullptr, 16);
+    }
+    return unread;
 }

@@ -31,8 +31,9 @@ public:
     static void restoreDefaults(FuseBytes& bytes);
 
     /// Gives the bytes of @p bytes the values read from the chip, in order, as far as both lists go; @p texts are
-    /// hexadecimal, and what is not counts as 0. The bits follow when the editors are refreshed.
-    static void applyReadValues(FuseBytes& bytes, const QStringList& texts);
+    /// hexadecimal, and what is not counts as 0. An empty one leaves its byte as it is. Returns the names of the bytes
+    /// so left. The bits follow when the editors are refreshed.
+    static QStringList applyReadValues(FuseBytes& bytes, const QStringList& texts);
 
 private:
     [[nodiscard]] FuseByte& mutableByte();

@@ -59,14 +59,18 @@ void Attributes::autoDetect()
 void Attributes::setAvrdudeCmdReadCallByte()
 {
     m_view.calibrationByte()->clear();
+    if (m_avrdude.isBusy())
+        return; // with another reading, perhaps, whose file this is
     // avrdude makes no file for a microcontroller without a calibration byte; the last one's must not be taken for it.
     QFile::remove(calibrationFile());
     m_avrdude.execute({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
-                      [this] { readFileCallByte(); });
+                      [this, generation = m_avrdude.settings().generation] { readFileCallByte(generation); });
 }
 
-void Attributes::readFileCallByte()
+void Attributes::readFileCallByte(int generation)
 {
+    if (m_avrdude.settings().generation != generation)
+        return;
     m_readFile.readFiles({calibrationFile()}, [this](const QStringList& texts) {
         if (texts.isEmpty())
             return;

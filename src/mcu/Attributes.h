@@ -31,7 +31,9 @@ public:
     void setAvrdudeCmdReadCallByte();
 
 private:
-    void readFileCallByte();
+    /// Shows what a reading brought, unless another microcontroller or profile has come since @p generation of the
+    /// record: the calibration would be stored as theirs.
+    void readFileCallByte(int generation);
 
     Avrdude& m_avrdude;
     AttributesView& m_view;

@@ -79,6 +79,7 @@ int BytesModel::load(const QString& name)
     m_name = name; // what counts is the file's name, not the "mcu" in it
 
     SettingsRecord& settings = m_avrdude.settings();
+    ++settings.generation;
     settings.mcuName = m_name;
     settings.mcuId = m_id;
     settings.signature = m_signature;
