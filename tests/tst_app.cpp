@@ -138,6 +138,7 @@ private slots:
             QVERIFY(window.findChild<SelectView*>()->eeprom()->isEnabled());
             avrdude->execute({}, [] { QFAIL("called back"); });
             QTRY_VERIFY(avrdude->logText().contains("busy"));
+            QVERIFY(QApplication::overrideCursor());
             QVERIFY(QDir().mkdir(file) && window.close()); // a folder in the way of the settings
         }
         // Nothing else, such as a warning of a running process destroyed.

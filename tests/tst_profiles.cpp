@@ -55,6 +55,10 @@ private slots:
         QCOMPARE(QDir("profiles").entryList(QDir::Files).join('|') + tab.profiles->currentText(), QString("notes.txt"));
         tab.configuration->name()->setText("no/folder"); // cannot be written, and nothing says so
         add->click();
+        emit tab.profiles->textActivated("gone");
+        QCOMPARE(tab.avrdude.logText(),
+                 QString("Failed to save settings to file: ./profiles/no/folder.json\n"
+                         "Failed to load settings from file: ./profiles/gone.json"));
         QCOMPARE(tab.boxes.take().replaceInStrings(QRegularExpression("(?s)[ :].*"), "").join(' '),
                  QString("Information Overwrite Delete Overwrite Information Delete Information"));
     }
@@ -76,21 +80,25 @@ private slots:
     void writing()
     {
         Tab tab;
-        tab.settings.cmdFlashWrite = QStringList {"-U", "flash"};
+        tab.settings.cmdFlashWrite = QStringList {"-U", "flash:w:a.bin:r"};
         tab.settings.fusesBytes = {FuseByte {"", "lock", {}, 0, 0}};
         for (QCheckBox* area : tab.areas)
             area->click();
         tab.folder.write("script", "err verification error"); // a step that fails ends it
-        QCOMPARE(tab.click(tab.write), QString("AVRDUDE: Verification error.|-U flash"));
-        // Started again in the middle of a run: the new first step is refused, and the old run's end goes on with the
-        // new ones.
+        QCOMPARE(tab.click(tab.write), QString("AVRDUDE: Verification error.|-U flash:w:a.bin:r"));
+        // Started again in the middle of a run: the new first step is refused and told by nobody, and the old run's end
+        // goes on with the new ones. What is chosen meanwhile is for the next board.
         tab.folder.write("script", "wait 200");
-        for (int i = 0; i < 2; ++i) {
+        for (const QString part : {"m16", "t13"}) {
+            tab.settings.mcuId = part;
+            tab.settings.cmdEepromWrite = QStringList {"for", part};
             tab.areas[0]->click();
             tab.write->click();
         }
-        QCOMPARE(tab.boxes.wait().join("").count("successfully"), 6); // writing and verifying each of the areas
-        QCOMPARE(tab.requests().mid(1), QStringList({"", "", "-Ulock:w:0x0:m"}));
+        QCOMPARE(tab.boxes.wait().join("").remove(" successfully."),
+                 QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
+        QCOMPARE(tab.requests().mid(1), QStringList({"for m16", "for m16", "-Ulock:w:0x0:m"}));
+        QCOMPARE(tab.folder.runs().constLast()[1], QString("m16"));
     }
 };
 

@@ -51,6 +51,7 @@ KorvelApp::KorvelApp(QWidget* parent)
 
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
+    connect(m_avrdude, &Avrdude::runningChanged, this, &KorvelApp::showRunning);
 
     if (loadSettings())
         refreshPanels();
@@ -86,6 +87,15 @@ void KorvelApp::onTabChanged(int index)
 {
     if (m_tabs->widget(index) == m_profiles)
         m_profiles->updateAreas();
+}
+
+void KorvelApp::showRunning(bool isRunning)
+{
+    // Whoever changes boards sees by the pointer that the one on the bench is still being worked on.
+    if (isRunning)
+        QApplication::setOverrideCursor(Qt::BusyCursor);
+    else
+        QApplication::restoreOverrideCursor();
 }
 
 void KorvelApp::closeEvent(QCloseEvent* event)

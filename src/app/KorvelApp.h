@@ -37,6 +37,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void showRunning(bool isRunning);
+
     QWidget* m_central; ///< made before the runner, so that the runner outlives the panels on it
     AvrdudeMessage* m_log;
     Avrdude* m_avrdude;

@@ -17,6 +17,18 @@ QString bitClockOption(const QString& speed)
     return speed.split(QLatin1Char('(')).constLast().split(QLatin1Char(')')).constFirst();
 }
 
+/// What every run begins with.
+QStringList commonArguments(const SettingsRecord& settings)
+{
+    QStringList frame {
+        QStringLiteral("-p"),   settings.mcuId,       QStringLiteral("-c"),
+        settings.programmer.id, QStringLiteral("-P"), settings.port,
+    };
+    frame += settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    frame += bitClockOption(settings.speed); // one argument, blank included: avrdude takes it so
+    return frame;
+}
+
 /// An empty piece must not reach the decoder: it would forget the first half of a split character.
 QString decode(QTextDecoder& decoder, const QByteArray& piece)
 {
@@ -46,6 +58,11 @@ Avrdude::~Avrdude()
 
 int Avrdude::execute(const QStringList& arguments, Callback callback)
 {
+    return execute(m_settings, arguments, std::move(callback));
+}
+
+int Avrdude::execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback)
+{
     if (m_process)
         return 0;
 
@@ -66,8 +83,9 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
         },
         Qt::QueuedConnection);
 
-    const QString program = m_settings.avrdude;
-    const QStringList allArguments = commonArguments() + arguments;
+    const QString program = settings.avrdude;
+    const QStringList allArguments = commonArguments(settings) + arguments;
+    emit runningChanged(true);
     m_log->clear();
     m_process->start(program, allArguments);
     m_log->appendPlainText(ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ')
@@ -75,6 +93,7 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
     if (!m_process->waitForStarted(startTimeout)) {
         // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart.
         m_log->appendPlainText(tr("avrdude not found") + m_process->errorString());
+        emit runningChanged(false);
         return -1;
     }
     return 0;
@@ -112,19 +131,14 @@ void Avrdude::replaceLog(const QString& text)
     m_log->appendPlainText(text);
 }
 
-QStringList Avrdude::commonArguments() const
+void Avrdude::appendToLog(const QString& line)
 {
-    QStringList frame {
-        QStringLiteral("-p"),     m_settings.mcuId,     QStringLiteral("-c"),
-        m_settings.programmer.id, QStringLiteral("-P"), m_settings.port,
-    };
-    frame += m_settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    frame += bitClockOption(m_settings.speed); // one argument, blank included: avrdude takes it so
-    return frame;
+    m_log->appendPlainText(line);
 }
 
 void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)
 {
+    emit runningChanged(false);
     if (status == QProcess::CrashExit && !m_killedOnError)
         QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Information"),
                                  QStringLiteral("Process avrdude error"));

@@ -35,6 +35,10 @@ public:
     int execute(
         const QStringList& arguments, Callback callback = [] {});
 
+    /// The same with the program and the frame of @p settings instead of the record's: for several runs that belong
+    /// together whatever is chosen between them.
+    int execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback);
+
     /// True while avrdude runs: a call of execute() would be dropped.
     [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
 
@@ -46,13 +50,19 @@ public:
     /// Shows @p text in the log instead of what is there.
     void replaceLog(const QString& text);
 
+    /// Adds a line of the program's own to the end of the log.
+    void appendToLog(const QString& line);
+
+signals:
+    /// A run begins, or has ended in whatever way.
+    void runningChanged(bool isRunning);
+
 public slots:
     /// Moves freshly printed output into the log, and ends the run when it shows that the programmer does not answer.
     /// Returns 0.
     int addEditText();
 
 private:
-    [[nodiscard]] QStringList commonArguments() const;
     void finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback);
 
     QProcess* m_process = nullptr; ///< the current run; null when idle

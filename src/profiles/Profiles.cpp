@@ -7,6 +7,7 @@
 #include "profiles/SelectView.h"
 
 #include <QComboBox>
+#include <QDebug>
 #include <QVBoxLayout>
 
 Profiles::Profiles(Avrdude& avrdude, QWidget* parent)
@@ -40,7 +41,11 @@ void Profiles::updateAreas()
 void Profiles::loadProfile(const QString& name)
 {
     // A profile that cannot be read leaves the record as it is; what it shows then is still true.
-    (void)m_avrdude.settings().loadFromFile(ProfilesPresenter::profileFile(name));
+    const QString path = ProfilesPresenter::profileFile(name);
+    if (!m_avrdude.settings().loadFromFile(path)) {
+        qDebug().noquote() << "Profile not loaded:" << path;
+        m_avrdude.appendToLog(tr("Failed to load settings from file: ") + path);
+    }
     m_avrdude.settings().currentlyProfilesList = name;
     emit emitUpdateUI();
 }

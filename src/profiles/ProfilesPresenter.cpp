@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -66,8 +67,11 @@ void ProfilesPresenter::saveProfile()
             != QMessageBox::Yes)
             return;
     }
-    // Deliberate: the box below reports success even when the file could not be written.
-    (void)m_avrdude.settings().saveToFile(profileFile(name));
+    // Deliberate: the box below reports success even when the file could not be written. The log tells.
+    if (!m_avrdude.settings().saveToFile(profileFile(name))) {
+        qDebug().noquote() << "Profile not saved:" << profileFile(name);
+        m_avrdude.appendToLog(tr("Failed to save settings to file: ") + profileFile(name));
+    }
     if (!isListed)
         profiles.addItem(name);
     profiles.setCurrentText(name);
@@ -152,6 +156,8 @@ void ProfilesPresenter::updateWriteButton()
 
 void ProfilesPresenter::startWriting()
 {
+    if (!m_avrdude.isBusy()) // else the board on the bench is being written already
+        m_board = m_avrdude.settings();
     m_steps.clear();
     m_nextStep = 0;
     m_summary.clear();
@@ -180,22 +186,24 @@ void ProfilesPresenter::nextStep()
 
 void ProfilesPresenter::runStep(const QStringList& arguments, const QString& summary)
 {
-    m_avrdude.execute(arguments, [this] { nextStep(); });
-    m_summary += summary;
+    const bool isDropped = m_avrdude.isBusy();
+    m_avrdude.execute(m_board, arguments, [this] { nextStep(); });
+    if (!isDropped)
+        m_summary += summary;
 }
 
 void ProfilesPresenter::writeFlash()
 {
-    runStep(m_avrdude.settings().cmdFlashWrite, tr("Flash write successfully.\nFlash verify successfully.\n"));
+    runStep(m_board.cmdFlashWrite, tr("Flash write successfully.\nFlash verify successfully.\n"));
 }
 
 void ProfilesPresenter::writeEeprom()
 {
-    runStep(m_avrdude.settings().cmdEepromWrite, tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
+    runStep(m_board.cmdEepromWrite, tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
 }
 
 void ProfilesPresenter::writeFuses()
 {
-    runStep(FuseRequests::write(m_avrdude.settings().fusesBytes),
+    runStep(FuseRequests::write(m_board.fusesBytes),
             tr("Fuse bits write successfully.\nFuse bits verify successfully."));
 }

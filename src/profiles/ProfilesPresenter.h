@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/SettingsRecord.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QVector>
@@ -40,7 +42,7 @@ private:
     void loadProfileFiles();
 
     /// Writes the settings record as the profile named in the field, asking before one is overwritten. Nothing happens
-    /// without a name. Success is reported even when the file could not be written.
+    /// without a name. The box reports success even when the file could not be written; the log tells the failure.
     void saveProfile();
 
     /// Deletes the selected profile's file, after a question. A failure to delete is not told.
@@ -60,6 +62,7 @@ private:
     ProgrammingView& m_programmingView;
 
     // Of the present or last writing; set anew by the next start only.
+    SettingsRecord m_board; ///< as it was when Write was pressed: what is chosen meanwhile is for the next board
     QVector<Step> m_steps;
     int m_nextStep = 0;
     QString m_log; ///< the logs of all steps so far
