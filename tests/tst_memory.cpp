@@ -43,6 +43,32 @@ private slots:
         QVERIFY(!panels.eepromView.readButton()->isEnabled() && !panels.eepromView.readVerifyButton()->isEnabled());
     }
 
+    void filesThatDoNotFit()
+    {
+        Panels panels;
+        panels.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 4})"); // and no word of the EEPROM's size
+        for (const char* file : {"fits.bin", "large.bin", "large.hex"})
+            panels.folder.write(file, QByteArray(*file == 'f' ? 4 : 5, 'x'));
+        const QString box = "FLASH: The file has 5 bytes, the memory only 4.";
+        const QString done = "FLASH: FLASH %1 successfully.|-U flash:%2";
+        for (const auto& [file, written, verified] :
+             {std::array {QString("fits.bin"), done.arg("written", "w:fits.bin:r"),
+                          done.arg("verified", "v:fits.bin:r")},
+              {"large.hex", done.arg("written", "w:large.hex:i"), done.arg("verified", "v:large.hex:i")},
+              {"large.bin", box, box}}) {
+            panels.flashView.writePath()->setText(file);
+            QCOMPARE(panels.click(panels.flashView.writeButton()), written);
+            QCOMPARE(panels.click(panels.flashView.writeVerifyButton()), verified);
+        }
+        panels.flashView.readPath()->setText("large.bin"); // is to be replaced
+        QCOMPARE(panels.click(panels.flashView.readButton()), done.arg("read", "r:large.bin:r"));
+        panels.eepromView.writePath()->setText("large.bin");
+        QCOMPARE(panels.click(panels.eepromView.writeButton()),
+                 QString("EEPROM: EEPROM written successfully.|-U eeprom:w:large.bin:r"));
+        panels.settings.mcuId = "m32"; // another part than the one that is described
+        QCOMPARE(panels.click(panels.flashView.writeVerifyButton()), done.arg("verified", "v:large.bin:r"));
+    }
+
     void browse()
     {
         const Panels panels;

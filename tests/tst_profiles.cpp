@@ -99,6 +99,13 @@ private slots:
                  QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
         QCOMPARE(tab.requests().mid(1), QStringList({"for m16", "for m16", "-Ulock:w:0x0:m"}));
         QCOMPARE(tab.folder.runs().constLast()[1], QString("m16"));
+
+        // Nothing of a board is written when one of its files does not fit.
+        tab.settings = {};
+        tab.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:C:/a.bin:r"};
+        tab.folder.write("mcu/ATmega16.json", R"({"id": "m16", "eeprom": 4})");
+        tab.folder.write("C:/a.bin", "12345");
+        QCOMPARE(tab.click(tab.write), QString("EEPROM: The file has 5 bytes, the memory only 4."));
     }
 };
 

@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Fuse-Bytes erfolgreich gelesen.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Nicht gelesen: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ Der Baustein ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Einstellungen ließen sich nicht aus dieser Datei laden: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Fuse-Bits erfolgreich geschrieben.
 Fuse-Bits erfolgreich geprüft.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Einstellungen ließen sich nicht in dieser Datei speichern: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Fuse-Bytes auf die Vorgabewerte des Datenblatts gesetzt.</translation>
     <message>
         <source>Write Selected Areas</source>
         <translation>Gewählte Bereiche schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Die Datei hat %1 Bytes, der Speicher nur %2.</translation>
     </message>
 </context>
 <context>

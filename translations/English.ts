@@ -116,6 +116,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Fuse bytes read successfully.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Not read: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -237,6 +241,13 @@ Device is either blank or read-protected (Lock Bits are set).</translation>
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Failed to load settings from file: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -278,6 +289,10 @@ Fuse bits verify successfully.</source>
         <translation>Fuse bits write successfully.
 Fuse bits verify successfully.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Failed to save settings to file: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -309,6 +324,13 @@ Fuse bytes set to datasheet default values.</translation>
     <message>
         <source>Write Selected Areas</source>
         <translation>Write Selected Areas</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>The file has %1 bytes, the memory only %2.</translation>
     </message>
 </context>
 <context>

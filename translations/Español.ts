@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Bytes de fusibles leídos correctamente.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>No leídos: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ El dispositivo está vacío o protegido contra lectura (bits de bloqueo activos)
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>No se pudieron cargar los ajustes del archivo: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Fusibles grabados correctamente.
 Fusibles verificados correctamente.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>No se pudieron guardar los ajustes en el archivo: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Bytes de fusibles restablecidos a los valores de fábrica de la hoja de datos.</
     <message>
         <source>Write Selected Areas</source>
         <translation>Grabar las áreas elegidas</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>El archivo tiene %1 bytes; la memoria, solo %2.</translation>
     </message>
 </context>
 <context>

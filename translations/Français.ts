@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Octets de fusibles lus.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Non lus&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Impossible de charger les réglages du fichier&#xa0;: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Fusibles écrits.
 Fusibles vérifiés.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Impossible d&apos;enregistrer les réglages dans le fichier&#xa0;: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Octets de fusibles remis aux valeurs d&apos;origine de la fiche technique.</tran
     <message>
         <source>Write Selected Areas</source>
         <translation>Écrire les zones choisies</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Le fichier a %1 octets, la mémoire seulement %2.</translation>
     </message>
 </context>
 <context>

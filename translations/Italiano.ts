@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Byte dei fuse letti correttamente.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Non letti: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ Il dispositivo è vuoto o protetto contro la lettura (lock bit attivi).</transla
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Impossibile caricare le impostazioni dal file: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Fuse bit scritti correttamente.
 Fuse bit verificati correttamente.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Impossibile salvare le impostazioni nel file: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Byte dei fuse impostati sui valori predefiniti del datasheet.</translation>
     <message>
         <source>Write Selected Areas</source>
         <translation>Scrivi le aree scelte</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Il file ha %1 byte, la memoria solo %2.</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Odczytano bajty fuse.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Nie odczytano: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translati
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Nie udało się wczytać ustawień z pliku: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Zapisano fusebity.
 Zweryfikowano fusebity.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Nie udało się zapisać ustawień w pliku: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Bajty fuse mają wartości domyślne z noty katalogowej.</translation>
     <message>
         <source>Write Selected Areas</source>
         <translation>Zapisz wybrane obszary</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Plik ma bajtów: %1, a pamięć tylko %2.</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Bytes de fuse lidos com sucesso.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Não lidos: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ O dispositivo está vazio ou protegido contra leitura (lock bits ativos).</trans
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Não foi possível carregar as configurações do arquivo: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Fuse bits gravados com sucesso.
 Fuse bits verificados com sucesso.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Não foi possível salvar as configurações no arquivo: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Bytes de fuse nos valores padrão do datasheet.</translation>
     <message>
         <source>Write Selected Areas</source>
         <translation>Gravar as áreas escolhidas</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>O arquivo tem %1 bytes; a memória, só %2.</translation>
     </message>
 </context>
 <context>

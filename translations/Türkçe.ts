@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Fuse baytları başarıyla okundu.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Okunamayan: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ Aygıt boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translatio
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Ayarlar şu dosyadan yüklenemedi: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Fuse bitleri başarıyla yazıldı.
 Fuse bitleri başarıyla doğrulandı.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Ayarlar şu dosyaya kaydedilemedi: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Fuse baytları veri sayfasındaki varsayılan değerlere ayarlandı.</translatio
     <message>
         <source>Write Selected Areas</source>
         <translation>Seçili alanları yaz</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Dosya %1 bayt, bellek ise yalnızca %2 bayt.</translation>
     </message>
 </context>
 <context>

@@ -116,6 +116,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Фьюз-байты успешно прочитаны.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Не прочитаны: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -237,6 +241,13 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Не удалось загрузить настройки из файла: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -278,6 +289,10 @@ Fuse bits verify successfully.</source>
         <translation>Фьюз-биты успешно записаны.
 Фьюз-биты успешно проверены.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Не удалось сохранить настройки в файл: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -309,6 +324,13 @@ Fuse bytes set to datasheet default values.</source>
     <message>
         <source>Write Selected Areas</source>
         <translation>Записать выбранные области</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Размер файла в байтах: %1, а памяти — только %2.</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>Фʼюз-байти успішно прочитано.</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>Не прочитано: %1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -238,6 +242,13 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>Не вдалося завантажити налаштування з файлу: </translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -279,6 +290,10 @@ Fuse bits verify successfully.</source>
         <translation>Фʼюз-біти успішно записано.
 Фʼюз-біти успішно перевірено.</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>Не вдалося зберегти налаштування у файл: </translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -310,6 +325,13 @@ Fuse bytes set to datasheet default values.</source>
     <message>
         <source>Write Selected Areas</source>
         <translation>Записати вибрані ділянки</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Розмір файлу в байтах: %1, а памʼяті — лише %2.</translation>
     </message>
 </context>
 <context>

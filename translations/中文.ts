@@ -116,6 +116,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>熔丝字节读取成功。</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>未读取：%1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -237,6 +241,13 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>无法从文件加载设置：</translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -278,6 +289,10 @@ Fuse bits verify successfully.</source>
         <translation>熔丝位写入成功。
 熔丝位校验成功。</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>无法将设置保存到文件：</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -309,6 +324,13 @@ Fuse bytes set to datasheet default values.</source>
     <message>
         <source>Write Selected Areas</source>
         <translation>写入所选区域</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>文件有 %1 字节，存储器只有 %2 字节。</translation>
     </message>
 </context>
 <context>

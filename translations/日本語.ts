@@ -116,6 +116,10 @@
         <source>Fuse bytes read successfully.</source>
         <translation>ヒューズバイトを読み出しました。</translation>
     </message>
+    <message>
+        <source>Not read: %1</source>
+        <translation>読み出せなかったもの：%1</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -237,6 +241,13 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Profiles</name>
+    <message>
+        <source>Failed to load settings from file: </source>
+        <translation>設定を読み込めませんでした。ファイル：</translation>
+    </message>
+</context>
+<context>
     <name>ProfilesPresenter</name>
     <message>
         <source>Configuration named «%1» already exists.
@@ -278,6 +289,10 @@ Fuse bits verify successfully.</source>
         <translation>ヒューズビットを書き込みました。
 ヒューズビットを照合しました。</translation>
     </message>
+    <message>
+        <source>Failed to save settings to file: </source>
+        <translation>設定を保存できませんでした。ファイル：</translation>
+    </message>
 </context>
 <context>
     <name>Program</name>
@@ -309,6 +324,13 @@ Fuse bytes set to datasheet default values.</source>
     <message>
         <source>Write Selected Areas</source>
         <translation>選択した領域に書き込む</translation>
+    </message>
+</context>
+<context>
+    <name>RawFile</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>ファイルは %1 バイトですが、メモリは %2 バイトしかありません。</translation>
     </message>
 </context>
 <context>

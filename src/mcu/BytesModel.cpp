@@ -14,6 +14,11 @@ namespace {
 
 constexpr int highestBit = 7;
 
+JsonFile readDescription(const QString& name)
+{
+    return JsonFile::read(QDir(BytesModel::folder()).filePath(name + QLatin1String(".json")));
+}
+
 FuseByte readFuseByte(const QJsonObject& description)
 {
     FuseByte byte;
@@ -51,6 +56,14 @@ QString BytesModel::folder()
     return QStringLiteral("mcu");
 }
 
+qint64 BytesModel::memorySize(const SettingsRecord& settings, const QString& memory)
+{
+    const QJsonObject description = readDescription(settings.mcuName).document.object();
+    if (description.value(QLatin1String("id")).toString() != settings.mcuId)
+        return 0;
+    return description.value(memory).toInt();
+}
+
 int BytesModel::load(const QString& name)
 {
     const auto report = [](const QString& title, const QString& text) {
@@ -58,7 +71,7 @@ int BytesModel::load(const QString& name)
         return 0;
     };
     m_fuseBytes.clear();
-    const JsonFile file = JsonFile::read(QDir(folder()).filePath(name + QLatin1String(".json")));
+    const JsonFile file = readDescription(name);
     switch (file.state) {
     case JsonFile::State::NotFound:
         return report(ProductInfo::name, tr("MCU JSON FILE NOT FOUND"));

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class Avrdude;
+struct SettingsRecord;
 
 /// Loads the description of one microcontroller, with the datasheet's defaults of its fuse bytes, into the settings
 /// record. Descriptions are the files of the folder "mcu" in the working directory, each named after what it describes.
@@ -17,6 +18,11 @@ public:
 
     /// The folder of the descriptions.
     [[nodiscard]] static QString folder();
+
+    /// Size in bytes of the memory that descriptions call @p memory ("flash", "eeprom"), of the microcontroller in
+    /// @p settings. 0 when it is not known: the description has no such key, cannot be read, or is another part's than
+    /// the one that avrdude is told.
+    [[nodiscard]] static qint64 memorySize(const SettingsRecord& settings, const QString& memory);
 
     /// Loads the microcontroller called @p name and replaces the record's name, identifier, signature and fuse bytes.
     /// A file that is missing or no JSON is told in a box and leaves the record as it was. Returns 0.

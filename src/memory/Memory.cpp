@@ -1,6 +1,7 @@
 #include "memory/Memory.h"
 
 #include "memory/MemoryView.h"
+#include "memory/RawFile.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -41,7 +42,8 @@ void Memory::setFilePathRead(const QString& path)
 
 QString Memory::setFormatFile(const QString& suffix) const
 {
-    // The codes are those of avrdude's manual, option -U.
+    // Those of Intel hex, raw and ELF files are avrdude's own. "m" for S-records is not (there it is a value on the
+    // command line, and S-records are "s"), so that avrdude refuses them; it stays for the profiles that hold it.
     static const QHash<QString, QString> formats {
         {QStringLiteral("hex"), QStringLiteral("i")},  {QStringLiteral("eep"), QStringLiteral("i")},
         {QStringLiteral("bin"), QStringLiteral("r")},  {QStringLiteral("s19"), QStringLiteral("m")},
@@ -61,17 +63,17 @@ void Memory::refresh()
 
 void Memory::startWrite(Avrdude::Callback whenDone)
 {
-    m_avrdude.execute(m_avrdude.settings().*m_kind.writeCommand, std::move(whenDone));
+    start(m_avrdude.settings().*m_kind.writeCommand, std::move(whenDone));
 }
 
 void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 {
-    m_avrdude.execute(request("v", file), std::move(whenDone));
+    start(request("v", file), std::move(whenDone));
 }
 
 void Memory::startRead(Avrdude::Callback whenDone)
 {
-    m_avrdude.execute(request("r", fileToRead()), std::move(whenDone));
+    start(request("r", fileToRead()), std::move(whenDone));
 }
 
 void Memory::showWritten()
@@ -96,6 +98,12 @@ QStringList Memory::request(const char* operation, const QString& path) const
     const QString format = setFormatFile(QFileInfo(path).suffix().toLower());
     return {QStringLiteral("-U"),
             QStringLiteral("%1:%2:%3:%4").arg(QLatin1String(m_kind.memory), QLatin1String(operation), path, format)};
+}
+
+void Memory::start(const QStringList& request, Avrdude::Callback whenDone)
+{
+    if (RawFile::fits(m_avrdude.settings(), request, &m_view))
+        m_avrdude.execute(request, std::move(whenDone));
 }
 
 void Memory::showBox(const QString& text)

@@ -60,6 +60,8 @@ protected:
 private:
     /// "-U" and the request that does @p operation ("r", "w", "v") with the file at @p path.
     [[nodiscard]] QStringList request(const char* operation, const QString& path) const;
+    /// Runs @p request unless its file does not fit.
+    void start(const QStringList& request, Avrdude::Callback whenDone);
     void showBox(const QString& text);
 
     MemoryView& m_view;

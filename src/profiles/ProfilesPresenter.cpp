@@ -3,6 +3,7 @@
 #include "app/JsonFile.h"
 #include "avrdude/Avrdude.h"
 #include "fuses/FuseRequests.h"
+#include "memory/RawFile.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
@@ -158,6 +159,12 @@ void ProfilesPresenter::startWriting()
 {
     if (!m_avrdude.isBusy()) // else the board on the bench is being written already
         m_board = m_avrdude.settings();
+    const auto fits = [this](const QCheckBox* area, const QStringList& command) {
+        return !area->isChecked() || RawFile::fits(m_board, command, &m_programmingView);
+    };
+    if (!fits(m_selectView.flash(), m_board.cmdFlashWrite) || !fits(m_selectView.eeprom(), m_board.cmdEepromWrite))
+        return; // before any area is written
+
     m_steps.clear();
     m_nextStep = 0;
     m_summary.clear();
