@@ -1,6 +1,6 @@
-#include "app/JsonFile.h"
 #include "app/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "base/JsonFile.h"
 #include "mcu/BytesModel.h"
 #include "support/BoxAnswerer.h"
 

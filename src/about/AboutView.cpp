@@ -1,6 +1,6 @@
 #include "about/AboutView.h"
 
-#include "app/ProductInfo.h"
+#include "base/ProductInfo.h"
 
 #include <QDate>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "about/SocialLinksWidget.h"
 
-#include "app/ProductInfo.h"
+#include "base/ProductInfo.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>

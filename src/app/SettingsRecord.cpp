@@ -1,6 +1,6 @@
 #include "app/SettingsRecord.h"
 
-#include "app/JsonFile.h"
+#include "base/JsonFile.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/FuseByte.h"
-#include "app/ProductInfo.h"
+#include "base/ProductInfo.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "app/Startup.h"
 
-#include "app/JsonFile.h"
-#include "app/ProductInfo.h"
+#include "base/JsonFile.h"
+#include "base/ProductInfo.h"
 
 #include <QCursor>
 #include <QDebug>

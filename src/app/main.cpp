@@ -1,6 +1,6 @@
 #include "app/KorvelApp.h"
-#include "app/ProductInfo.h"
 #include "app/Startup.h"
+#include "base/ProductInfo.h"
 #include "i18n/JsonToQtTranslator.h"
 #include "i18n/LanguageFiles.h"
 #include "update/UpdateChecker.h"

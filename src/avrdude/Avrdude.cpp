@@ -1,7 +1,7 @@
 #include "avrdude/Avrdude.h"
 
 #include "app/AvrdudeMessage.h"
-#include "app/ProductInfo.h"
+#include "base/ProductInfo.h"
 
 #include <QApplication>
 #include <QMessageBox>

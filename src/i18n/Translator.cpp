@@ -1,6 +1,6 @@
 #include "i18n/Translator.h"
 
-#include "app/JsonFile.h"
+#include "base/JsonFile.h"
 #include "i18n/LanguageFiles.h"
 
 #include <QDebug>

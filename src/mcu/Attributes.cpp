@@ -1,7 +1,7 @@
 #include "mcu/Attributes.h"
 
-#include "app/JsonFile.h"
 #include "avrdude/Avrdude.h"
+#include "base/JsonFile.h"
 #include "mcu/AttributesView.h"
 #include "mcu/BytesModel.h"
 #include "mcu/SignatureIndex.h"

@@ -1,8 +1,8 @@
 #include "mcu/BytesModel.h"
 
-#include "app/JsonFile.h"
-#include "app/ProductInfo.h"
 #include "avrdude/Avrdude.h"
+#include "base/JsonFile.h"
+#include "base/ProductInfo.h"
 
 #include <QApplication>
 #include <QDir>

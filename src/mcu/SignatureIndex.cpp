@@ -1,6 +1,6 @@
 #include "mcu/SignatureIndex.h"
 
-#include "app/JsonFile.h"
+#include "base/JsonFile.h"
 #include "mcu/BytesModel.h"
 
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 #include "profiles/ConfigurationView.h"
 
-#include "app/RowBox.h"
+#include "base/RowBox.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

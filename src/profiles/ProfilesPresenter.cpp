@@ -1,7 +1,7 @@
 #include "profiles/ProfilesPresenter.h"
 
-#include "app/JsonFile.h"
 #include "avrdude/Avrdude.h"
+#include "base/JsonFile.h"
 #include "fuses/FuseRequests.h"
 #include "memory/RawFile.h"
 #include "profiles/ConfigurationView.h"

@@ -1,6 +1,6 @@
 #include "profiles/SelectView.h"
 
-#include "app/RowBox.h"
+#include "base/RowBox.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "settings/SettingsModel.h"
 
-#include "app/JsonFile.h"
+#include "base/JsonFile.h"
 
 #include <QDir>
 

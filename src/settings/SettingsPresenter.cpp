@@ -1,8 +1,8 @@
 #include "settings/SettingsPresenter.h"
 
-#include "app/JsonFile.h"
-#include "app/ProductInfo.h"
 #include "avrdude/Avrdude.h"
+#include "base/JsonFile.h"
+#include "base/ProductInfo.h"
 #include "i18n/LanguageFiles.h"
 #include "settings/SettingsModel.h"
 #include "settings/SettingsView.h"

@@ -1,7 +1,7 @@
 #include "settings/SettingsView.h"
 
-#include "app/ListComboBox.h"
-#include "app/RowBox.h"
+#include "base/ListComboBox.h"
+#include "base/RowBox.h"
 
 #include <QHBoxLayout>
 

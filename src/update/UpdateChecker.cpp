@@ -1,6 +1,6 @@
 #include "update/UpdateChecker.h"
 
-#include "app/ProductInfo.h"
+#include "base/ProductInfo.h"
 
 #include <QApplication>
 #include <QDebug>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/JsonFile.h"
+#include "base/JsonFile.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 

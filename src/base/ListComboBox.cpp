@@ -1,4 +1,4 @@
-#include "app/ListComboBox.h"
+#include "base/ListComboBox.h"
 
 #include <QAbstractItemView>
 #include <QEvent>

@@ -1,4 +1,4 @@
-#include "app/RowBox.h"
+#include "base/RowBox.h"
 
 #include <QHBoxLayout>
 

@@ -1,4 +1,4 @@
-#include "app/JsonFile.h"
+#include "base/JsonFile.h"
 
 #include <QDir>
 #include <QFile>
