@@ -1,7 +1,5 @@
 #include "fuses/FusesByteModel.h"
 
-#include "avrdude/Avrdude.h"
-
 namespace {
 
 void recomputeValue(FuseByte& byte)
@@ -13,26 +11,16 @@ void recomputeValue(FuseByte& byte)
 
 } // namespace
 
-FusesByteModel::FusesByteModel(Avrdude& avrdude, int index, QObject* parent)
+FusesByteModel::FusesByteModel(FuseBytes& bytes, int index, QObject* parent)
     : QObject(parent)
-    , m_avrdude(avrdude)
+    , m_bytes(bytes)
     , m_index(index)
 {
 }
 
-const FuseByte& FusesByteModel::byte() const
-{
-    return m_avrdude.settings().fusesBytes.at(m_index);
-}
-
-FuseByte& FusesByteModel::mutableByte()
-{
-    return m_avrdude.settings().fusesBytes[m_index];
-}
-
 void FusesByteModel::setByte(quint32 value)
 {
-    FuseByte& byte = mutableByte();
+    FuseByte& byte = m_bytes[m_index];
     for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
         FuseBit& bit = byte.fuseBits[i];
         if (bit.enabled && bit.name != QLatin1String("NOT USED"))
@@ -43,7 +31,7 @@ void FusesByteModel::setByte(quint32 value)
 
 void FusesByteModel::setBit(int index, bool checked)
 {
-    FuseByte& byte = mutableByte();
+    FuseByte& byte = m_bytes[m_index];
     byte.fuseBits[static_cast<std::size_t>(index)].currentBitValue = checked ? 0 : 1;
     recomputeValue(byte);
 }
@@ -57,8 +45,7 @@ void FusesByteModel::restoreDefaults(FuseBytes& bytes)
 QStringList FusesByteModel::applyReadValues(FuseBytes& bytes, const QStringList& texts)
 {
     QStringList unread;
-    const int count = qMin(bytes.size(), texts.size());
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < bytes.size() && i < texts.size(); ++i) {
         if (texts.at(i).isEmpty())
             unread += bytes.at(i).name;
         else

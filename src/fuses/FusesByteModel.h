@@ -5,20 +5,18 @@
 #include <QObject>
 #include <QStringList>
 
-class Avrdude;
-
 /// Keeps the value and the eight bits of one fuse byte of the settings record consistent. Every change lands in the
-/// record at once. Bound to its byte by place, not by address: the record's list may be replaced under it. Lives as
-/// long as the byte's editor.
+/// record at once. Bound to its byte by place, not by address: the record's list, which outlives it, may get another
+/// content under it. Lives as long as the byte's editor.
 class FusesByteModel : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p index is the byte's place in the record's list.
-    FusesByteModel(Avrdude& avrdude, int index, QObject* parent = nullptr);
+    /// @p index is the byte's place in @p bytes.
+    FusesByteModel(FuseBytes& bytes, int index, QObject* parent = nullptr);
 
-    [[nodiscard]] const FuseByte& byte() const;
+    [[nodiscard]] const FuseByte& byte() const { return m_bytes.at(m_index); }
 
     /// Takes over those bits of @p value that the user may change and that have a name; the byte's value becomes what
     /// the bits then say. So a locked bit cannot be typed away.
@@ -36,8 +34,6 @@ public:
     static QStringList applyReadValues(FuseBytes& bytes, const QStringList& texts);
 
 private:
-    [[nodiscard]] FuseByte& mutableByte();
-
-    Avrdude& m_avrdude;
+    FuseBytes& m_bytes;
     int m_index;
 };

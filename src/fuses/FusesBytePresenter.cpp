@@ -84,13 +84,13 @@ void FusesBytePresenter::showValue()
 
 void FusesBytePresenter::onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox)
 {
-    m_model.setBit(fusesBit.indexOf(checkBox), checkBox->isChecked());
+    m_model.setBit(static_cast<int>(fusesBit.indexOf(checkBox)), checkBox->isChecked());
     showValue();
 }
 
 bool FusesBytePresenter::eventFilter(QObject* object, QEvent* event)
 {
-    if (object != m_view.value() || event->type() != QEvent::KeyPress)
+    if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(object, event);
     // Modifiers are not asked: with Ctrl a digit is typed too, and no key pastes into a fuse byte.
     const int key = static_cast<QKeyEvent*>(event)->key();

@@ -47,12 +47,12 @@ void FusesBytes::refresh()
 QWidget* FusesBytes::makeEditor(int index)
 {
     auto* editor = new QWidget(&m_view);
-    auto* view = new FusesByteView;
-    auto* model = new FusesByteModel(m_avrdude, index, editor);
+    auto* view = new FusesByteView(editor);
+    auto* model = new FusesByteModel(m_avrdude.settings().fusesBytes, index, editor);
     m_editors.append(new FusesBytePresenter(*view, *model, editor));
 
     auto* layout = new QHBoxLayout(editor);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(view); // a child only now, so that the presenter, which filters its events, goes before it
+    layout->addWidget(view);
     return editor;
 }

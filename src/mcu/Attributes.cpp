@@ -21,8 +21,9 @@ QString calibrationFile()
 
 } // namespace
 
-Attributes::Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view)
-    : m_avrdude(avrdude)
+Attributes::Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view, QObject* parent)
+    : QObject(parent)
+    , m_avrdude(avrdude)
     , m_view(view)
 {
     index.build();

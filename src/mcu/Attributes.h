@@ -16,7 +16,7 @@ class Attributes : public QObject
 
 public:
     /// Builds @p index and fills the view's list.
-    Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view);
+    Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view, QObject* parent = nullptr);
 
     /// Shows the record's microcontroller and calibration byte. Loads nothing. The list shows nothing when it does not
     /// have the microcontroller: another one would not be what the next run uses.

@@ -28,16 +28,14 @@ Program::Program(Avrdude& avrdude, Fuses& fuses, QWidget* parent)
     layout->addWidget(eepromView);
     layout->addStretch();
 
-    m_attributes = std::make_unique<Attributes>(avrdude, m_signatures, *m_attributesView);
-    m_flash = std::make_unique<Flash>(*flashView, avrdude);
-    m_eeprom = std::make_unique<Eeprom>(*eepromView, avrdude);
+    m_attributes = new Attributes(avrdude, m_signatures, *m_attributesView, this);
+    m_flash = new Flash(*flashView, avrdude, this);
+    m_eeprom = new Eeprom(*eepromView, avrdude, this);
 
     // Without a settings file nobody refreshes the tab, and the list must not show what the next run would not use.
     m_attributes->refresh();
     connect(m_attributesView->mcuList(), &QComboBox::textActivated, this, &Program::onMcuSelected);
 }
-
-Program::~Program() = default;
 
 void Program::refresh()
 {

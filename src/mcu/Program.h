@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-#include <memory>
-
 class Attributes;
 class AttributesView;
 class Avrdude;
@@ -20,7 +18,6 @@ class Program : public QWidget
 
 public:
     Program(Avrdude& avrdude, Fuses& fuses, QWidget* parent);
-    ~Program() override;
 
     /// Shows the settings record's microcontroller and files again.
     void refresh();
@@ -32,7 +29,7 @@ private:
     Fuses& m_fuses;
     SignatureIndex m_signatures;
     AttributesView* m_attributesView;
-    std::unique_ptr<Attributes> m_attributes;
-    std::unique_ptr<Flash> m_flash;
-    std::unique_ptr<Eeprom> m_eeprom;
+    Attributes* m_attributes;
+    Flash* m_flash;
+    Eeprom* m_eeprom;
 };

@@ -21,8 +21,8 @@ const Memory::Kind kind {
 
 }
 
-Eeprom::Eeprom(EepromView& view, Avrdude& avrdude)
-    : Memory(view, avrdude, kind)
+Eeprom::Eeprom(EepromView& view, Avrdude& avrdude, QObject* parent)
+    : Memory(view, avrdude, kind, parent)
 {
     connect(view.writeButton(), &QPushButton::clicked, this, &Eeprom::writeEeprom);
     connect(view.writeVerifyButton(), &QPushButton::clicked, this, &Eeprom::writeEepromVerify);

@@ -10,7 +10,7 @@ class Eeprom : public Memory
     Q_OBJECT
 
 public:
-    Eeprom(EepromView& view, Avrdude& avrdude);
+    Eeprom(EepromView& view, Avrdude& avrdude, QObject* parent = nullptr);
 
 public slots:
     void writeEeprom()

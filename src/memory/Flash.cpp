@@ -21,8 +21,8 @@ const Memory::Kind kind {
 
 }
 
-Flash::Flash(FlashView& view, Avrdude& avrdude)
-    : Memory(view, avrdude, kind)
+Flash::Flash(FlashView& view, Avrdude& avrdude, QObject* parent)
+    : Memory(view, avrdude, kind, parent)
 {
     connect(view.writeButton(), &QPushButton::clicked, this, &Flash::writeFlash);
     connect(view.writeVerifyButton(), &QPushButton::clicked, this, &Flash::writeFlashVerify);

@@ -10,7 +10,7 @@ class Flash : public Memory
     Q_OBJECT
 
 public:
-    Flash(FlashView& view, Avrdude& avrdude);
+    Flash(FlashView& view, Avrdude& avrdude, QObject* parent = nullptr);
 
 public slots:
     void writeFlash()

@@ -11,8 +11,9 @@
 
 #include <utility>
 
-Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind)
-    : m_view(view)
+Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind, QObject* parent)
+    : QObject(parent)
+    , m_view(view)
     , m_avrdude(avrdude)
     , m_kind(kind)
 {

@@ -44,7 +44,7 @@ public slots:
     [[nodiscard]] QString setFormatFile(const QString& suffix) const;
 
 protected:
-    Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind);
+    Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind, QObject* parent);
 
     [[nodiscard]] QString fileToWrite() const { return m_avrdude.settings().*m_kind.writeFile; }
     [[nodiscard]] QString fileToRead() const { return m_avrdude.settings().*m_kind.readFile; }

@@ -11,14 +11,12 @@ Settings::Settings(Avrdude& avrdude, QWidget* parent)
 {
     auto* view = new SettingsView(this);
     auto* model = new SettingsModel(this);
-    m_presenter = std::make_unique<SettingsPresenter>(avrdude, *model, *view);
+    m_presenter = new SettingsPresenter(avrdude, *model, *view, this);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view);
 }
-
-Settings::~Settings() = default;
 
 void Settings::updateView()
 {

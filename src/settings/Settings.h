@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <memory>
-
 class Avrdude;
 class SettingsPresenter;
 
@@ -14,11 +12,10 @@ class Settings : public QWidget
 
 public:
     Settings(Avrdude& avrdude, QWidget* parent);
-    ~Settings() override;
 
     /// Shows the settings record again.
     void updateView();
 
 private:
-    std::unique_ptr<SettingsPresenter> m_presenter;
+    SettingsPresenter* m_presenter;
 };
