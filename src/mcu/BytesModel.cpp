@@ -70,7 +70,6 @@ int BytesModel::load(const QString& name)
         QMessageBox::information(QApplication::activeWindow(), title, text);
         return 0;
     };
-    m_fuseBytes.clear();
     const JsonFile file = readDescription(name);
     switch (file.state) {
     case JsonFile::State::NotFound:
@@ -84,18 +83,16 @@ int BytesModel::load(const QString& name)
     }
 
     const QJsonObject description = file.document.object();
-    m_id = description.value(QLatin1String("id")).toString();
-    m_signature = description.value(QLatin1String("signature")).toString();
+    FuseBytes fuseBytes;
     const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
     for (const QJsonValue& byte : bytes)
-        m_fuseBytes.append(readFuseByte(byte.toObject()));
-    m_name = name; // what counts is the file's name, not the "mcu" in it
+        fuseBytes.append(readFuseByte(byte.toObject()));
 
     SettingsRecord& settings = m_avrdude.settings();
     ++settings.generation;
-    settings.mcuName = m_name;
-    settings.mcuId = m_id;
-    settings.signature = m_signature;
-    settings.fusesBytes = m_fuseBytes;
+    settings.mcuName = name; // the file's; the "mcu" in it does not count
+    settings.mcuId = description.value(QLatin1String("id")).toString();
+    settings.signature = description.value(QLatin1String("signature")).toString();
+    settings.fusesBytes = fuseBytes;
     return 0;
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "app/FuseByte.h"
-
 #include <QObject>
 
 class Avrdude;
@@ -30,8 +28,4 @@ public:
 
 private:
     Avrdude& m_avrdude;
-    FuseBytes m_fuseBytes;
-    QString m_name;
-    QString m_id;
-    QString m_signature;
 };

@@ -13,12 +13,11 @@ constexpr int margin = 6; // pixels; the strip is the widest part of the window
 
 SettingsView::SettingsView(QWidget* parent)
     : QGroupBox(QStringLiteral("Settings"), parent)
+    , m_programmer(new ListComboBox(ListComboBox::Width::Any, this))
+    , m_port(new ListComboBox(ListComboBox::Width::Any, this))
+    , m_speed(new ListComboBox(ListComboBox::Width::OfEntries, this)) // short, and always shown whole
+    , m_language(new ListComboBox(ListComboBox::Width::Any, this))
 {
-    for (QComboBox*& comboBox : m_comboBoxes) {
-        const bool isSpeed = &comboBox == &m_comboBoxes[2]; // short, and always shown whole
-        comboBox = new ListComboBox(isSpeed ? ListComboBox::Width::OfEntries : ListComboBox::Width::Any, this);
-    }
-
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     const auto addBox = [this, layout](const QString& title, std::initializer_list<QWidget*> widgets) {
@@ -26,7 +25,7 @@ SettingsView::SettingsView(QWidget* parent)
         box->row()->setContentsMargins(margin, margin, margin, margin);
         layout->addWidget(box);
     };
-    addBox(tr("Programmer"), {programmer()});
-    addBox(tr("Port && Speed ( New MCU -> 185kHz )"), {port(), speed()});
-    addBox(tr("Language"), {language()});
+    addBox(tr("Programmer"), {m_programmer});
+    addBox(tr("Port && Speed ( New MCU -> 185kHz )"), {m_port, m_speed});
+    addBox(tr("Language"), {m_language});
 }

@@ -2,8 +2,6 @@
 
 #include <QGroupBox>
 
-#include <array>
-
 class QComboBox;
 
 /// The strip of four lists under the tabs.
@@ -14,11 +12,14 @@ class SettingsView : public QGroupBox
 public:
     explicit SettingsView(QWidget* parent = nullptr);
 
-    [[nodiscard]] QComboBox* programmer() const { return m_comboBoxes[0]; }
-    [[nodiscard]] QComboBox* port() const { return m_comboBoxes[1]; }
-    [[nodiscard]] QComboBox* speed() const { return m_comboBoxes[2]; }
-    [[nodiscard]] QComboBox* language() const { return m_comboBoxes[3]; }
+    [[nodiscard]] QComboBox* programmer() const { return m_programmer; }
+    [[nodiscard]] QComboBox* port() const { return m_port; }
+    [[nodiscard]] QComboBox* speed() const { return m_speed; }
+    [[nodiscard]] QComboBox* language() const { return m_language; }
 
 private:
-    std::array<QComboBox*, 4> m_comboBoxes;
+    QComboBox* m_programmer;
+    QComboBox* m_port;
+    QComboBox* m_speed;
+    QComboBox* m_language;
 };
