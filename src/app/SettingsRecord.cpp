@@ -4,7 +4,6 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QVariant>
 
 namespace {
@@ -95,9 +94,9 @@ FuseByte readFuseByte(const Reader& in)
     byte.defaultValue = in.byteValue("defaultValue");
     byte.currentValue = in.byteValue("currentValue");
     const QJsonArray bits = in.array("fuseBits");
-    const int count = qMin(bits.size(), static_cast<int>(byte.fuseBits.size()));
-    for (int i = 0; i < count; ++i)
-        byte.fuseBits[static_cast<std::size_t>(i)] = readFuseBit(Reader(bits.at(i)));
+    int number = 0;
+    for (FuseBit& bit : byte.fuseBits)
+        bit = readFuseBit(Reader(bits.at(number++))); // past the end there is nothing, which reads as a fresh bit
     return byte;
 }
 
@@ -105,10 +104,6 @@ FuseByte readFuseByte(const Reader& in)
 
 bool SettingsRecord::saveToFile(const QString& path) const
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-
     const QJsonObject files {
         {QStringLiteral("flashWrite"), flashWrite},
         {QStringLiteral("flashRead"), flashRead},
@@ -152,9 +147,7 @@ bool SettingsRecord::saveToFile(const QString& path) const
         {QStringLiteral("fileNamesReading"), toJson(fileNamesReading)},
         {QStringLiteral("profiles"), profiles},
     };
-    const QByteArray json = QJsonDocument(root).toJson(QJsonDocument::Indented);
-    // Flushed here: a disk that fills up while the file is closed goes unnoticed, and half a file would win.
-    return file.write(json) == json.size() && file.flush() && file.commit();
+    return writeFile(path, QJsonDocument(root).toJson(QJsonDocument::Indented));
 }
 
 bool SettingsRecord::loadFromFile(const QString& path)

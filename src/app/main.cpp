@@ -1,8 +1,8 @@
 #include "app/KorvelApp.h"
 #include "app/Startup.h"
 #include "base/ProductInfo.h"
+#include "base/Toolkit.h"
 #include "i18n/JsonToQtTranslator.h"
-#include "i18n/LanguageFiles.h"
 #include "update/UpdateChecker.h"
 
 #include <QApplication>
@@ -10,11 +10,9 @@
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Toolkit::useHighDpi();
     QApplication application(argc, argv);
-
-    LanguageFiles::useUtf8Names();
+    Toolkit::useUtf8Names();
 
     // Before any widget: the texts that widgets show are translated while they are built.
     auto* translator = new JsonToQtTranslator(&application);

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QTextCodec>
 
 namespace {
 
@@ -29,17 +28,6 @@ QStringList commonArguments(const SettingsRecord& settings)
     return frame;
 }
 
-/// An empty piece must not reach the decoder: it would forget the first half of a split character.
-QString decode(QTextDecoder& decoder, const QByteArray& piece)
-{
-    return piece.isEmpty() ? QString() : decoder.toUnicode(piece);
-}
-
-std::unique_ptr<QTextDecoder> makeDecoder()
-{
-    return std::unique_ptr<QTextDecoder>(QTextCodec::codecForName("UTF-8")->makeDecoder());
-}
-
 } // namespace
 
 Avrdude::Avrdude(QObject* parent, AvrdudeMessage* log)
@@ -52,6 +40,7 @@ Avrdude::~Avrdude()
 {
     if (!m_process)
         return;
+    // What avrdude still prints reaches nobody: its signals are queued, and the log may be gone by now.
     m_process->kill();
     m_process->waitForFinished();
 }
@@ -69,8 +58,8 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     m_process = new QProcess(this);
     m_killedOnError = false;
     m_output.clear();
-    m_errorDecoder = makeDecoder();
-    m_outputDecoder = makeDecoder();
+    m_errorDecoder.reset();
+    m_outputDecoder.reset();
 
     // Queued, because what these lead to may open a box. The box's event loop goes on delivering the process's events,
     // its end included, and then the process object may be deleted while one of its own functions is still running.
@@ -104,8 +93,8 @@ int Avrdude::addEditText()
     if (!m_process)
         return 0;
 
-    const QString errorText = decode(*m_errorDecoder, m_process->readAllStandardError());
-    const QString outputText = decode(*m_outputDecoder, m_process->readAllStandardOutput());
+    const QString errorText = m_errorDecoder.decode(m_process->readAllStandardError());
+    const QString outputText = m_outputDecoder.decode(m_process->readAllStandardOutput());
     for (const QString& text : {errorText, outputText}) {
         m_log->insertAtCursor(text);
         m_output += text;

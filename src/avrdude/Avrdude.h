@@ -2,19 +2,18 @@
 
 #include "app/SettingsRecord.h"
 #include "avrdude/Message.h"
+#include "base/Toolkit.h"
 
 #include <QObject>
 #include <QProcess>
 
 #include <functional>
-#include <memory>
 
 class AvrdudeMessage;
-class QTextDecoder;
 
 /// The program's only way of acting on a chip: runs avrdude, one run at a time, streams its output into the log and
 /// decides from that text whether the run succeeded. Also carries the one settings record, which all panels share.
-/// Owned by the main window, as is the log; both outlive every run.
+/// Owned by the main window. On closing the log goes first, while avrdude may still run.
 class Avrdude : public QObject
 {
     Q_OBJECT
@@ -71,7 +70,6 @@ private:
     Message m_messages;
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
     QString m_output; ///< of the current run, as it came; the log may hold it in pieces, where the user clicked into it
-    // A character may be split between two pieces of output, so each channel keeps a decoder for the length of a run.
-    std::unique_ptr<QTextDecoder> m_errorDecoder;
-    std::unique_ptr<QTextDecoder> m_outputDecoder;
+    Toolkit::Utf8Decoder m_errorDecoder; ///< one a channel, begun anew with each run
+    Toolkit::Utf8Decoder m_outputDecoder;
 };

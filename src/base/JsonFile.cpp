@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonParseError>
+#include <QSaveFile>
 
 JsonFile JsonFile::read(const QString& path)
 {
@@ -19,6 +20,13 @@ JsonFile JsonFile::read(const QString& path)
     result.error = error.errorString();
     result.state = error.error == QJsonParseError::NoError ? State::Parsed : State::ParseError;
     return result;
+}
+
+bool writeFile(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    // Flushed here: a disk that fills up while the file is closed goes unnoticed, and half a file would win.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
 }
 
 QFileInfoList jsonFiles(const QString& folder)

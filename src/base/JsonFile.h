@@ -23,6 +23,10 @@ struct JsonFile {
     [[nodiscard]] static JsonFile read(const QString& path);
 };
 
+/// Writes @p content to the file at @p path, which is replaced at once or not at all. Returns false, with the old file
+/// untouched, when it cannot be written whole.
+[[nodiscard]] bool writeFile(const QString& path, const QByteArray& content);
+
 /// The "*.json" files in @p folder, in the order in which the file system lists them; none when there is no such
 /// folder.
 [[nodiscard]] QFileInfoList jsonFiles(const QString& folder);

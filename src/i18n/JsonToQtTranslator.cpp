@@ -11,7 +11,7 @@ bool JsonToQtTranslator::loadLanguage(const QString& language)
     m_translations.clear();
     m_language = language;
 
-    const QString path = LanguageFiles::path(language);
+    const QString path = LanguageFiles::path(LanguageFiles::baseFolder(), language);
     const JsonFile file = JsonFile::read(path);
     if (!file.wasRead()) {
         qDebug().noquote() << "JsonToQtTranslator: Cannot open file:" << path;

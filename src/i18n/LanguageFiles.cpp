@@ -1,9 +1,7 @@
 #include "i18n/LanguageFiles.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
-#include <QTextCodec>
 
 QString LanguageFiles::baseFolder()
 {
@@ -11,24 +9,12 @@ QString LanguageFiles::baseFolder()
     return package.isEmpty() ? QCoreApplication::applicationDirPath() : QFileInfo(package).absolutePath();
 }
 
-QString LanguageFiles::path(const QString& language)
+QString LanguageFiles::folder(const QString& base)
 {
-    return QDir(baseFolder()).filePath(QStringLiteral("Languages/%1.json").arg(language));
+    return base + QLatin1String("/Languages");
 }
 
-QString LanguageFiles::folderBesideProgram()
+QString LanguageFiles::path(const QString& base, const QString& language)
 {
-    return QCoreApplication::applicationDirPath() + QLatin1String("/Languages");
-}
-
-QString LanguageFiles::pathBesideProgram(const QString& language)
-{
-    return QStringLiteral("%1/%2.json").arg(folderBesideProgram(), language);
-}
-
-void LanguageFiles::useUtf8Names()
-{
-#ifdef Q_OS_UNIX
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-#endif
+    return folder(base) + QLatin1Char('/') + language + QLatin1String(".json");
 }

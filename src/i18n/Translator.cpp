@@ -3,6 +3,7 @@
 #include "base/JsonFile.h"
 #include "i18n/LanguageFiles.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 
 Translator& Translator::instance()
@@ -13,7 +14,7 @@ Translator& Translator::instance()
 
 bool Translator::loadLanguage(const QString& language)
 {
-    const QString path = LanguageFiles::pathBesideProgram(language);
+    const QString path = LanguageFiles::path(QCoreApplication::applicationDirPath(), language);
     const JsonFile file = JsonFile::read(path);
     if (!file.wasRead()) {
         qDebug().noquote() << "Translator: Failed to load file:" << path;
@@ -41,5 +42,5 @@ QString Translator::translate(const QString& key) const
 
 QStringList Translator::availableLanguages()
 {
-    return jsonBaseNames(LanguageFiles::folderBesideProgram());
+    return jsonBaseNames(LanguageFiles::folder(QCoreApplication::applicationDirPath()));
 }

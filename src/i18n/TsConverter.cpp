@@ -1,7 +1,9 @@
 #include "i18n/TsConverter.h"
 
+#include "base/JsonFile.h"
 #include "i18n/LanguageFiles.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -32,12 +34,12 @@ QJsonObject readTexts(QXmlStreamReader& reader)
 
 } // namespace
 
-void convertTsToJson(const QString& tsFilePath, const QString& languageName)
+bool convertTsToJson(const QString& tsFilePath, const QString& languageName)
 {
     QFile input(tsFilePath);
     if (!input.open(QIODevice::ReadOnly)) {
         qDebug().noquote() << "Converter: Cannot open TS file:" << tsFilePath;
-        return;
+        return false;
     }
     QXmlStreamReader reader(&input);
     const QJsonObject texts = readTexts(reader);
@@ -45,14 +47,12 @@ void convertTsToJson(const QString& tsFilePath, const QString& languageName)
     if (reader.hasError())
         qDebug().noquote() << "Converter: XML Error:" << reader.errorString();
 
-    QDir().mkpath(LanguageFiles::folderBesideProgram());
-    const QString path = LanguageFiles::pathBesideProgram(languageName);
-    QFile output(path);
-    if (!output.open(QIODevice::WriteOnly)) {
+    QDir().mkpath(LanguageFiles::folder(QCoreApplication::applicationDirPath()));
+    const QString path = LanguageFiles::path(QCoreApplication::applicationDirPath(), languageName);
+    if (!writeFile(path, QJsonDocument(texts).toJson(QJsonDocument::Indented))) {
         qDebug().noquote() << "Converter: Cannot write JSON to" << path;
-        return;
+        return false;
     }
-    output.write(QJsonDocument(texts).toJson(QJsonDocument::Indented));
-    output.close();
     qDebug().noquote() << "Converter: Successfully created" << path;
+    return !reader.hasError();
 }

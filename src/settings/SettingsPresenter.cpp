@@ -161,7 +161,7 @@ void SettingsPresenter::setLanguage(const QString& language)
 
     // Looked up in the chosen language's file: the running interface stays in the old language.
     QString notice = QLatin1String(QT_TR_NOOP("Please restart the application to apply language changes."));
-    const QString path = LanguageFiles::path(language);
+    const QString path = LanguageFiles::path(LanguageFiles::baseFolder(), language);
     const JsonFile file = JsonFile::read(path);
     if (!file.wasRead()) {
         qDebug().noquote() << "Language file not found:" << path;

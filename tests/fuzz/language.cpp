@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     JsonToQtTranslator translator;
     translator.loadLanguage("X");
     static_cast<void>(translator.translate("Any", "Language", nullptr, -1));
-    fuzz.folder.write(LanguageFiles::pathBesideProgram("Fuzz"), inputOf(data, size));
+    fuzz.folder.write(LanguageFiles::path(QCoreApplication::applicationDirPath(), "Fuzz"), inputOf(data, size));
     Translator::instance().loadLanguage("Fuzz");
     static_cast<void>(Translator::instance().translate("Language"));
     return 0;

@@ -4,8 +4,7 @@
 #include "app/AvrdudeMessage.h"
 #include "avrdude/Message.h"
 #include "avrdude/ReadFile.h"
-
-#include <QTextCodec>
+#include "base/Toolkit.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -13,11 +12,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static AvrdudeMessage log;
     static const Message messages;
     const QByteArray output = inputOf(data, size);
-    const std::unique_ptr<QTextDecoder> decoder(QTextCodec::codecForName("UTF-8")->makeDecoder());
+    Toolkit::Utf8Decoder decoder;
     log.clear();
     constexpr int piece = 7;
     for (int i = 0; i < output.size(); i += piece) {
-        const QString text = decoder->toUnicode(output.mid(i, piece));
+        const QString text = decoder.decode(output.mid(i, piece));
         static_cast<void>(Message::showsSilentProgrammer(text));
         log.insertAtCursor(text);
     }
