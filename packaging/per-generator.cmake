@@ -1,6 +1,6 @@
 # Read by CPack once for each generator.
 if(CPACK_GENERATOR STREQUAL "DEB")
-  set(CPACK_COMPONENTS_ALL debian)
+  set(CPACK_COMPONENTS_ALL system)
   set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 else()
   set(CPACK_COMPONENTS_ALL portable)

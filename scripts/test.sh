@@ -1,12 +1,11 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs every test. Usage: scripts/test.sh [PRESET]   (release, dev or asan)
+# Installs what is missing, builds, and runs every test. Usage: scripts/test.sh [PRESET]
+# (release, dev, asan or qt6)
 source "$(dirname "$0")/common.sh"
 
 preset=${1:-release}
-need_packages "${build_packages[@]}" fonts-dejavu-core
+packages=("${build_packages[@]}" fonts-dejavu-core)
+[ "$preset" != qt6 ] || packages+=(qt6-base-dev qt6-serialport-dev)
+need_packages "${packages[@]}"
 build "$preset"
-
-export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-# For the asan preset. The suppressions name libraries, so the whole call stack is needed.
-export LSAN_OPTIONS="suppressions=$PWD/tests/leaks.supp:print_suppressions=0" ASAN_OPTIONS=fast_unwind_on_malloc=0
-ctest --test-dir "build/$preset" --output-on-failure --no-tests=error
+ctest --preset "$preset"

@@ -48,7 +48,7 @@ private slots:
     {
         const WorkFolder folder;
         SettingsRecord record;
-        for (int flag = full.indexOf("false"); flag > 0; flag = full.indexOf("false", flag + 1)) {
+        for (auto flag = full.indexOf("false"); flag > 0; flag = full.indexOf("false", flag + 1)) {
             const QByteArray expected = QByteArray(full).replace(flag, 5, "true");
             // The extra names come in under another key than they go out by.
             folder.write(file, QByteArray(expected).replace("configurationList", "profilesList"));

@@ -43,19 +43,19 @@ private slots:
     {
         QApplication::clipboard()->setText("11");
         // The text, where the cursor is, the byte, and the byte after a click on each of the bits.
-        for (const auto& [keys, result] : {std::pair(QVector<int> {'F', '3', '9'}, "E3 2 e3 14"), // one too many
-                                           {{Qt::SHIFT + Qt::Key_End, '0'}, "02 1 2 f5"}, // instead of a selection
-                                           {{Qt::CTRL + 'V', 'G', ' ', Qt::CTRL + 'C', Qt::CTRL + 'A'}, "C2 2 c2 35"},
-                                           {{Qt::Key_End, Qt::Key_Backspace}, "6 1 62 95"}, // leaves the byte alone
-                                           {{Qt::Key_Delete, 'A', Qt::Key_Left, Qt::Key_Right, '7'}, "A7 2 a7 50"}}) {
+        for (const auto& [keys, result] : {std::pair("F,3,9", "E3 2 e3 14"), // one too many
+                                           {"Shift+End,0", "02 1 2 f5"}, // instead of a selection
+                                           {"Ctrl+V,G,Space,Ctrl+C,Ctrl+A", "C2 2 c2 35"},
+                                           {"End,Backspace", "6 1 62 95"}, // leaves the byte alone
+                                           {"Del,A,Left,Right,7", "A7 2 a7 50"}}) {
             Bench bench;
             FuseBytes& bytes = bench.avrdude.settings().fusesBytes;
             bytes = {makeByte("lfuse", 0x62)};
             Fuses fuses(bench.avrdude, nullptr);
             fuses.rebuild();
             const auto* editor = fuses.findChild<FusesByteView*>();
-            for (const int key : keys)
-                QTest::keySequence(editor->value(), key);
+            for (const QString& key : QString(keys).split(','))
+                QTest::keySequence(editor->value(), QKeySequence(key));
             const QString typed = QString("%1 %2 ").arg(editor->value()->text()).arg(editor->value()->cursorPosition());
             const QString value = QString::number(bytes[0].currentValue, 16);
             for (QCheckBox* box : editor->fusesBit())

@@ -1,6 +1,5 @@
 #include "fuses/FusesByteView.h"
 
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>

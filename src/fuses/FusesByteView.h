@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QCheckBox> // whole: Qt 6 wants to know what its signals carry
 #include <QVector>
 #include <QWidget>
 
-class QCheckBox;
 class QGroupBox;
 class QLineEdit;
 

@@ -35,7 +35,7 @@ struct Bench {
     /// Clicks, waits for a box and the end of the run, and returns the boxes and the requests that it came to.
     QString click(QPushButton* button)
     {
-        const int before = requests().size();
+        const auto before = requests().size();
         button->click();
         const QStringList told = boxes.wait();
         return QTest::qWaitFor([this] { return isIdle(); }) ? (told + requests().mid(before)).join('|') : "still busy";

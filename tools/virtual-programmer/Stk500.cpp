@@ -124,7 +124,7 @@ QByteArray Stk500::receive(const QByteArray& bytes)
 int Stk500::flashBytesReceived() const
 {
     const bool isWithinPage = byteAt(m_pending, 0) == ProgramPage && byteAt(m_pending, 3) == flashMemory;
-    return m_flashBytes + (isWithinPage ? m_pending.size() - pageHeaderLength : 0);
+    return m_flashBytes + (isWithinPage ? static_cast<int>(m_pending.size()) - pageHeaderLength : 0);
 }
 
 QByteArray Stk500::execute(const QByteArray& command)
@@ -175,7 +175,7 @@ QByteArray Stk500::programPage(quint8 memory, const QByteArray& data)
     if (memory != flashMemory)
         return answer({}, failed);
 
-    m_flashBytes += data.size();
+    m_flashBytes += static_cast<int>(data.size());
     for (int i = 0; i < data.size(); ++i) {
         const int word = m_address + i / 2;
         const int next = 2 * m_address + i + 1;

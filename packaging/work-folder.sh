@@ -1,7 +1,8 @@
-# Sourced by the launchers. Leaves the shell in the user's work folder, which is set up when it is not there.
+# Sourced by the launchers, which say in $prefix where Korvel was installed. Leaves the shell in the user's work folder,
+# which is set up when it is not there.
 
-share=@KORVEL_SHARE@
-library=@KORVEL_LIBRARY@
+share=$prefix/share/korvel
+library=$prefix/lib/korvel
 
 # Says what went wrong: in the terminal, and, started from a menu, in a box if the desktop has a tool for one.
 tell() {
