@@ -30,7 +30,7 @@ const QByteArray full =
     "language": "Русский", "arguments": "-v", "fileNamesReading": ["lfuse.hex", "lock.hex"], "files": {
         "flashWrite": "a.hex", "flashRead": "b.hex", "eepromWrite": "c.eep", "eepromRead": "d.eep",
         "cmdFlashWrite": ["-U", "flash:w:a.hex:i"], "cmdEepromWrite": ["-U", "eeprom:w:c.eep:i"], "cmdFuses": ["-Ux"]},
-    "programmer": {"name": "Mine", "id": "stk500v1", "port": "/dev/ttyUSB0", "speed": "1 kHz (-B 512)"},
+    "programmer": {"name": "Mine", "id": "stk500v1", "port": "/dev/none", "speed": "1 kHz (-B 512)"},
     "fusesBytes": [{"name": "L", "id": "lfuse", "defaultValue": 98, "currentValue": 226, "fuseBits": [@,@,@,@,@,@,@,@]}],
     "profiles": {"name": "Name", "description": "Rev. B", "configurationList": ["1"], "currentlyProfilesList": "Board",
                  "flashCheck": false, "eepromCheck": false, "fusesCheck": false,

@@ -174,6 +174,7 @@ private slots:
 
     void sampleSettingsFitTheirDescription()
     {
+        QVERIFY(QFileInfo(VIRTUAL_PROGRAMMER).dir().exists("save.json")); // laid beside the program
         const auto text = [](const QString& id, const FuseBytes& bytes) {
             QString all = id;
             for (const FuseByte& byte : bytes)

@@ -37,10 +37,7 @@ struct Desk {
         window = std::make_unique<KorvelApp>();
         window->show();
         avrdude = window->findChild<Avrdude*>();
-        auto* programmers = window->findChild<SettingsView*>()->programmer();
-        programmers->setCurrentIndex(-1);
-        boxes.take(); // no programmer has no entry, says a box
-        programmers->setCurrentText("Virtual programmer");
+        window->findChild<SettingsView*>()->programmer()->setCurrentText("Virtual programmer");
     }
 
     /// Runs avrdude behind the window's back.
@@ -54,8 +51,11 @@ struct Desk {
     QString boxAfter(QPushButton* button)
     {
         QTest::mouseClick(button, Qt::LeftButton);
+        const QString busy = QApplication::overrideCursor() ? "" : "pointer not busy, ";
         const QStringList told = boxes.wait(30000);
-        return told.isEmpty() ? "no box; the log says: " + avrdude->logText() : told.join(" | ");
+        return told.isEmpty()
+            ? "no box; the log says: " + avrdude->logText()
+            : busy + told.join(" | ") + (QApplication::overrideCursor() ? ", pointer still busy" : "");
     }
 
     /// The values in the Fuses tab, joined; editors on their way out do not count.

@@ -46,6 +46,7 @@ private slots:
         bench.folder.write("mcu/AT90.old.json", "{}"); // listed up to the first dot
         Fuses fuses(bench.avrdude, nullptr);
         Program program(bench.avrdude, fuses, nullptr);
+        program.refresh();
         fuses.show();
         const auto* view = program.findChild<AttributesView*>();
         QComboBox* list = view->mcuList();

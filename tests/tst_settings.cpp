@@ -53,6 +53,7 @@ private slots:
             const SettingsRecord& now = panel.settings;
             const QString state = now.programmer.name + '|' + now.programmer.id + '|' + now.arguments + '|' + now.port
                 + '|' + panel.view.port()->currentText() + (panel.view.port()->isEnabled() ? "" : ", fixed");
+            QCOMPARE(panel.view.programmer()->currentText(), now.programmer.name);
             QCOMPARE(state + panel.boxes.take().join('|'), QString(expected));
         }
 
@@ -80,7 +81,7 @@ private slots:
               {"Serial", "ttyUSB0", "Serial Serial /dev/ttyUSB0|ttyUSB0 (FT232R)"}, // found by its name
               {"Serial", "/dev/ttyUSB7", "Serial Serial /dev/ttyUSB7|"}, // not plugged in
               {"USBasp", "COM1", "USBasp USBasp usb|usb"},
-              {"Sold", "usb", " Sold usb|usb"}, // not in the catalogue
+              {"Sold", "usb", " Sold usb|"}, // not in the catalogue
               {"Sold", "/dev/ttyUSB0", " Sold /dev/ttyUSB0|"}}) {
             panel.settings.programmer.name = programmer;
             panel.settings.port = stored;

@@ -53,10 +53,12 @@ KorvelApp::KorvelApp(QWidget* parent)
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
     connect(m_avrdude, &Avrdude::runningChanged, this, &KorvelApp::showRunning);
 
-    if (loadSettings())
+    if (loadSettings()) {
         refreshPanels();
-    else
-        m_settings->updateView(); // the programmer of the built-in settings, and its port
+    } else { // microcontroller, programmer and port of the built-in settings, which the next run uses
+        m_program->refresh();
+        m_settings->updateView();
+    }
 }
 
 void KorvelApp::saveSettings()

@@ -31,9 +31,6 @@ Program::Program(Avrdude& avrdude, Fuses& fuses, QWidget* parent)
     m_attributes = new Attributes(avrdude, m_signatures, *m_attributesView, this);
     m_flash = new Flash(*flashView, avrdude, this);
     m_eeprom = new Eeprom(*eepromView, avrdude, this);
-
-    // Without a settings file nobody refreshes the tab, and the list must not show what the next run would not use.
-    m_attributes->refresh();
     connect(m_attributesView->mcuList(), &QComboBox::textActivated, this, &Program::onMcuSelected);
 }
 

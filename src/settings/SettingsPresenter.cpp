@@ -26,7 +26,10 @@ SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, Set
     view.speed()->addItems(model.speedList());
     view.language()->addItems(model.languageList());
 
-    connect(view.programmer(), &QComboBox::currentTextChanged, this, &SettingsPresenter::loadProgrammer);
+    connect(view.programmer(), &QComboBox::currentTextChanged, this, [this](const QString& name) {
+        if (m_view.programmer()->currentIndex() >= 0) // blank is no choice
+            loadProgrammer(name);
+    });
     connect(view.speed(), &QComboBox::currentTextChanged, this, &SettingsPresenter::setSpeedProgrammer);
     connect(view.port(), &QComboBox::currentTextChanged, this, &SettingsPresenter::setComPorts);
     connect(view.language(), &QComboBox::currentTextChanged, this, &SettingsPresenter::setLanguage);
@@ -49,11 +52,10 @@ void SettingsPresenter::refreshFromSettings()
 
 void SettingsPresenter::showProgrammer()
 {
-    QComboBox* programmer = m_view.programmer();
-    const int index = programmer->findText(m_avrdude.settings().programmer.name);
-    // Blank is no choice of a programmer.
-    const QSignalBlocker blocker(index < 0 ? programmer : nullptr);
-    programmer->setCurrentIndex(index);
+    const int index = m_view.programmer()->findText(m_avrdude.settings().programmer.name);
+    m_view.programmer()->setCurrentIndex(index);
+    if (index < 0)
+        setPortMode({}); // the ports of another programmer are none of its
 }
 
 void SettingsPresenter::showPort()

@@ -17,7 +17,7 @@ public:
     SettingsPresenter(Avrdude& avrdude, SettingsModel& model, SettingsView& view, QObject* parent = nullptr);
 
     /// Shows the settings record again. A stored programmer or port that is in no list shows as blank, and stays
-    /// stored.
+    /// stored; with a speed or language that is in none, the list shows what it did.
     void refreshFromSettings();
 
     /// Takes the catalogue entry called @p name into the record and offers its kind of port. A missing or broken entry
