@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks the translations, and layout (clang-format) and code (clang-tidy) of all our sources. Changes nothing.
+# Checks the translations, which part includes which, and layout (clang-format) and code (clang-tidy) of all our sources.
+# Changes nothing.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the translations
 
@@ -8,6 +9,7 @@ scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
 lupdate -silent src -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
+scripts/check-includes.py
 
 mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp')
 clang-format --dry-run --Werror "${sources[@]}"
