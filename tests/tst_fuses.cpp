@@ -78,7 +78,8 @@ private slots:
             return values;
         };
         bench.folder.write("lfuse.hex", "\xFF"); // yesterday's
-        bench.folder.write("script", "make lock.hex 0D");
+        bench.folder.write("script", "make lock.hex 0D\nwait 100");
+        QTimer::singleShot(50, buttons->readButton(), &QPushButton::click); // takes nothing away
         QCOMPARE(bench.click(buttons->readButton()),
                  QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"
                          "|-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
@@ -86,10 +87,13 @@ private slots:
         bench.click(buttons->defaultButton());
         QCOMPARE(shown(), QString("62E7"));
 
-        // A profile comes before a reading ends, which is not pressed twice.
+        bench.folder.write("script", "");
+        QCOMPARE(bench.click(buttons->readButton()).section('|', 0, 0),
+                 QString("FUSES: Not read: Name of lfuse, Name of lock"));
+
+        // A profile comes before a reading ends.
         QVERIFY(bench.avrdude.settings().saveToFile("profile"));
         bench.folder.write("script", "make lfuse.hex C0\nmake lock.hex C0\nwait 100");
-        buttons->readButton()->click();
         buttons->readButton()->click();
         QVERIFY(bench.avrdude.settings().loadFromFile("profile"));
         QTRY_VERIFY(bench.isIdle());

@@ -82,6 +82,13 @@ private slots:
             QCOMPARE(bench.click(view->readButton()), told + "|-U calibration:r:calibration.hex:r");
             QCOMPARE(view->calibrationByte()->text(), shown);
         }
+        bench.folder.write("script", "make calibration.hex 11\nwait 100");
+        view->readButton()->click();
+        emit list->textActivated("ATmega16"); // another part than was read
+        QTRY_VERIFY(bench.isIdle());
+        QCOMPARE(bench.boxes.take(), QStringList {box.arg("ATmega16")});
+        emit list->textActivated("Missing");
+        bench.boxes.take();
         program.refresh(); // the list has no entry for the name, and shows none; the byte read last is remembered
         const QStringList state {settings.mcuName, settings.mcuId, list->currentText(),
                                  view->calibrationByte()->text()};

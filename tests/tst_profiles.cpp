@@ -3,6 +3,7 @@
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "support/Bench.h"
+#include "support/LogCapture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -53,9 +54,13 @@ private slots:
         add->click();
         remove->click();
         QCOMPARE(QDir("profiles").entryList(QDir::Files).join('|') + tab.profiles->currentText(), QString("notes.txt"));
-        tab.configuration->name()->setText("no/folder"); // cannot be written, and nothing says so
+        tab.configuration->name()->setText("no/folder"); // cannot be written, and only the log says so
+        const LogCapture log;
         add->click();
         emit tab.profiles->textActivated("gone");
+        QCOMPARE(log.lines().join(' '),
+                 QString("Profile not saved: ./profiles/no/folder.json "
+                         "Profile not loaded: ./profiles/gone.json"));
         QCOMPARE(tab.avrdude.logText(),
                  QString("Failed to save settings to file: ./profiles/no/folder.json\n"
                          "Failed to load settings from file: ./profiles/gone.json"));
@@ -86,26 +91,42 @@ private slots:
             area->click();
         tab.folder.write("script", "err verification error"); // a step that fails ends it
         QCOMPARE(tab.click(tab.write), QString("AVRDUDE: Verification error.|-U flash:w:a.bin:r"));
-        // Started again in the middle of a run: the new first step is refused and told by nobody, and the old run's end
-        // goes on with the new ones. What is chosen meanwhile is for the next board.
-        tab.folder.write("script", "wait 200");
-        for (const QString part : {"m16", "t13"}) {
-            tab.settings.mcuId = part;
-            tab.settings.cmdEepromWrite = QStringList {"for", part};
-            tab.areas[0]->click();
-            tab.write->click();
-        }
-        QCOMPARE(tab.boxes.wait().join("").remove(" successfully."),
+        // Pressed while something else runs, nothing starts. Pressed again in the middle, the new first step is dropped
+        // and the old run's end goes on with the new ones, all of them with what was set at first.
+        Tab board;
+        board.folder.write("script", "wait 200");
+        board.settings.fusesEnable = true;
+        board.settings.cmdEepromWrite = QStringList {"for", "this"};
+        board.settings.fusesBytes = {FuseByte {"", "lock", {}, 0, 0xFE}};
+        SettingsRecord next = board.settings;
+        next.mcuId = "t13";
+        next.cmdEepromWrite = QStringList {"for", "the next"};
+        next.fusesBytes[0].currentValue = 0;
+        QVERIFY(next.saveToFile("next"));
+        board.areas[1]->click();
+        board.avrdude.execute({"else"});
+        board.write->click();
+        QTRY_VERIFY(board.isIdle());
+        board.areas[2]->click();
+        board.write->click();
+        QVERIFY(board.settings.loadFromFile("next"));
+        board.areas[0]->click();
+        board.write->click();
+        QCOMPARE(board.boxes.wait().join("").remove(" successfully."),
                  QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
-        QCOMPARE(tab.requests().mid(1), QStringList({"for m16", "for m16", "-Ulock:w:0x0:m"}));
-        QCOMPARE(tab.folder.runs().constLast()[1], QString("m16"));
+        QCOMPARE(board.requests(), QStringList({"else", "for this", "-Ulock:w:0xfe:m"}));
+        QCOMPARE(board.folder.runs().constLast()[1], QString("m16"));
 
         // Nothing of a board is written when one of its files does not fit.
-        tab.settings = {};
-        tab.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:C:/a.bin:r"};
-        tab.folder.write("mcu/ATmega16.json", R"({"id": "m16", "eeprom": 4})");
-        tab.folder.write("C:/a.bin", "12345");
-        QCOMPARE(tab.click(tab.write), QString("EEPROM: The file has 5 bytes, the memory only 4."));
+        board.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 6, "eeprom": 4})");
+        board.folder.write("C:/a.bin", "12345");
+        board.settings = {};
+        board.settings.flashCheck = board.settings.eepromCheck = true;
+        board.settings.cmdFlashWrite = QStringList {"-U", "flash:w:C:/a.bin:r"};
+        board.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:C:/a.bin:r"};
+        QCOMPARE(board.click(board.write), QString("EEPROM: The file has 5 bytes, the memory only 4."));
+        board.folder.write("C:/a.bin", "1234567");
+        QCOMPARE(board.click(board.write), QString("FLASH: The file has 7 bytes, the memory only 6."));
     }
 };
 

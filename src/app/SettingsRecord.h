@@ -36,7 +36,7 @@ struct SettingsRecord {
     QString speed = QStringLiteral("-B 4"); ///< an option, or a text with the option in parentheses
     FuseBytes fusesBytes;
     QString arguments; ///< further avrdude arguments, separated by blanks
-    QStringList fileNamesReading; ///< files that the last reading of the fuses wrote
+    QStringList fileNamesReading; ///< files that the last reading of the fuses asked for
     bool flashCheck = false; ///< ticked: a profile writes this area
     bool eepromCheck = false;
     bool fusesCheck = false;
@@ -48,8 +48,8 @@ struct SettingsRecord {
     QStringList configurationList; ///< further profile names to offer
     QString currentlyProfilesList; ///< the profile chosen last
 
-    /// Grows when another microcontroller or profile takes the record over; not stored. Whoever waits for something
-    /// from the chip sees from it whether that still belongs to what the record holds.
+    /// Not a choice, and not stored: grows whenever a microcontroller or a file is loaded into the record, so that who
+    /// waits for something from the chip can see whether it still belongs to what the record holds.
     int generation = 0;
 
     /// Writes the whole record to @p path. The file is replaced at once or not at all.

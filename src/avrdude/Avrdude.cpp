@@ -4,6 +4,7 @@
 #include "base/ProductInfo.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QMessageBox>
 
 namespace {
@@ -52,7 +53,7 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
 
 int Avrdude::execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback)
 {
-    if (m_process)
+    if (isBusy())
         return 0;
 
     m_process = new QProcess(this);
@@ -86,6 +87,18 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
         return -1;
     }
     return 0;
+}
+
+int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, Callback callback)
+{
+    if (isBusy())
+        return 0; // the files may be those of the run in progress
+    for (const QString& file : files)
+        QFile::remove(file);
+    return execute(arguments, [this, generation = m_settings.generation, callback = std::move(callback)] {
+        if (m_settings.generation == generation)
+            callback();
+    });
 }
 
 int Avrdude::addEditText()
@@ -122,7 +135,7 @@ void Avrdude::replaceLog(const QString& text)
 
 void Avrdude::appendToLog(const QString& line)
 {
-    m_log->appendPlainText(line);
+    m_log->appendPlainText(isBusy() ? line + QLatin1Char('\n') : line);
 }
 
 void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)

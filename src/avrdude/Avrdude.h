@@ -38,6 +38,11 @@ public:
     /// together whatever is chosen between them.
     int execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback);
 
+    /// execute() for a run that writes what it reads from the chip into @p files, for the record. Files of former
+    /// readings go before it starts, so that none of them is taken for its own. @p callback is left out when another
+    /// microcontroller or profile has taken the record over meanwhile: what was read is not theirs.
+    int executeReading(const QStringList& arguments, const QStringList& files, Callback callback);
+
     /// True while avrdude runs: a call of execute() would be dropped.
     [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
 
@@ -49,7 +54,7 @@ public:
     /// Shows @p text in the log instead of what is there.
     void replaceLog(const QString& text);
 
-    /// Adds a line of the program's own to the end of the log.
+    /// Adds a line of the program's own to the end of the log; output of a run goes on below it.
     void appendToLog(const QString& line);
 
 signals:

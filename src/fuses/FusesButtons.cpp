@@ -5,7 +5,6 @@
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesByteModel.h"
 
-#include <QFile>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -31,15 +30,10 @@ void FusesButtons::onClickVerifyBt()
 
 void FusesButtons::onClickReadBt()
 {
-    if (m_avrdude.isBusy())
-        return; // another reading may be under way, whose files these are
     SettingsRecord& settings = m_avrdude.settings();
     settings.fileNamesReading = FuseRequests::files(settings.fusesBytes);
-    // avrdude makes no file for a byte that the chip lacks; an old one must not be taken for it.
-    for (const QString& file : qAsConst(settings.fileNamesReading))
-        QFile::remove(file);
-    m_avrdude.execute(FuseRequests::read(settings.fusesBytes),
-                      [this, generation = settings.generation] { readFuseBytesMcu(generation); });
+    m_avrdude.executeReading(FuseRequests::read(settings.fusesBytes), settings.fileNamesReading,
+                             [this] { readFuseBytesMcu(); });
 }
 
 void FusesButtons::onClickWriteMessage()
@@ -52,12 +46,10 @@ void FusesButtons::onClickVerifyMessage()
     QMessageBox::information(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes verified successfully."));
 }
 
-void FusesButtons::readFuseBytesMcu(int generation)
+void FusesButtons::readFuseBytesMcu()
 {
     SettingsRecord& settings = m_avrdude.settings();
-    if (settings.generation != generation)
-        return;
-    QStringList texts; // one a byte, empty where there is no file
+    QStringList texts; // one a byte, empty where avrdude made no file: the chip has no such memory
     for (const QString& file : qAsConst(settings.fileNamesReading))
         m_readFile.readFiles({file}, [&texts](const QStringList& read) { texts += read.value(0); });
     const QStringList unread = FusesByteModel::applyReadValues(settings.fusesBytes, texts);

@@ -28,9 +28,8 @@ signals:
     void setReadingFusesEmit();
 
 private:
-    /// Takes the files of a reading over into the record's bytes, each its own, and tells the user. Nothing happens
-    /// when another microcontroller or profile has come since @p generation of the record: the values are not its.
-    void readFuseBytesMcu(int generation);
+    /// Takes the files of a reading over into the record's bytes, each its own, and tells the user what came of it.
+    void readFuseBytesMcu();
 
     Avrdude& m_avrdude;
     FusesButtonsView& m_view;

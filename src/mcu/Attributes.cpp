@@ -7,7 +7,6 @@
 #include "mcu/SignatureIndex.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -60,18 +59,12 @@ void Attributes::autoDetect()
 void Attributes::setAvrdudeCmdReadCallByte()
 {
     m_view.calibrationByte()->clear();
-    if (m_avrdude.isBusy())
-        return; // with another reading, perhaps, whose file this is
-    // avrdude makes no file for a microcontroller without a calibration byte; the last one's must not be taken for it.
-    QFile::remove(calibrationFile());
-    m_avrdude.execute({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
-                      [this, generation = m_avrdude.settings().generation] { readFileCallByte(generation); });
+    m_avrdude.executeReading({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
+                             {calibrationFile()}, [this] { readFileCallByte(); });
 }
 
-void Attributes::readFileCallByte(int generation)
+void Attributes::readFileCallByte()
 {
-    if (m_avrdude.settings().generation != generation)
-        return;
     m_readFile.readFiles({calibrationFile()}, [this](const QStringList& texts) {
         if (texts.isEmpty())
             return;

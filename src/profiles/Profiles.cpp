@@ -40,7 +40,7 @@ void Profiles::updateAreas()
 
 void Profiles::loadProfile(const QString& name)
 {
-    // A profile that cannot be read leaves the record as it is; what it shows then is still true.
+    // A profile that cannot be read leaves the record as it is, but for its name.
     const QString path = ProfilesPresenter::profileFile(name);
     if (!m_avrdude.settings().loadFromFile(path)) {
         qDebug().noquote() << "Profile not loaded:" << path;

@@ -69,9 +69,10 @@ void ProfilesPresenter::saveProfile()
             return;
     }
     // Deliberate: the box below reports success even when the file could not be written. The log tells.
-    if (!m_avrdude.settings().saveToFile(profileFile(name))) {
-        qDebug().noquote() << "Profile not saved:" << profileFile(name);
-        m_avrdude.appendToLog(tr("Failed to save settings to file: ") + profileFile(name));
+    const QString path = profileFile(name);
+    if (!m_avrdude.settings().saveToFile(path)) {
+        qDebug().noquote() << "Profile not saved:" << path;
+        m_avrdude.appendToLog(tr("Failed to save settings to file: ") + path);
     }
     if (!isListed)
         profiles.addItem(name);
@@ -157,24 +158,28 @@ void ProfilesPresenter::updateWriteButton()
 
 void ProfilesPresenter::startWriting()
 {
-    if (!m_avrdude.isBusy()) // else the board on the bench is being written already
+    // Pressed in the middle of a writing, the button means that board and nothing that was chosen since.
+    if (!m_avrdude.isBusy()) {
         m_board = m_avrdude.settings();
-    const auto fits = [this](const QCheckBox* area, const QStringList& command) {
-        return !area->isChecked() || RawFile::fits(m_board, command, &m_programmingView);
-    };
-    if (!fits(m_selectView.flash(), m_board.cmdFlashWrite) || !fits(m_selectView.eeprom(), m_board.cmdEepromWrite))
-        return; // before any area is written
+        const auto fits = [this](bool isTicked, const QStringList& command) {
+            return !isTicked || RawFile::fits(m_board, command, &m_programmingView);
+        };
+        if (!fits(m_board.flashCheck, m_board.cmdFlashWrite) || !fits(m_board.eepromCheck, m_board.cmdEepromWrite))
+            return; // before any area is written
+    }
 
     m_steps.clear();
     m_nextStep = 0;
     m_summary.clear();
     m_log.clear();
-    if (m_selectView.flash()->isChecked())
+    if (m_board.flashCheck)
         m_steps.append(&ProfilesPresenter::writeFlash);
-    if (m_selectView.eeprom()->isChecked())
+    if (m_board.eepromCheck)
         m_steps.append(&ProfilesPresenter::writeEeprom);
-    if (m_selectView.fuses()->isChecked())
+    if (m_board.fusesCheck)
         m_steps.append(&ProfilesPresenter::writeFuses);
+    if (m_steps.isEmpty())
+        return; // it was something else that is running, and no board has been written yet
     nextStep();
 }
 
@@ -193,10 +198,10 @@ void ProfilesPresenter::nextStep()
 
 void ProfilesPresenter::runStep(const QStringList& arguments, const QString& summary)
 {
-    const bool isDropped = m_avrdude.isBusy();
-    m_avrdude.execute(m_board, arguments, [this] { nextStep(); });
-    if (!isDropped)
-        m_summary += summary;
+    m_avrdude.execute(m_board, arguments, [this, summary] {
+        m_summary += summary; // only now: a step that the runner dropped has written nothing
+        nextStep();
+    });
 }
 
 void ProfilesPresenter::writeFlash()

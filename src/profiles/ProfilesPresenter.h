@@ -61,7 +61,7 @@ private:
     ConfigurationView& m_configurationView;
     ProgrammingView& m_programmingView;
 
-    // Of the present or last writing; set anew by the next start only.
+    // Of the present or last writing.
     SettingsRecord m_board; ///< as it was when Write was pressed: what is chosen meanwhile is for the next board
     QVector<Step> m_steps;
     int m_nextStep = 0;
