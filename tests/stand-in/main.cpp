@@ -4,6 +4,7 @@
 //   print FILE           print the file to standard error
 //   make FILE HEX        write the bytes into a file
 //   wait MS              sleep
+//   await FILE           sleep until there is such a file
 //   exit CODE, crash     end; without either it ends with 0 after the last line
 
 #include <QCoreApplication>
@@ -41,6 +42,9 @@ int main(int argc, char* argv[])
             file.write(QByteArray::fromHex(operand.split(' ').last()));
         } else if (word == "wait") {
             QThread::msleep(operand.toULong());
+        } else if (word == "await") {
+            while (!QFile::exists(QString::fromUtf8(operand)))
+                QThread::msleep(10);
         } else if (word == "exit") {
             return operand.toInt();
         } else if (word == "crash") {
