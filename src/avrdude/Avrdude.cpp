@@ -157,7 +157,7 @@ void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callbac
     // less to get from a log of megabytes.
     if (m_messages.checkOutput(m_log->document()->toRawText()))
         return;
-    if (exitCode != 0 && Message::checkFailedRun(m_output))
+    if (exitCode != 0 && m_messages.checkFailedRun(m_output))
         return;
     callback();
 }

@@ -12,8 +12,9 @@
 class AvrdudeMessage;
 
 /// The program's only way of acting on a chip: runs avrdude, one run at a time, streams its output into the log and
-/// decides from that text whether the run succeeded. Also carries the one settings record, which all panels share.
-/// Owned by the main window. On closing the log goes first, while avrdude may still run.
+/// decides from that text, and hardly from the exit code, whether the run succeeded. Also carries the one settings
+/// record, which all panels share. Owned by the main window. On closing the log goes first, while avrdude may still
+/// run.
 class Avrdude : public QObject
 {
     Q_OBJECT
@@ -43,7 +44,7 @@ public:
     /// microcontroller or profile has taken the record over meanwhile: what was read is not theirs.
     int executeReading(const QStringList& arguments, const QStringList& files, Callback callback);
 
-    /// True while avrdude runs: a call of execute() would be dropped.
+    /// True while avrdude runs, and for good once it could not be started: a call of execute() would be dropped.
     [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
 
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
@@ -58,7 +59,8 @@ public:
     void appendToLog(const QString& line);
 
 signals:
-    /// A run begins, or has ended in whatever way.
+    /// A run begins, or has ended in whatever way and what came of it is about to be told. Not sent when the runner
+    /// goes while avrdude runs.
     void runningChanged(bool isRunning);
 
 public slots:

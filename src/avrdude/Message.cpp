@@ -48,14 +48,15 @@ constexpr Row rows[] = {
 };
 
 /// What counts only together with an exit code other than 0. Neither is enough: 8.x also says "Error:" before troubles
-/// that it mends by itself, and an exit code alone may be that of a script in avrdude's place, which nobody promised
-/// anything about. Together they cannot be mistaken. Beside each fragment stand the versions that print it; one that
-/// begins with a line break is looked for at the beginning of a line.
+/// that it mends by itself, and an exit code alone may be that of something else in avrdude's place, which nobody
+/// promised anything about. Beside each fragment stand the versions that it is there for; others print some of them
+/// too, and are found by the first table. One that begins with a line break is looked for at the beginning of a line.
 constexpr Row failureRows[] = {
     {"Connect failed", notFound}, // 6.3
     {"Could not find USBtiny device", notFound}, // 6.3, 7.0
     {"No matching USB device found", notFound}, // 6.3, 7.0
     {"Did not find any device matching", notFound}, // 6.3, 7.0
+    {"avrftdi_open(", notFound}, // 6.3, 7.0
     {"Cannot connect", notFound}, // 7.0
     {"opening programmer \"", notFound}, // 7.0, which goes on: ... on port "..." failed
     {"Can't find programmer id", notFound}, // 6.3, 7.0; ends most runs early, but not when it comes in two pieces
@@ -63,15 +64,16 @@ constexpr Row failureRows[] = {
     {"unable to open port", notFound}, // 8.x
     {"Invalid device signature", noTarget}, // 6.3, 7.0
     {"invalid device signature", noTarget}, // 8.x
-    {"initialization failed", noTarget}, // all of them
+    {"initialization failed", noTarget}, // 6.3, 7.0, 8.x
     {"target does not answer", noTarget}, // 8.x
     {"expected signature for", wrongPart}, // 8.x
     {"no valid record found", badFormat}, // 8.x
     {"memory type not defined", seeLog}, // 6.3, 7.0
     {"Valid parts are:", seeLog}, // 6.3, 7.0
     {"\nError:", seeLog}, // 8.x; its "OS error:" the first table knows
-    // Up to 7.x every line begins so, and all versions take leave so: whatever else went wrong, even where 6.3 and 7.0
-    // find no word for it, it was avrdude that ended with this exit code.
+    // No failure of itself, but avrdude's own voice: up to 7.x most lines begin so, and 8.x takes leave so. It was
+    // avrdude then that ended with this exit code, whatever went wrong. 6.3 has no word at all for some absent
+    // programmers.
     {"\navrdude", seeLog},
     {"\nAvrdude done.", seeLog},
 };
@@ -81,38 +83,35 @@ constexpr const char* silentProgrammer[] = {
     "(): timeout", "avrdude error: timeout",
 };
 
-void show(const QString& message)
-{
-    QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), message);
-}
-
 } // namespace
 
 Message::Message()
 {
     for (const Row& row : rows)
         m_entries.append({QLatin1String(row.fragment), tr(row.message)});
+    for (const Row& row : failureRows)
+        m_failureEntries.append({QLatin1String(row.fragment), tr(row.message)});
 }
 
 bool Message::checkOutput(const QString& text) const
 {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&text](const Entry& entry) { return text.contains(entry.fragment); });
-    if (found == m_entries.end())
-        return false;
-    show(found->message);
-    return true;
+    return tellFirst(m_entries, text);
 }
 
-bool Message::checkFailedRun(const QString& output)
+bool Message::checkFailedRun(const QString& output) const
 {
     QString lines = QLatin1Char('\n') + output;
     lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    const auto* found = std::find_if(std::begin(failureRows), std::end(failureRows),
-                                     [&lines](const Row& row) { return lines.contains(QLatin1String(row.fragment)); });
-    if (found == std::end(failureRows))
+    return tellFirst(m_failureEntries, lines);
+}
+
+bool Message::tellFirst(const QVector<Entry>& entries, const QString& text)
+{
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&text](const Entry& entry) { return text.contains(entry.fragment); });
+    if (found == entries.end())
         return false;
-    show(tr(found->message));
+    QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), found->message);
     return true;
 }
 

@@ -19,7 +19,7 @@ public:
 
     /// The same for a run that ended with another exit code than 0 and whose log checkOutput() found clean: looks in
     /// @p output, what avrdude printed in that run, for the words of versions that the first table does not know.
-    [[nodiscard]] static bool checkFailedRun(const QString& output);
+    [[nodiscard]] bool checkFailedRun(const QString& output) const;
 
     /// True when @p errorText, one piece of a running avrdude's standard error, shows that the programmer does not
     /// answer, so that waiting for avrdude's own retries is pointless.
@@ -31,5 +31,9 @@ private:
         QString message;
     };
 
-    QVector<Entry> m_entries; ///< in the order in which they are tried
+    [[nodiscard]] static bool tellFirst(const QVector<Entry>& entries, const QString& text);
+
+    // In the order in which they are tried.
+    QVector<Entry> m_entries;
+    QVector<Entry> m_failureEntries;
 };

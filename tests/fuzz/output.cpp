@@ -21,6 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         log.insertAtCursor(text);
     }
     static_cast<void>(messages.checkOutput(log.document()->toRawText()));
+    static_cast<void>(messages.checkFailedRun(log.toPlainText()));
     fuzz.folder.write("lfuse.hex", output);
     ReadFile().readFiles({"lfuse.hex"}, [](const QStringList& values) {
         if (values.size() != 1)
