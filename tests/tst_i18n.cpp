@@ -55,7 +55,8 @@ private slots:
             texts += convertTsToJson(name + ".ts", name) ? "whole " : "failed ";
             texts += QJsonDocument::fromJson(folder.read(m_languages + name + ".json")).toJson(QJsonDocument::Compact);
         }
-        QCOMPARE(texts.remove('"'), QStringLiteral("whole {A && B:Ä,Empty:Empty,Open:Open,Twice:zwei}failed {A && B:Ä}failed "));
+        QCOMPARE(texts.remove('"'),
+                 QStringLiteral("whole {A && B:Ä,Empty:Empty,Open:Open,Twice:zwei}failed {A && B:Ä}failed "));
         QCOMPARE(log.lines().constLast(), QString("Converter: Cannot open TS file: missing.ts"));
     }
 
