@@ -81,7 +81,7 @@ if [ -z "$screen" ]; then
     # Not before there is a window: without one, import waits for a click and holds up every other program.
     wait_for xdotool search --onlyvisible --name '^Korvel [0-9]' || { echo "No window appears" >&2; exit 1; }
     sleep 0.5 # to paint
-    import -window "$(xdotool search --onlyvisible --name '^Korvel [0-9]')" korvel.png
+    import -window "$(xdotool search --onlyvisible --name '^Korvel [0-9]' | head -n 1)" korvel.png
     echo "A screenshot of the window is in $PWD/korvel.png; press Ctrl+C to end"
 fi
 wait "$korvel"

@@ -43,7 +43,7 @@ openbox & started=$!
 "$1" --state chip.json & started="$started $!"
 trap 'kill $started' EXIT
 "$2" & korvel=$!
-window=$(xdotool search --sync --onlyvisible --name 'Korvel 5' | head -n 1)
+window=$(xdotool search --sync --onlyvisible --name '^Korvel [0-9]' | head -n 1)
 sleep 1
 at() { xdotool mousemove --window "$window" "$1" "$2" click 1; sleep 1; }
 at 205 23          # the Profiles tab

@@ -3,7 +3,7 @@
 #include <QPlainTextEdit>
 
 /// The log under the tabs: every avrdude run is echoed into it. Read-only to the user; belongs to the main window,
-/// which outlives every run. A plain-text view, so that nothing that avrdude prints is ever taken for markup.
+/// and may go while avrdude runs. A plain-text view, so that nothing that avrdude prints is ever taken for markup.
 class AvrdudeMessage : public QPlainTextEdit
 {
     Q_OBJECT

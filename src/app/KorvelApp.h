@@ -39,7 +39,7 @@ protected:
 private:
     void showRunning(bool isRunning);
 
-    QWidget* m_central; ///< made before the runner, so that the runner outlives the panels on it
+    QWidget* m_central;
     AvrdudeMessage* m_log;
     Avrdude* m_avrdude;
     QTabWidget* m_tabs;

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 ReadFile::ReadFile(QObject* parent)
     : QObject(parent)
 {
@@ -18,7 +20,7 @@ void ReadFile::readFiles(const QStringList& files, Callback callback)
     m_files = files;
     m_callback = std::move(callback);
     m_results.clear();
-    for (const QString& path : qAsConst(m_files)) {
+    for (const QString& path : std::as_const(m_files)) {
         QFile file(path);
         // Not as text: the toolkit would take 0x0D, a value like any other, for a part of a line end and drop it.
         if (file.open(QIODevice::ReadOnly))

@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <utility>
+
 FusesButtons::FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* parent)
     : QObject(parent)
     , m_avrdude(avrdude)
@@ -50,7 +52,7 @@ void FusesButtons::readFuseBytesMcu()
 {
     SettingsRecord& settings = m_avrdude.settings();
     QStringList texts; // one a byte, empty where avrdude made no file: the chip has no such memory
-    for (const QString& file : qAsConst(settings.fileNamesReading))
+    for (const QString& file : std::as_const(settings.fileNamesReading))
         m_readFile.readFiles({file}, [&texts](const QStringList& read) { texts += read.value(0); });
     const QStringList unread = FusesByteModel::applyReadValues(settings.fusesBytes, texts);
     emit setReadingFusesEmit();

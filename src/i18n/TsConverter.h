@@ -7,4 +7,4 @@
 /// told in the debug log; a file is converted up to where it stops being XML or has plural forms, which language files
 /// cannot hold. Returns true when all of the source was read and all of the language file written; a file that could
 /// not be written whole is left as it was.
-bool convertTsToJson(const QString& tsFilePath, const QString& languageName);
+[[nodiscard]] bool convertTsToJson(const QString& tsFilePath, const QString& languageName);

@@ -8,8 +8,8 @@ class AttributesView;
 class Avrdude;
 class SignatureIndex;
 
-/// The logic of the microcontroller panel but for the choice itself, which the Programming tab handles. Owned by that
-/// tab, as are the view and the index; they and the runner outlive it.
+/// The logic of the microcontroller panel but for the choice itself, which the Programming tab handles. Lives as
+/// long as that tab, which owns the view and the index too.
 class Attributes : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ class MemoryView;
 
 /// The logic of one memory panel: keeps the two file paths of the settings record and writes, verifies and reads the
 /// memory through the runner. Flash and Eeprom are this design with a table of constants each.
-/// Owned by the Programming tab; the view and the runner outlive it. All state lives in the settings record.
+/// Owned by the Programming tab, as is the view, which may go first. All state lives in the settings record.
 class Memory : public QObject
 {
     Q_OBJECT

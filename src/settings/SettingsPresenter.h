@@ -7,8 +7,8 @@ class QComboBox;
 class SettingsModel;
 class SettingsView;
 
-/// Fills the settings panel and writes every choice into the settings record at once. Owns none of what it is given;
-/// all of it outlives the presenter.
+/// Fills the settings panel and writes every choice into the settings record at once. Lives as long as the panel, which
+/// owns view and model too.
 class SettingsPresenter : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     BytesModel(avrdude).load("X");
     FuseBytes& bytes = avrdude.settings().fusesBytes;
     for (int i = 0; i < bytes.size(); ++i) {
-        FusesByteModel model(avrdude, i);
+        FusesByteModel model(bytes, i);
         model.setByte(0xA5);
         model.setBit(7, true);
         if (bytes[i].currentValue > 0xFF)
