@@ -1,11 +1,14 @@
+#include "base/ListComboBox.h"
 #include "settings/SettingsModel.h"
 #include "settings/SettingsPresenter.h"
 #include "settings/SettingsView.h"
 #include "support/Bench.h"
 #include "support/LogCapture.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QtTest>
 
 namespace {
@@ -40,6 +43,39 @@ class tst_Settings : public QObject
     Q_OBJECT
 
 private slots:
+    void findingInAList()
+    {
+        ListComboBox list(ListComboBox::Width::Any);
+        list.addItems({"first", "ATmega1608", "ATmega16", "ATmega328P"});
+        list.show();
+        QVERIFY(QTest::qWaitForWindowActive(&list));
+        QStringList picked;
+        connect(&list, &QComboBox::textActivated, this, [&picked](const QString& name) { picked += name; });
+        QWheelEvent wheel({5, 5}, list.mapToGlobal(QPointF(5, 5).toPoint()), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&list, &wheel);
+        QCOMPARE(list.currentText(), QString("first"));
+        // Typed at the closed list, at the open one, or found nowhere; the exact name, a part of one, or given up.
+        for (const QString row : {"|ATmega16|ATmega16", "open|328p|ATmega328P", "|mega|ATmega1608", "|a~|ATmega1608",
+                                  "open|1~|ATmega1608", "|xyz~|ATmega1608", "open|first|first"}) {
+            const QStringList parts = row.split('|');
+            list.setFocus();
+            QWidget* target = &list;
+            if (parts[0] == "open") {
+                QTest::keyClick(&list, Qt::Key_Down);
+                target = list.view();
+            }
+            for (const QChar key : parts[1]) {
+                if (key != '~')
+                    QTest::keyClick(target, key.toLatin1());
+                target = list.findChild<QLineEdit*>();
+            }
+            QTest::keyClick(target, parts[1].endsWith('~') ? Qt::Key_Escape : Qt::Key_Return);
+            QCOMPARE(row + list.currentText(), row + parts[2]);
+        }
+        QCOMPARE(picked, QStringList({"ATmega16", "ATmega328P", "ATmega1608", "first"}));
+    }
+
     void choosing()
     {
         Panel panel;

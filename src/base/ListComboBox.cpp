@@ -1,8 +1,29 @@
 #include "base/ListComboBox.h"
 
 #include <QAbstractItemView>
-#include <QEvent>
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QScrollBar>
+#include <QStylePainter>
+#include <QWheelEvent>
+
+namespace {
+
+bool beginsSearch(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    return others == Qt::NoModifier && !event.text().isEmpty() && event.text().at(0).isLetterOrNumber();
+}
+
+bool wouldChoose(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown
+        || key == Qt::Key_Home || key == Qt::Key_End;
+}
+
+} // namespace
 
 ListComboBox::ListComboBox(Width width, QWidget* parent)
     : QComboBox(parent)
@@ -22,8 +43,121 @@ bool ListComboBox::event(QEvent* event)
     return QComboBox::event(event);
 }
 
+bool ListComboBox::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut && object == m_search && !m_completer->popup()->isVisible())
+        endSearch();
+    if (event->type() != QEvent::KeyPress)
+        return QComboBox::eventFilter(object, event);
+
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (object == view() && beginsSearch(*key)) {
+        startSearch(key);
+        return true;
+    }
+    if (object != view() && key->key() == Qt::Key_Escape) {
+        endSearch();
+        return true;
+    }
+    return QComboBox::eventFilter(object, event);
+}
+
 void ListComboBox::showPopup()
 {
-    view()->setMinimumWidth(view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width());
+    view()->setMinimumWidth(listWidth());
+    view()->installEventFilter(this);
     QComboBox::showPopup();
+}
+
+void ListComboBox::keyPressEvent(QKeyEvent* event)
+{
+    if (beginsSearch(*event))
+        startSearch(event);
+    else if (wouldChoose(event->key()))
+        showPopup();
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+void ListComboBox::paintEvent(QPaintEvent* event)
+{
+    if (currentIndex() >= 0 || placeholderText().isEmpty()) {
+        QComboBox::paintEvent(event);
+        return;
+    }
+    // Qt 5.15 paints the placeholder in no colour.
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    option.currentText = placeholderText();
+    option.palette.setBrush(QPalette::ButtonText, palette().brush(QPalette::PlaceholderText));
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void ListComboBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore(); // for what lies around it
+}
+
+int ListComboBox::listWidth() const
+{
+    return view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+}
+
+void ListComboBox::makeSearch()
+{
+    m_search = new QLineEdit(this);
+    m_search->installEventFilter(this);
+    m_completer = new QCompleter(model(), this);
+    m_completer->setFilterMode(Qt::MatchContains);
+    m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+    m_completer->setMaxVisibleItems(maxVisibleItems());
+    m_completer->popup()->installEventFilter(this);
+    m_search->setCompleter(m_completer);
+    connect(m_search, &QLineEdit::returnPressed, this, &ListComboBox::pickFound);
+    connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this,
+            [this](const QString& name) { pick(findText(name)); });
+}
+
+void ListComboBox::startSearch(QKeyEvent* firstKey)
+{
+    if (!m_search)
+        makeSearch();
+    hidePopup();
+    m_search->clear();
+    m_search->setGeometry(rect());
+    m_search->show();
+    m_search->setFocus();
+    m_completer->popup()->setMinimumWidth(listWidth());
+    QCoreApplication::sendEvent(m_search, firstKey);
+}
+
+void ListComboBox::endSearch()
+{
+    m_completer->popup()->hide();
+    if (m_search->hasFocus())
+        setFocus();
+    m_search->hide();
+}
+
+void ListComboBox::pickFound()
+{
+    const QString typed = m_search->text();
+    int index = findText(typed);
+    if (index < 0)
+        index = findText(typed, Qt::MatchFixedString); // in whatever case
+    if (index < 0)
+        index = findText(m_completer->currentCompletion());
+    pick(index);
+}
+
+void ListComboBox::pick(int index)
+{
+    if (index < 0 || m_search->isHidden())
+        return;
+    endSearch();
+    setCurrentIndex(index);
+    emit activated(index);
+    emit textActivated(itemText(index));
 }

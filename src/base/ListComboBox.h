@@ -2,9 +2,16 @@
 
 #include <QComboBox>
 
+class QCompleter;
+class QLineEdit;
+
 /// A combo box whose list opens as a plain scrolling drop-down, wide enough for its longest entry however narrow the
 /// box is, instead of the platform's popup menu that may cover the screen. What the box itself cuts off stands in its
 /// tooltip.
+///
+/// Only a finished choice changes it: the wheel does nothing, the arrow keys open the list, and typing looks for what
+/// is typed anywhere in the names. Enter then picks the exact name, else the topmost that is listed; Escape leaves
+/// everything as it was.
 class ListComboBox : public QComboBox
 {
     Q_OBJECT
@@ -16,5 +23,22 @@ public:
     explicit ListComboBox(Width width, QWidget* parent = nullptr);
 
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
     void showPopup() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    [[nodiscard]] int listWidth() const;
+    void makeSearch();
+    void startSearch(QKeyEvent* firstKey);
+    void endSearch();
+    void pickFound();
+    void pick(int index);
+
+    QLineEdit* m_search = nullptr; ///< lies over the box while something is looked for; made by the first search
+    QCompleter* m_completer = nullptr;
 };

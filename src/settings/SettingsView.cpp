@@ -20,12 +20,13 @@ SettingsView::SettingsView(QWidget* parent)
 {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
-    const auto addBox = [this, layout](const QString& title, std::initializer_list<QWidget*> widgets) {
+    // Programmers and ports have the long names: they share what the others leave.
+    const auto addBox = [this, layout](const QString& title, std::initializer_list<QWidget*> widgets, int stretch) {
         auto* box = new RowBox(title, widgets, this);
         box->row()->setContentsMargins(margin, margin, margin, margin);
-        layout->addWidget(box);
+        layout->addWidget(box, stretch);
     };
-    addBox(tr("Programmer"), {m_programmer});
-    addBox(tr("Port && Speed ( New MCU -> 185kHz )"), {m_port, m_speed});
-    addBox(tr("Language"), {m_language});
+    addBox(tr("Programmer"), {m_programmer}, 1);
+    addBox(tr("Port && Speed ( New MCU -> 185kHz )"), {m_port, m_speed}, 0);
+    addBox(tr("Language"), {m_language}, 0);
 }
