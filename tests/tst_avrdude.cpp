@@ -133,9 +133,28 @@ private slots:
         bench.avrdude.execute({});
         QTRY_VERIFY(bench.avrdude.logText().contains("first"));
         bench.log.moveCursor(QTextCursor::Start);
-        bench.log.moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor); // nothing selected may be lost
+        bench.log.moveCursor(QTextCursor::EndOfWord);
         bench.folder.write("go", "");
         QTRY_VERIFY(bench.isIdle() && bench.avrdude.logText().startsWith("Korvelsecond\nthird\n: "));
+
+        // A selection, even of all there is, stays as it is.
+        QFile::remove("go");
+        bench.avrdude.execute({});
+        QTRY_VERIFY(bench.avrdude.logText().contains("first"));
+        bench.log.selectAll();
+        const QString selected = bench.log.textCursor().selectedText();
+        bench.folder.write("go", "");
+        QTRY_VERIFY(bench.isIdle() && bench.avrdude.logText().endsWith("first\nsecond\nthird\n"));
+        QCOMPARE(bench.log.textCursor().selectedText(), selected);
+
+        QElapsedTimer timer; // one line of a megabyte
+        timer.start();
+        bench.log.resize(520, 180);
+        bench.log.show();
+        bench.folder.write("line", QByteArray("0xff,").repeated(200000));
+        bench.run("print line");
+        QCOMPARE(bench.avrdude.logText().remove('\n').count("0xff,"), 200000);
+        QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
 
         // Characters that are split between two pieces of output stay whole.
         bench.run("err second\nout x" + QByteArray("я").repeated(40000));

@@ -11,7 +11,8 @@ class AvrdudeMessage : public QPlainTextEdit
 public:
     explicit AvrdudeMessage(QWidget* parent = nullptr);
 
-    /// Inserts @p text at the text cursor, which is where the user last clicked, else the end. What is selected is not
-    /// replaced: no output is lost.
+    /// Inserts @p text at the text cursor, which is where the user last clicked, else the end. While something is
+    /// selected it goes to the end, and the selection stays as it is. A line of thousands of characters is broken: laid
+    /// out whole it would hold up the window.
     void insertAtCursor(const QString& text);
 };
