@@ -5,6 +5,7 @@
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesByteView.h"
+#include "fuses/HexField.h"
 #include "mcu/AttributesView.h"
 #include "memory/FlashView.h"
 #include "profiles/ProgrammingView.h"

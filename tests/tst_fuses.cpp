@@ -2,6 +2,7 @@
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesByteView.h"
+#include "fuses/HexField.h"
 #include "support/Bench.h"
 
 #include <QCheckBox>
@@ -47,6 +48,7 @@ private slots:
                                            {"Shift+End,0", "02 1 2 f5"}, // instead of a selection
                                            {"Ctrl+V,G,Space,Ctrl+C,Ctrl+A", "C2 2 c2 35"},
                                            {"End,Backspace", "6 1 62 95"}, // leaves the byte alone
+                                           {"Home,Shift+End,Del,E,4", "E4 2 e4 13"},
                                            {"Del,A,Left,Right,7", "A7 2 a7 50"}}) {
             Bench bench;
             FuseBytes& bytes = bench.avrdude.settings().fusesBytes;
@@ -61,6 +63,13 @@ private slots:
             for (QCheckBox* box : editor->fusesBit())
                 box->click();
             QCOMPARE(typed + value + ' ' + QString::number(bytes[0].currentValue, 16), QString(result));
+            QInputMethodEvent composed;
+            composed.setCommitString("c");
+            QCoreApplication::sendEvent(editor->value(), &composed);
+            QFocusEvent leaving(QEvent::FocusOut);
+            QCoreApplication::sendEvent(editor->value(), &leaving);
+            QCOMPARE(editor->value()->text(),
+                     QString::number(bytes[0].currentValue, 16).toUpper().rightJustified(2, '0'));
         }
     }
 

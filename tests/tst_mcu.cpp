@@ -1,5 +1,6 @@
 #include "fuses/Fuses.h"
 #include "fuses/FusesByteView.h"
+#include "fuses/HexField.h"
 #include "mcu/AttributesView.h"
 #include "mcu/BytesModel.h"
 #include "mcu/Program.h"

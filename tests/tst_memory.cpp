@@ -4,8 +4,10 @@
 #include "memory/FlashView.h"
 #include "support/Bench.h"
 
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QTimer>
 #include <QtTest>
 
@@ -85,6 +87,17 @@ private slots:
             panels.flashView.findChild<QPushButton*>()->click();
             seen += panels.settings.flashWrite;
         }
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(app.filePath())});
+        QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(panels.flashView.writePath(), &enter);
+        QDropEvent drop(QPointF(3, 3), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(panels.flashView.writePath(), &drop);
+        QCOMPARE(panels.settings.flashWrite, app.fileName());
+        panels.flashView.writePath()->clear();
+        QApplication::clipboard()->setText("  /my fw/a.hex \n");
+        QTest::keySequence(panels.flashView.writePath(), QKeySequence::Paste);
+        QCOMPARE(panels.settings.flashWrite, QString("/my fw/a.hex"));
         QCOMPARE(seen,
                  QStringList({app.path(), app.fileName(), app.path(), hex.filePath(), hex.path(), hex.filePath()}));
     }

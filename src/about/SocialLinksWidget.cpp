@@ -21,6 +21,7 @@ SocialLinksWidget::SocialLinksWidget(QWidget* parent)
         button->setIcon(QIcon(icon));
         button->setIconSize(QSize(20, 20));
         button->setToolTip(toolTip);
+        button->setAccessibleName(toolTip);
         button->setAutoRaise(true);
         button->setCursor(Qt::PointingHandCursor);
         connect(button, &QToolButton::clicked, this, onClicked);

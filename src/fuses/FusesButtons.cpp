@@ -1,6 +1,7 @@
 #include "fuses/FusesButtons.h"
 
 #include "avrdude/Avrdude.h"
+#include "base/BoxText.h"
 #include "fuses/FuseRequests.h"
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesByteModel.h"
@@ -62,5 +63,5 @@ void FusesButtons::readFuseBytesMcu()
         told += tr("Fuse bytes read successfully.");
     if (!unread.isEmpty())
         told += tr("Not read: %1").arg(unread.join(QLatin1String(", ")));
-    QMessageBox::information(&m_view, QStringLiteral("FUSES"), told.join(QLatin1Char('\n')));
+    QMessageBox::information(&m_view, QStringLiteral("FUSES"), boxText(told.join(QLatin1Char('\n'))));
 }

@@ -32,6 +32,8 @@ void FusesByteModel::setByte(quint32 value)
 void FusesByteModel::setBit(int index, bool checked)
 {
     FuseByte& byte = m_bytes[m_index];
+    if (index < 0 || index >= static_cast<int>(byte.fuseBits.size()))
+        return;
     byte.fuseBits[static_cast<std::size_t>(index)].currentBitValue = checked ? 0 : 1;
     recomputeValue(byte);
 }

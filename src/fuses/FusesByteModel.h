@@ -23,6 +23,7 @@ public:
     void setByte(quint32 value);
 
     /// Programs the bit @p index (0 to 7) when @p checked, whatever its name, and unprograms it otherwise.
+    /// Another index changes nothing.
     void setBit(int index, bool checked);
 
     /// Gives every byte of @p bytes its default value. The bits follow when the editors are refreshed.

@@ -2,10 +2,10 @@
 
 #include "fuses/FusesByteModel.h"
 #include "fuses/FusesByteView.h"
+#include "fuses/HexField.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QSignalBlocker>
 
 namespace {
@@ -42,6 +42,7 @@ FusesBytePresenter::FusesBytePresenter(FusesByteView& view, FusesByteModel& mode
     , m_model(model)
 {
     connect(&view, &FusesByteView::bitChanged, this, &FusesBytePresenter::onBitChanged);
+    connect(view.value(), &HexField::left, this, &FusesBytePresenter::showValue);
     setModel();
     view.value()->installEventFilter(this);
 }
@@ -103,7 +104,7 @@ bool FusesBytePresenter::eventFilter(QObject* object, QEvent* event)
 
 void FusesBytePresenter::typeDigit(QChar digit)
 {
-    QLineEdit* field = m_view.value();
+    HexField* field = m_view.value();
     QString text = field->displayText(); // always two characters: a deleted one is a blank
     int cursor = field->hasSelectedText() ? 0 : field->cursorPosition();
     if (cursor == 0) {
@@ -113,6 +114,7 @@ void FusesBytePresenter::typeDigit(QChar digit)
         text[1] = digit;
         cursor = 2;
     }
+    text.replace(QLatin1Char(' '), QLatin1Char('0')); // until it is typed
     setByte(text.toUInt(nullptr, 16));
     field->setCursorPosition(cursor);
 }

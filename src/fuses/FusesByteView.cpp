@@ -1,9 +1,10 @@
 #include "fuses/FusesByteView.h"
 
+#include "fuses/HexField.h"
+
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 FusesByteView::FusesByteView(QWidget* parent)
@@ -17,16 +18,11 @@ FusesByteView::FusesByteView(QWidget* parent)
         connect(checkBox, &QCheckBox::stateChanged, this, [this, checkBox] { emit bitChanged(m_fusesBit, checkBox); });
         m_fusesBit.prepend(checkBox);
     }
-    m_value = new QLineEdit(this);
+    m_value = new HexField(this);
     auto* label = new QLabel(QStringLiteral("HEX"), this);
     const int width = fontMetrics().boundingRect(label->text()).width();
     label->setFixedWidth(width);
     m_value->setFixedWidth(width);
-    m_value->setInputMask(QStringLiteral(">HH"));
-    m_value->setAlignment(Qt::AlignCenter);
-    // What came in by menu or drop would stand in the field and not in the byte.
-    m_value->setContextMenuPolicy(Qt::NoContextMenu);
-    m_value->setAcceptDrops(false);
 
     // Flat, so that the three bytes that most parts have fit into the window without scrolling.
     auto* rows = new QVBoxLayout(m_box);
@@ -50,4 +46,5 @@ FusesByteView::FusesByteView(QWidget* parent)
 void FusesByteView::setTitle(const QString& title)
 {
     m_box->setTitle(title);
+    m_value->setAccessibleName(title);
 }

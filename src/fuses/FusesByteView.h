@@ -4,8 +4,8 @@
 #include <QVector>
 #include <QWidget>
 
+class HexField;
 class QGroupBox;
-class QLineEdit;
 
 /// The widgets of one fuse byte: eight check boxes and the value in hexadecimal. Lives as long as its editor.
 class FusesByteView : public QWidget
@@ -19,7 +19,7 @@ public:
 
     /// The check boxes by bit number; a checked one is a programmed bit.
     [[nodiscard]] const QVector<QCheckBox*>& fusesBit() const { return m_fusesBit; }
-    [[nodiscard]] QLineEdit* value() const { return m_value; }
+    [[nodiscard]] HexField* value() const { return m_value; }
 
 signals:
     /// The user changed a check box of @p fusesBit.
@@ -31,5 +31,5 @@ signals:
 private:
     QGroupBox* m_box;
     QVector<QCheckBox*> m_fusesBit;
-    QLineEdit* m_value;
+    HexField* m_value;
 };

@@ -39,7 +39,13 @@ void Attributes::refresh()
 {
     const SettingsRecord& settings = m_avrdude.settings();
     m_view.mcuList()->setCurrentIndex(m_view.mcuList()->findText(settings.mcuName));
-    m_view.calibrationByte()->setText(settings.callByte);
+    showCalibration(settings.callByte);
+}
+
+void Attributes::showCalibration(const QString& text)
+{
+    m_view.calibrationByte()->setText(text);
+    m_view.calibrationByte()->setCursorPosition(0); // a long one is read from its beginning
 }
 
 void Attributes::eraseAllMcu()
@@ -68,7 +74,7 @@ void Attributes::readFileCallByte()
     m_readFile.readFiles({calibrationFile()}, [this](const QStringList& texts) {
         if (texts.isEmpty())
             return;
-        m_view.calibrationByte()->setText(texts.constFirst());
+        showCalibration(texts.constFirst());
         m_avrdude.settings().callByte = texts.constFirst();
     });
     QMessageBox::information(&m_view, QStringLiteral("Calibration Byte"), tr("Calibration byte read successfully."));

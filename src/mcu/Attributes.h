@@ -32,6 +32,7 @@ public:
 
 private:
     void readFileCallByte();
+    void showCalibration(const QString& text);
 
     Avrdude& m_avrdude;
     AttributesView& m_view;

@@ -24,6 +24,9 @@ AttributesView::AttributesView(QWidget* parent)
 {
     m_mcuList->setMaxVisibleItems(visibleItems);
     m_calibrationByte->setAlignment(Qt::AlignCenter);
+    constexpr int edges = 16; // pixels, of the field around its text
+    const QString fourBytes = QStringLiteral("A7 A1 A2 A3"); // as many as parts have, one for each speed
+    m_calibrationByte->setMinimumWidth(fontMetrics().horizontalAdvance(fourBytes) + edges);
 
     auto* label = new QLabel(QStringLiteral("HEX"), this);
     auto* layout = new QHBoxLayout(this);

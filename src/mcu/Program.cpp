@@ -1,6 +1,7 @@
 #include "mcu/Program.h"
 
 #include "avrdude/Avrdude.h"
+#include "base/BoxText.h"
 #include "fuses/Fuses.h"
 #include "mcu/Attributes.h"
 #include "mcu/AttributesView.h"
@@ -46,6 +47,7 @@ void Program::onMcuSelected(const QString& name)
     m_avrdude.settings().mcuName = name;
     m_fuses.loadMcu(name);
     m_fuses.rebuild();
-    QMessageBox::information(m_attributesView, QStringLiteral("MCU"),
-                             tr("MCU selected: ") + name + tr(".\nFuse bytes set to datasheet default values."));
+    QMessageBox::information(
+        m_attributesView, QStringLiteral("MCU"),
+        boxText(tr("MCU selected: ") + name + tr(".\nFuse bytes set to datasheet default values.")));
 }

@@ -5,7 +5,6 @@
 
 #include <QFileInfo>
 #include <QHash>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 

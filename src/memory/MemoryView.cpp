@@ -1,12 +1,8 @@
 #include "memory/MemoryView.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -14,36 +10,15 @@ namespace {
 
 constexpr int browseWidth = 24; // pixels
 
-QDir applicationFolder()
-{
-    return QDir(QCoreApplication::applicationDirPath());
-}
-
-/// Where a dialog for the field's text @p path opens.
-QString startFolder(const QString& path)
-{
-    const QFileInfo resolved(applicationFolder().absoluteFilePath(path));
-    return resolved.isFile() ? resolved.absolutePath() : resolved.filePath();
-}
-
-/// A file below the application's folder is kept relative to it, so that the folder can be moved with its files.
-/// avrdude looks for it from the working directory, which is that folder when Korvel is started there.
-QString storedPath(const QString& chosen)
-{
-    const QString relative = applicationFolder().relativeFilePath(chosen);
-    const bool outside = relative.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(relative);
-    return outside ? chosen : relative;
-}
-
 } // namespace
 
 MemoryView::MemoryView(const QString& memory, QWidget* parent)
     : QWidget(parent)
 {
     auto* box = new QGroupBox(memory, this);
-    m_writeRow = makeRow(tr("Write"), QStringLiteral("SELECT %1 FILE FOR WRITING").arg(memory));
+    m_writeRow = makeRow(memory, tr("Write"), QStringLiteral("SELECT %1 FILE FOR WRITING").arg(memory));
     // An open dialog here too: people overwrite the file they picked last time, and can type a new name.
-    m_readRow = makeRow(tr("Read"), QStringLiteral("SELECT %1 FILE FOR READING").arg(memory));
+    m_readRow = makeRow(memory, tr("Read"), QStringLiteral("SELECT %1 FILE FOR READING").arg(memory));
 
     auto* rows = new QVBoxLayout(box);
     for (const Row& row : {m_writeRow, m_readRow}) {
@@ -59,14 +34,16 @@ MemoryView::MemoryView(const QString& memory, QWidget* parent)
     layout->addWidget(box);
 }
 
-MemoryView::Row MemoryView::makeRow(const QString& action, const QString& dialogTitle)
+MemoryView::Row MemoryView::makeRow(const QString& memory, const QString& action, const QString& dialogTitle)
 {
     const Row row {
-        new QLineEdit(this),
+        new PathField(this),
         new QPushButton(QStringLiteral("..."), this),
         new QPushButton(action, this),
         new QPushButton(tr("Verify"), this),
     };
+    row.path->setAccessibleName(memory + QLatin1String(": ") + action);
+    row.browse->setAccessibleName(dialogTitle);
     row.browse->setFixedWidth(browseWidth);
     row.action->setEnabled(false);
     row.verify->setEnabled(false);
@@ -75,12 +52,12 @@ MemoryView::Row MemoryView::makeRow(const QString& action, const QString& dialog
     return row;
 }
 
-void MemoryView::browse(QLineEdit& path, const QString& dialogTitle)
+void MemoryView::browse(PathField& path, const QString& dialogTitle)
 {
     const QString filters = QStringLiteral("Firmware files (*.hex *.bin *.eep *.s19 *.srec *.elf);;HEX (*.hex);;"
                                            "Binary (*.bin);;EEPROM (*.eep);;ELF (*.elf);;"
                                            "Motorola S-record (*.s19 *.srec);;All files (*.*)");
-    const QString chosen = QFileDialog::getOpenFileName(this, dialogTitle, startFolder(path.text()), filters);
+    const QString chosen = QFileDialog::getOpenFileName(this, dialogTitle, path.startFolder(), filters);
     if (!chosen.isEmpty())
-        path.setText(storedPath(chosen));
+        path.setFile(chosen);
 }

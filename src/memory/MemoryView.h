@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QWidget>
+#include "memory/PathField.h"
 
-class QLineEdit;
 class QPushButton;
 
 /// The panel of one memory: a row for the file to write and a row for the file to read into. FlashView and EepromView
@@ -25,14 +24,14 @@ protected:
 
 private:
     struct Row {
-        QLineEdit* path = nullptr;
+        PathField* path = nullptr;
         QPushButton* browse = nullptr;
         QPushButton* action = nullptr;
         QPushButton* verify = nullptr;
     };
 
-    Row makeRow(const QString& action, const QString& dialogTitle);
-    void browse(QLineEdit& path, const QString& dialogTitle);
+    Row makeRow(const QString& memory, const QString& action, const QString& dialogTitle);
+    void browse(PathField& path, const QString& dialogTitle);
 
     Row m_writeRow;
     Row m_readRow;

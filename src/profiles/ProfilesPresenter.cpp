@@ -1,6 +1,7 @@
 #include "profiles/ProfilesPresenter.h"
 
 #include "avrdude/Avrdude.h"
+#include "base/BoxText.h"
 #include "base/JsonFile.h"
 #include "fuses/FuseRequests.h"
 #include "memory/RawFile.h"
@@ -63,7 +64,7 @@ void ProfilesPresenter::saveProfile()
     const bool isListed = profiles.findText(name) >= 0;
     if (isListed) {
         const QString question = tr("Configuration named «%1» already exists.\nDo you want to overwrite it?").arg(name);
-        if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), question,
+        if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), boxText(question),
                                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
             != QMessageBox::Yes)
             return;
@@ -77,8 +78,9 @@ void ProfilesPresenter::saveProfile()
     if (!isListed)
         profiles.addItem(name);
     profiles.setCurrentText(name);
-    QMessageBox::information(&m_programmingView, QStringLiteral("Information"),
-                             QLatin1String("Profile \"") + name + QLatin1String(".json\" saved successfully."));
+    QMessageBox::information(
+        &m_programmingView, QStringLiteral("Information"),
+        boxText(QLatin1String("Profile \"") + name + QLatin1String(".json\" saved successfully.")));
 }
 
 void ProfilesPresenter::removeProfile()

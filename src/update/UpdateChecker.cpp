@@ -1,5 +1,6 @@
 #include "update/UpdateChecker.h"
 
+#include "base/BoxText.h"
 #include "base/ProductInfo.h"
 
 #include <QApplication>
@@ -54,7 +55,7 @@ void UpdateChecker::onReplyFinished(QNetworkReply* reply)
         return;
     }
     const QString question = tr("New version %1 available.\n\nOpen download page?").arg(remote);
-    if (QMessageBox::question(window, tr("Update available"), question) != QMessageBox::Yes)
+    if (QMessageBox::question(window, tr("Update available"), boxText(question)) != QMessageBox::Yes)
         return;
     if (!QDesktopServices::openUrl(QUrl(url)))
         QMessageBox::warning(QApplication::activeWindow(), tr("Error"), tr("Could not open the link."));

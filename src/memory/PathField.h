@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLineEdit>
+
+/// A field for the path of a file: typed, pasted, dropped, or chosen in a dialog. Shows the whole path as its tooltip.
+class PathField : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit PathField(QWidget* parent = nullptr);
+
+    /// Where a dialog for the field opens: the folder of the file that it names, else what it names.
+    [[nodiscard]] QString startFolder() const;
+
+    /// Replaces the text by the path of the file @p chosen (absolute). One below the application's folder is kept
+    /// relative to it, so that the folder can be moved with its files. avrdude looks for it from the working directory,
+    /// which is that folder when Korvel is started there.
+    void setFile(const QString& chosen);
+
+    bool event(QEvent* event) override;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void insertPath(QString text);
+};
