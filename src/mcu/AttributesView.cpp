@@ -16,7 +16,7 @@ constexpr int visibleItems = 15;
 
 AttributesView::AttributesView(QWidget* parent)
     : QWidget(parent)
-    , m_mcuList(new ListComboBox(ListComboBox::Width::OfEntries, this))
+    , m_mcuList(new ListComboBox(ListComboBox::Width::Any, this))
     , m_autoDetect(std::make_unique<QPushButton>(tr("Auto-Detect")))
     , m_erase(new QPushButton(tr("Erase all"), this))
     , m_read(new QPushButton(tr("Read"), this))
@@ -26,12 +26,12 @@ AttributesView::AttributesView(QWidget* parent)
     m_calibrationByte->setAlignment(Qt::AlignCenter);
     constexpr int edges = 16; // pixels, of the field around its text
     const QString fourBytes = QStringLiteral("A7 A1 A2 A3"); // as many as parts have, one for each speed
-    m_calibrationByte->setMinimumWidth(fontMetrics().horizontalAdvance(fourBytes) + edges);
+    m_calibrationByte->setFixedWidth(fontMetrics().horizontalAdvance(fourBytes) + edges);
 
     auto* label = new QLabel(QStringLiteral("HEX"), this);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new RowBox(tr("MCU"), {m_mcuList, m_erase}, this));
+    layout->addWidget(new RowBox(tr("MCU"), {m_mcuList, m_erase}, this), 1);
     layout->addWidget(new RowBox(tr("Calibration Byte"), {m_read, label, m_calibrationByte}, this));
 }
 

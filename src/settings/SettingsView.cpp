@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int margin = 6; // pixels; the strip is the widest part of the window
+constexpr int margin = 5; // pixels; the strip is the widest part of the window
 
 } // namespace
 
@@ -18,9 +18,12 @@ SettingsView::SettingsView(QWidget* parent)
     , m_speed(new ListComboBox(ListComboBox::Width::OfEntries, this)) // short, and always shown whole
     , m_language(new ListComboBox(ListComboBox::Width::Any, this))
 {
+    constexpr int languageLength = 4; // characters of the width of an X, which hold most languages' names
+    m_language->setMinimumContentsLength(languageLength);
+
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
-    // Programmers and ports have the long names: they share what the others leave.
+    // Programmers have the longest names, and get what the others leave.
     const auto addBox = [this, layout](const QString& title, std::initializer_list<QWidget*> widgets, int stretch) {
         auto* box = new RowBox(title, widgets, this);
         box->row()->setContentsMargins(margin, margin, margin, margin);
