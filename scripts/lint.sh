@@ -7,11 +7,12 @@ export LC_ALL=C.UTF-8 # for the names of the translations
 need_packages "${build_packages[@]}" clang-format clang-tidy git python3 qttools5-dev-tools
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
-lupdate -silent src -ts "$scratch/texts.ts"
+lupdate -silent src translations/toolkit.cpp -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
 scripts/check-includes.py
 
-mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp')
+mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' \
+    'bench/*.cpp' 'translations/*.cpp')
 clang-format --dry-run --Werror "${sources[@]}"
 echo "clang-format: ${#sources[@]} files are in order"
 

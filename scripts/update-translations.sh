@@ -7,7 +7,7 @@ export LC_ALL=C.UTF-8 # for the names of the files
 need_packages qttools5-dev-tools
 for file in translations/*.ts; do
     header=$(sed -n '/^<!-- /,$ { p; /-->$/q }' "$file")
-    lupdate -silent -locations none -no-obsolete src -ts "$file"
+    lupdate -silent -locations none -no-obsolete src translations/toolkit.cpp -ts "$file"
     # lupdate writes no comments.
     [ -z "$header" ] || printf '%s\n' "$header" | sed -i '/^<!DOCTYPE TS>$/r /dev/stdin' "$file"
 done

@@ -328,6 +328,336 @@ Fuse baytları veri sayfasındaki varsayılan değerlere ayarlandı.</translatio
     </message>
 </context>
 <context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Konum:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Dosya &amp;adı:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Dosya türü:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>A&amp;ç</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Son konumlar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Geri git</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>İleri git</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Üst klasör</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Üst klasöre git</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Yeni klasör</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Yeni klasör oluştur</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Liste olarak göster</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Ayrıntılar</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Ayrıntılarla göster</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Kenar çubuğu</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Konumlar ve yer imleri</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Yeniden &amp;adlandır</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>&amp;Gizli dosyaları göster</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Yeni klasör</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Yeni klasör</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Göster: </translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Dosya bulunamadı.
+Dosya adını denetleyin.</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Klasör bulunamadı.
+Klasör adını denetleyin.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>“%1” silinsin mi?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>“%1” yazmaya karşı korumalı.
+Yine de silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Klasör silinemedi.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Sürücü</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 dosyası</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Kısayol</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Bilinmiyor</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tür</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Değiştirilme</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Bilgisayar</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Geçersiz dosya adı</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;“%1” adı kullanılamaz.&lt;/b&gt;&lt;p&gt;Daha kısa ya da noktalama işareti içermeyen bir ad deneyin.</translation>
+    </message>
+</context>
+<context>
+    <name>QGnomeTheme</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;Tamam</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>İ&amp;ptal</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri al</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Ke&amp;s</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopyala</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ya&amp;pıştır</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü seç</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Evet</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Hayır</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Buraya kaydır</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En üst</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En alt</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Sayfa yukarı</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sayfa aşağı</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Yukarı kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Aşağı kaydır</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Sol kenar</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Sağ kenar</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Sayfa sola</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Sayfa sağa</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Sola kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Sağa kaydır</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Bağlantı adresini kopyala</translation>
+    </message>
+</context>
+<context>
     <name>RawFile</name>
     <message>
         <source>The file has %1 bytes, the memory only %2.</source>

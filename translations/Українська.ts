@@ -328,6 +328,336 @@ Fuse bytes set to datasheet default values.</source>
     </message>
 </context>
 <context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Тека:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Назва файлу:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Тип файлів:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Відкрити</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Недавні місця</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Перейти назад</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Вперед</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Перейти вперед</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Батьківська тека</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Перейти до батьківської теки</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Нова тека</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Створити теку</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Список</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Показати списком</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Докладно</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Показати подробиці</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Бічна панель</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Місця та закладки</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Файли</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Перейменувати</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Видалити</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Показати при&amp;ховані файли</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Нова тека</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Нова тека</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Прибрати</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Показати: </translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Файл не знайдено.
+Перевірте назву файлу.</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Теку не знайдено.
+Перевірте назву теки.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Видалити «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1»: запис заборонено.
+Усе одно видалити?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Не вдалося видалити теку.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Диск</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Тека</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Файл %1</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Ярлик</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Невідомо</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Назва</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Розмір</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Змінено</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Компʼютер</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Неприпустима назва файлу</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;Назву «%1» використати не можна.&lt;/b&gt;&lt;p&gt;Спробуйте коротшу або без розділових знаків.</translation>
+    </message>
+</context>
+<context>
+    <name>QGnomeTheme</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;ОК</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Скасувати</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Скасувати</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторити</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Вирі&amp;зати</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копіювати</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Вставити</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Видалити</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Виділити все</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Так</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Ні</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Прокрутити сюди</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>На початок</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>У кінець</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>На сторінку вгору</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>На сторінку вниз</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Прокрутити вгору</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Прокрутити вниз</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>До лівого краю</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>До правого краю</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>На сторінку вліво</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>На сторінку вправо</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Прокрутити вліво</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Прокрутити вправо</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Копіювати &amp;адресу посилання</translation>
+    </message>
+</context>
+<context>
     <name>RawFile</name>
     <message>
         <source>The file has %1 bytes, the memory only %2.</source>
