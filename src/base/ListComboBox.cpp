@@ -85,13 +85,15 @@ void ListComboBox::paintEvent(QPaintEvent* event)
         QComboBox::paintEvent(event);
         return;
     }
-    // Qt 5.15 paints the placeholder in no colour.
+    // With a style sheet Qt 5.15 has no brush for a placeholder, and draws none.
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     option.currentText = placeholderText();
-    option.palette.setBrush(QPalette::ButtonText, palette().brush(QPalette::PlaceholderText));
+    QColor faint = palette().color(QPalette::ButtonText);
+    faint.setAlphaF(0.5);
+    option.palette.setBrush(QPalette::ButtonText, faint);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
