@@ -17,7 +17,11 @@ public slots:
     void open(const QUrl& url) { m_opened += url.toString(); }
 
 private slots:
-    void initTestCase() { QDesktopServices::setUrlHandler("https", this, "open"); }
+    void initTestCase()
+    {
+        for (const QString scheme : {"https", "ftp"})
+            QDesktopServices::setUrlHandler(scheme, this, "open");
+    }
 
     void answers()
     {
@@ -29,7 +33,7 @@ private slots:
                       "https://b"},
                  {"data:,{'version': '5.10', 'url': 'https://a', 'url_linux': 1}", offer.arg("5.10"), "https://a"},
                  {"data:,{'version': '5.6.1', 'url': 'https://a'}", offer.arg("5.6.1"), ""}, // declined
-                 {"data:,{'version': '6.0-beta', 'url': ':'}", offer.arg("6.0-beta") + failed, ""},
+                 {"data:,{'version': '6.0-beta', 'url': 'ftp://a'}", offer.arg("6.0-beta") + failed, ""}, // no page
                  {"data:,{'version': '5.7', 'url': ''}", "Error: Download URL is missing in server response.", ""},
                  {"data:,{'version': '5.6', 'url': 'https://a'}", "", ""},
                  {"data:,{'version': '5.5.9', 'url': 'https://a'}", "", ""},

@@ -57,7 +57,10 @@ void UpdateChecker::onReplyFinished(QNetworkReply* reply)
     const QString question = tr("New version %1 available.\n\nOpen download page?").arg(remote);
     if (QMessageBox::question(window, tr("Update available"), boxText(question)) != QMessageBox::Yes)
         return;
-    if (!QDesktopServices::openUrl(QUrl(url)))
+    const QUrl page(url);
+    // A page and nothing else: with another scheme the server could start any program that is registered for it.
+    const bool isPage = page.scheme() == QLatin1String("https") || page.scheme() == QLatin1String("http");
+    if (!isPage || !QDesktopServices::openUrl(page))
         QMessageBox::warning(QApplication::activeWindow(), tr("Error"), tr("Could not open the link."));
 }
 
