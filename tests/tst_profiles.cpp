@@ -1,5 +1,6 @@
 #include "profiles/ConfigurationView.h"
 #include "profiles/Profiles.h"
+#include "profiles/ProfilesPresenter.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "support/Bench.h"
@@ -127,6 +128,14 @@ private slots:
         QCOMPARE(board.click(board.write), QString("EEPROM: The file has 5 bytes, the memory only 4."));
         board.folder.write("C:/a.bin", "1234567");
         QCOMPARE(board.click(board.write), QString("FLASH: The file has 7 bytes, the memory only 6."));
+
+        // One area, called without the button: it is the present board's.
+        board.settings.avrdude = STAND_IN;
+        board.folder.write("script", "");
+        board.tab.findChild<ProfilesPresenter*>()->writeFuses();
+        QCOMPARE(board.boxes.wait(),
+                 QStringList {"Profiles: Fuse bits write successfully.\nFuse bits verify successfully."});
+        QCOMPARE(board.folder.runs().constLast().mid(7), QStringList {""}); // it has no fuse bytes
     }
 };
 

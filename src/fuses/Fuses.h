@@ -23,9 +23,10 @@ public:
     /// replaced.
     void rebuild();
 
-private:
     /// Shows the record's values in the editors that are there.
     void refresh();
+
+private:
     void onClickDefault();
 
     Avrdude& m_avrdude;

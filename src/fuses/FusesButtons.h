@@ -16,6 +16,9 @@ class FusesButtons : public QObject
 public:
     FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* parent = nullptr);
 
+    /// Takes the files of a reading over into the record's bytes, each its own, and tells the user what came of it.
+    void readFuseBytesMcu();
+
 public slots:
     void onClickWriteBt();
     void onClickVerifyBt();
@@ -28,9 +31,6 @@ signals:
     void setReadingFusesEmit();
 
 private:
-    /// Takes the files of a reading over into the record's bytes, each its own, and tells the user what came of it.
-    void readFuseBytesMcu();
-
     Avrdude& m_avrdude;
     FusesButtonsView& m_view;
     ReadFile m_readFile;

@@ -30,10 +30,12 @@ public:
     /// Empties the field and reads the chip's calibration bytes into a file, then from there into the field.
     void setAvrdudeCmdReadCallByte();
 
-private:
+    /// Takes the file of a reading over into the field and the record, and tells so. Without a file both stay as they
+    /// are.
     void readFileCallByte();
     void showCalibration(const QString& text);
 
+private:
     Avrdude& m_avrdude;
     AttributesView& m_view;
     ReadFile m_readFile;

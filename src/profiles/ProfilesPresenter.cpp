@@ -37,7 +37,7 @@ ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, C
             [this](const QString& text) { m_avrdude.settings().description = text; });
     connect(configurationView.addButton(), &QPushButton::clicked, this, &ProfilesPresenter::saveProfile);
     connect(configurationView.removeButton(), &QPushButton::clicked, this, &ProfilesPresenter::removeProfile);
-    connect(programmingView.writeButton(), &QPushButton::clicked, this, &ProfilesPresenter::startWriting);
+    connect(programmingView.writeButton(), &QPushButton::clicked, this, [this] { startWriting(m_avrdude.settings()); });
     loadProfileFiles();
 }
 
@@ -158,11 +158,11 @@ void ProfilesPresenter::updateWriteButton()
                                                 || m_selectView.fuses()->isChecked());
 }
 
-void ProfilesPresenter::startWriting()
+void ProfilesPresenter::startWriting(const SettingsRecord& board)
 {
     // Pressed in the middle of a writing, the button means that board and nothing that was chosen since.
     if (!m_avrdude.isBusy()) {
-        m_board = m_avrdude.settings();
+        m_board = board;
         const auto fits = [this](bool isTicked, const QStringList& command) {
             return !isTicked || RawFile::fits(m_board, command, &m_programmingView);
         };
@@ -175,14 +175,39 @@ void ProfilesPresenter::startWriting()
     m_summary.clear();
     m_log.clear();
     if (m_board.flashCheck)
-        m_steps.append(&ProfilesPresenter::writeFlash);
+        m_steps.append(&ProfilesPresenter::startFlash);
     if (m_board.eepromCheck)
-        m_steps.append(&ProfilesPresenter::writeEeprom);
+        m_steps.append(&ProfilesPresenter::startEeprom);
     if (m_board.fusesCheck)
-        m_steps.append(&ProfilesPresenter::writeFuses);
+        m_steps.append(&ProfilesPresenter::startFuses);
     if (m_steps.isEmpty())
         return; // it was something else that is running, and no board has been written yet
     nextStep();
+}
+
+void ProfilesPresenter::writeOnly(bool SettingsRecord::*area)
+{
+    if (m_avrdude.isBusy())
+        return; // a writing that is under way keeps its steps
+    SettingsRecord board = m_avrdude.settings();
+    board.flashCheck = board.eepromCheck = board.fusesCheck = false;
+    board.*area = true;
+    startWriting(board);
+}
+
+void ProfilesPresenter::writeFlash()
+{
+    writeOnly(&SettingsRecord::flashCheck);
+}
+
+void ProfilesPresenter::writeEeprom()
+{
+    writeOnly(&SettingsRecord::eepromCheck);
+}
+
+void ProfilesPresenter::writeFuses()
+{
+    writeOnly(&SettingsRecord::fusesCheck);
 }
 
 void ProfilesPresenter::nextStep()
@@ -206,17 +231,17 @@ void ProfilesPresenter::runStep(const QStringList& arguments, const QString& sum
     });
 }
 
-void ProfilesPresenter::writeFlash()
+void ProfilesPresenter::startFlash()
 {
     runStep(m_board.cmdFlashWrite, tr("Flash write successfully.\nFlash verify successfully.\n"));
 }
 
-void ProfilesPresenter::writeEeprom()
+void ProfilesPresenter::startEeprom()
 {
     runStep(m_board.cmdEepromWrite, tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
 }
 
-void ProfilesPresenter::writeFuses()
+void ProfilesPresenter::startFuses()
 {
     runStep(FuseRequests::write(m_board.fusesBytes),
             tr("Fuse bits write successfully.\nFuse bits verify successfully."));

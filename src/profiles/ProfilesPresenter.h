@@ -24,6 +24,22 @@ public:
     /// Path of the file of the profile called @p name, which goes into it as typed. The folder is not made.
     [[nodiscard]] static QString profileFile(const QString& name);
 
+    /// Lists the profiles of the folder "profiles"; leaves the list alone when there is no such folder.
+    void loadProfileFiles();
+
+    /// Writes the settings record as the profile named in the field, asking before one is overwritten. Nothing happens
+    /// without a name. The box reports success even when the file could not be written; the log tells the failure.
+    void saveProfile();
+
+    /// Deletes the selected profile's file, after a question. A failure to delete is not told.
+    void removeProfile();
+
+    /// Each writes one area of the present record, ticked or not, and tells so in the box that ends a writing. Dropped
+    /// while avrdude runs.
+    void writeFlash();
+    void writeEeprom();
+    void writeFuses();
+
     /// Shows the settings record again.
     void refresh();
 
@@ -38,21 +54,12 @@ public slots:
 private:
     using Step = void (ProfilesPresenter::*)();
 
-    /// Lists the profiles of the folder "profiles"; leaves the list alone when there is no such folder.
-    void loadProfileFiles();
-
-    /// Writes the settings record as the profile named in the field, asking before one is overwritten. Nothing happens
-    /// without a name. The box reports success even when the file could not be written; the log tells the failure.
-    void saveProfile();
-
-    /// Deletes the selected profile's file, after a question. A failure to delete is not told.
-    void removeProfile();
-
-    void startWriting();
+    void startWriting(const SettingsRecord& board);
+    void writeOnly(bool SettingsRecord::*area);
     void nextStep();
-    void writeFlash();
-    void writeEeprom();
-    void writeFuses();
+    void startFlash();
+    void startEeprom();
+    void startFuses();
     void runStep(const QStringList& arguments, const QString& summary);
     void updateWriteButton();
 

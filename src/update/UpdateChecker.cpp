@@ -13,6 +13,11 @@
 #include <QNetworkRequest>
 #include <QVersionNumber>
 
+UpdateChecker::UpdateChecker(QObject* parent)
+    : UpdateChecker(defaultSource(), parent)
+{
+}
+
 UpdateChecker::UpdateChecker(const QUrl& source, QObject* parent)
     : QObject(parent)
     , m_source(source)

@@ -13,8 +13,11 @@ class UpdateChecker : public QObject
     Q_OBJECT
 
 public:
+    /// Asks at defaultSource().
+    explicit UpdateChecker(QObject* parent = nullptr);
+
     /// @p source is the address of the version document.
-    explicit UpdateChecker(const QUrl& source = defaultSource(), QObject* parent = nullptr);
+    explicit UpdateChecker(const QUrl& source, QObject* parent = nullptr);
 
     /// The address at the distributor's update server.
     [[nodiscard]] static QUrl defaultSource();
