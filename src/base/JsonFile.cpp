@@ -8,11 +8,13 @@
 JsonFile JsonFile::read(const QString& path)
 {
     JsonFile result;
-    QFile file(path);
-    if (!file.exists())
+    const QFileInfo info(path);
+    if (!info.exists())
         return result;
     result.state = State::CannotOpen;
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file(path);
+    // A pipe would be waited for, and a device may never end.
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         return result;
 
     QJsonParseError error;
@@ -24,6 +26,9 @@ JsonFile JsonFile::read(const QString& path)
 
 bool writeFile(const QString& path, const QByteArray& content)
 {
+    const QFileInfo info(path);
+    if (info.isSymLink() && info.exists() && !info.isFile())
+        return false; // a link to a device: root would replace that
     QSaveFile file(path);
     // Flushed here: a disk that fills up while the file is closed goes unnoticed, and half a file would win.
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();

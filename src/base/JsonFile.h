@@ -19,7 +19,8 @@ struct JsonFile {
     /// True when the file held a JSON object; document.object() is that object.
     [[nodiscard]] bool isObject() const { return document.isObject(); }
 
-    /// Reads the file at @p path whole. Failures are told by `state`; nothing is shown or logged.
+    /// Reads the file at @p path whole. Failures are told by `state`; nothing is shown or logged. What is no regular
+    /// file, nor a link to one, is not opened.
     [[nodiscard]] static JsonFile read(const QString& path);
 };
 
