@@ -3,11 +3,16 @@
 #include "base/ProductInfo.h"
 
 #include <QDate>
+#include <QEvent>
 #include <QLabel>
+#include <QPalette>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
 namespace {
+
+constexpr int lightest = 255;
+constexpr QRgb lightGround = 0xefefef;
 
 /// Newest first. Each line of an entry ends in a line break, so that an empty paragraph parts the entries.
 constexpr const char* history[] = {
@@ -73,17 +78,35 @@ AboutView::AboutView(QWidget* parent)
     block->setTextFormat(Qt::RichText);
     block->setOpenExternalLinks(true);
 
-    auto* versions = new QTextEdit(this);
-    versions->setReadOnly(true);
-    versions->setLineWrapMode(QTextEdit::WidgetWidth);
-    versions->setStyleSheet(QStringLiteral("QTextEdit {  background-color: #f0f0f0;  border: 1px solid #cccccc;  "
-                                           "border-radius: 3px;  font-family: Consolas, 'Courier New', monospace;  "
-                                           "font-size: 10pt;}"));
+    m_versions = new QTextEdit(this);
+    m_versions->setReadOnly(true);
+    m_versions->setLineWrapMode(QTextEdit::WidgetWidth);
+    m_versions->setStyleSheet(QStringLiteral("QTextEdit {  background-color: #f0f0f0;  border: 1px solid #cccccc;  "
+                                             "border-radius: 3px;  font-family: Consolas, 'Courier New', monospace;  "
+                                             "font-size: 10pt;}"));
     for (const char* entry : history)
-        versions->append(QLatin1String(entry));
-    versions->moveCursor(QTextCursor::Start);
-    layout->addWidget(versions);
+        m_versions->append(QLatin1String(entry));
+    m_versions->moveCursor(QTextCursor::Start);
+    layout->addWidget(m_versions);
 
     addLabel(QStringLiteral("%1 - %2").arg(ProductInfo::startYear).arg(QDate::currentDate().year()), Qt::AlignCenter,
              QStringLiteral("color: #888888; font-size: 10pt;"));
+    keepReadable();
+}
+
+void AboutView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        keepReadable();
+    QWidget::changeEvent(event);
+}
+
+void AboutView::keepReadable()
+{
+    if (palette().color(QPalette::Window).lightness() >= lightest / 2)
+        return;
+    const QPalette light {QColor(lightGround)};
+    setPalette(light);
+    m_versions->setPalette(light); // by itself: what has a style sheet that sets colours inherits no palette
+    setAutoFillBackground(true);
 }
