@@ -16,11 +16,14 @@
 #include <QMessageBox>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <QScrollArea>
 
 namespace {
 
 void warnAboutSettings(const QString& text)
 {
+constexpr QSize smallestSize(320, 240); // pixels; what does not fit is scrolled
+
     QMessageBox::warning(QApplication::activeWindow(), ProductInfo::name, text + ProductInfo::settingsFile);
 }
 
@@ -28,7 +31,8 @@ void warnAboutSettings(const QString& text)
 
 KorvelApp::KorvelApp(QWidget* parent)
     : QMainWindow(parent)
-    , m_central(new QWidget(this))
+    , m_central(new QScrollArea(this))
+    , m_content(new QWidget)
     , m_log(new AvrdudeMessage(this))
     , m_avrdude(new Avrdude(this, m_log))
     , m_tabs(new QTabWidget(this))
@@ -43,7 +47,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(new AboutView(this), QStringLiteral("About"));
     m_tabs->setCornerWidget(new SocialLinksWidget(this), Qt::TopRightCorner);
 
-    auto* layout = new QVBoxLayout(m_central);
+    auto* layout = new QVBoxLayout(m_content);
     layout->addWidget(m_tabs);
     layout->addWidget(m_settings);
     layout->addWidget(m_log);
@@ -63,6 +67,11 @@ KorvelApp::KorvelApp(QWidget* parent)
 
 void KorvelApp::saveSettings()
 {
+    m_central->setFrameShape(QFrame::NoFrame);
+    m_central->setFocusPolicy(Qt::NoFocus);
+    m_central->setWidgetResizable(true);
+    m_central->setMinimumSize(smallestSize);
+    m_central->setWidget(m_content);
     if (!m_avrdude->settings().saveToFile(ProductInfo::settingsFile))
         warnAboutSettings(tr("Failed to save settings to file: "));
 }
@@ -103,5 +112,10 @@ void KorvelApp::showRunning(bool isRunning)
 void KorvelApp::closeEvent(QCloseEvent* event)
 {
     saveSettings();
+QSize KorvelApp::sizeHint() const
+{
+    return m_content->minimumSizeHint();
+}
+
     event->accept();
 }

@@ -7,6 +7,7 @@ class AvrdudeMessage;
 class Fuses;
 class Profiles;
 class Program;
+class QScrollArea;
 class QTabWidget;
 class Settings;
 
@@ -26,6 +27,9 @@ public:
     /// cannot be used (a box says so).
     bool loadSettings();
 
+    /// The size at which nothing needs to be scrolled.
+    [[nodiscard]] QSize sizeHint() const override;
+
 public slots:
     /// Lets every panel show the settings record again.
     void refreshPanels();
@@ -39,7 +43,8 @@ protected:
 private:
     void showRunning(bool isRunning);
 
-    QWidget* m_central;
+    QScrollArea* m_central;
+    QWidget* m_content; ///< scrolls in it where the screen is too small
     AvrdudeMessage* m_log;
     Avrdude* m_avrdude;
     QTabWidget* m_tabs;

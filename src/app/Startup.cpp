@@ -8,7 +8,10 @@
 #include <QGuiApplication>
 #include <QJsonObject>
 #include <QScreen>
+#include <QStyle>
 #include <QWidget>
+
+#include <algorithm>
 
 QString Startup::language()
 {
@@ -33,5 +36,12 @@ void Startup::moveToPointerScreen(QWidget& window)
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     const QRect area = screen->availableGeometry();
-    window.move(area.left() + (area.width() - window.width()) / 2, area.top() + (area.height() - window.height()) / 2);
+    const int y = area.top() + std::max(0, (area.height() - window.height()) / 2);
+    if (window.height() > area.height()) {
+        // How high the frame is shows only later: it is as high as the title, and as much again.
+        const int frame = 2 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+        const int scrollBar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        window.resize(std::min(window.width() + scrollBar, area.width()), area.height() - frame);
+    }
+    window.move(area.left() + (area.width() - window.width()) / 2, y);
 }

@@ -22,7 +22,7 @@ int main(int argc, char* argv[])
     KorvelApp window;
     window.setWindowTitle(QString(ProductInfo::name) + QLatin1Char(' ') + ProductInfo::version);
     // A large font may need more; the window would grow when shown, off its centre.
-    window.resize(QSize(520, 655).expandedTo(window.minimumSizeHint()));
+    window.resize(QSize(520, 655).expandedTo(window.sizeHint()));
     window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));
     Startup::moveToPointerScreen(window);
     window.show();
