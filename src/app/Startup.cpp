@@ -1,17 +1,96 @@
 #include "app/Startup.h"
 
+#include "app/KorvelApp.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"
+#include "base/Toolkit.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QDebug>
-#include <QGuiApplication>
 #include <QJsonObject>
 #include <QScreen>
 #include <QStyle>
-#include <QWidget>
 
 #include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+/// The main window while it is shown, else null.
+KorvelApp* mainWindow()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* widget : windows) {
+        auto* window = qobject_cast<KorvelApp*>(widget);
+        if (window && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
+/// Closes the main window and ends the event loops, those of open boxes first.
+void endProgram()
+{
+    if (KorvelApp* window = mainWindow())
+        window->close();
+    QCoreApplication::exit();
+}
+
+#ifdef Q_OS_UNIX
+
+int signalPipe[2]; // what is written into the second end, by a signal's handler, comes out of the first
+
+void onSignal(int)
+{
+    const int error = errno;
+    const char mark = 0;
+    [[maybe_unused]] const auto written = ::write(signalPipe[1], &mark, 1);
+    errno = error;
+}
+
+void closeOnSignals()
+{
+    if (::pipe(signalPipe) != 0)
+        return;
+    for (const int end : signalPipe)
+        ::fcntl(end, F_SETFD, FD_CLOEXEC); // none of avrdude's business
+    auto* notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [] {
+        // A signal that came while the window was being built, under a box that tells of damaged settings, stays in the
+        // pipe: the event loop that runs when the window is there sees it again.
+        if (mainWindow()) {
+            char mark = 0;
+            [[maybe_unused]] const auto count = ::read(signalPipe[0], &mark, 1);
+        }
+        endProgram();
+    });
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction action = {};
+        ::sigaction(number, nullptr, &action);
+        if (number == SIGHUP && action.sa_handler == SIG_IGN)
+            continue; // started by nohup
+        action.sa_handler = onSignal;
+        action.sa_flags = SA_RESTART;
+        ::sigaction(number, &action, nullptr);
+    }
+}
+
+#else
+
+void closeOnSignals() { }
+
+#endif
+
+} // namespace
 
 QString Startup::language()
 {
@@ -28,6 +107,18 @@ QString Startup::language()
     const QJsonObject settings = file.document.object();
     const auto language = settings.constFind(QLatin1String("language"));
     return language == settings.constEnd() ? fallback : language->toString();
+}
+
+void Startup::closeOnRequest()
+{
+    closeOnSignals();
+    // The session manager asks for the data before it ends the session, and also when it only notes how things stand.
+    // It ends the program itself.
+    Toolkit::keepWindowsOnCommit();
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [] {
+        if (KorvelApp* window = mainWindow())
+            window->saveSettings();
+    });
 }
 
 void Startup::moveToPointerScreen(QWidget& window)

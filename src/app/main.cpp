@@ -19,6 +19,7 @@ int main(int argc, char* argv[])
     translator->loadLanguage(Startup::language());
     QCoreApplication::installTranslator(translator);
 
+    Startup::closeOnRequest();
     KorvelApp window;
     window.setWindowTitle(QString(ProductInfo::name) + QLatin1Char(' ') + ProductInfo::version);
     // A large font may need more; the window would grow when shown, off its centre.

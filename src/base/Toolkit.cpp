@@ -4,6 +4,7 @@
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
+#include <QGuiApplication>
 #include <QTextCodec>
 
 struct Toolkit::Utf8Decoder::State {
@@ -24,7 +25,12 @@ void Toolkit::useUtf8Names()
 #endif
 }
 
-#else // does both by itself
+void Toolkit::keepWindowsOnCommit()
+{
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
+}
+
+#else // does all of it by itself
 
 #include <QStringDecoder>
 
@@ -36,6 +42,8 @@ struct Toolkit::Utf8Decoder::State {
 void Toolkit::useHighDpi() { }
 
 void Toolkit::useUtf8Names() { }
+
+void Toolkit::keepWindowsOnCommit() { }
 
 #endif
 

@@ -14,6 +14,9 @@ void useHighDpi();
 /// as their speakers write them. To be called before the first file is opened.
 void useUtf8Names();
 
+/// Keeps the windows open when the session manager asks for what is to be saved: the session may go on after it.
+void keepWindowsOnCommit();
+
 /// Decodes UTF-8 that comes in pieces, such as what a process prints on one channel. Keeps the first part of a
 /// character that was split between two pieces.
 class Utf8Decoder
