@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Kalibrierbyte erfolgreich gelesen.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Im Ordner %1 wurde nichts gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Die neue Sprache gilt nach einem Neustart des Programms.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Im Ordner %1 wurde nichts gefunden.</translation>
     </message>
 </context>
 <context>

@@ -16,6 +16,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Calibration byte read successfully.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Nothing found in the folder %1.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -699,6 +703,10 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Please restart the application to apply language changes.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Nothing found in the folder %1.</translation>
     </message>
 </context>
 <context>

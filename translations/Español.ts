@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Byte de calibración leído correctamente.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>No se encontró nada en la carpeta %1.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Reinicie el programa para aplicar el cambio de idioma.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>No se encontró nada en la carpeta %1.</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Octet de calibration lu.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Rien trouvé dans le dossier %1.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Redémarrez le programme pour changer de langue.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Rien trouvé dans le dossier %1.</translation>
     </message>
 </context>
 <context>

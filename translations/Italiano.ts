@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Byte di calibrazione letto correttamente.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Non è stato trovato nulla nella cartella %1.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Eliminarlo comunque?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Riavviare il programma per cambiare la lingua.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Non è stato trovato nulla nella cartella %1.</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Odczytano bajt kalibracyjny.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>W folderze %1 nic nie znaleziono.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Usunąć mimo to?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Uruchom program ponownie, aby zmienić język.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>W folderze %1 nic nie znaleziono.</translation>
     </message>
 </context>
 <context>

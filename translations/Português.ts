@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Byte de calibração lido com sucesso.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Nada encontrado na pasta %1.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Excluir mesmo assim?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Reinicie o programa para mudar o idioma.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>Nada encontrado na pasta %1.</translation>
     </message>
 </context>
 <context>

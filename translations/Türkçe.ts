@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Kalibrasyon baytı başarıyla okundu.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>%1 klasöründe hiçbir şey bulunamadı.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Yine de silinsin mi?</translation>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Dil değişikliği için programı yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>%1 klasöründe hiçbir şey bulunamadı.</translation>
     </message>
 </context>
 <context>

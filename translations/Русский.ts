@@ -16,6 +16,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Калибровочный байт успешно прочитан.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>В папке %1 ничего не найдено.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -699,6 +703,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Перезапустите программу, чтобы сменить язык.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>В папке %1 ничего не найдено.</translation>
     </message>
 </context>
 <context>

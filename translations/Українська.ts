@@ -17,6 +17,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>Калібрувальний байт успішно прочитано.</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>У папці %1 нічого не знайдено.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -700,6 +704,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Перезапустіть програму, щоб змінити мову.</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>У папці %1 нічого не знайдено.</translation>
     </message>
 </context>
 <context>

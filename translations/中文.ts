@@ -16,6 +16,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>校准字节读取成功。</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>在文件夹 %1 中没有找到任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -699,6 +703,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>请重新启动程序以更改语言。</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>在文件夹 %1 中没有找到任何内容。</translation>
     </message>
 </context>
 <context>

@@ -16,6 +16,10 @@
         <source>Calibration byte read successfully.</source>
         <translation>校正バイトを読み出しました。</translation>
     </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>フォルダー %1 には何も見つかりません。</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -699,6 +703,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>言語の変更はプログラムの再起動後に有効になります。</translation>
+    </message>
+    <message>
+        <source>Nothing found in the folder %1.</source>
+        <translation>フォルダー %1 には何も見つかりません。</translation>
     </message>
 </context>
 <context>

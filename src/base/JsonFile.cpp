@@ -34,6 +34,11 @@ bool writeFile(const QString& path, const QByteArray& content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
 }
 
+QString fullPath(const QString& file)
+{
+    return QDir::toNativeSeparators(QDir().absoluteFilePath(file));
+}
+
 QFileInfoList jsonFiles(const QString& folder)
 {
     // In this letter case only: another one is listed on every system and could be opened on some.

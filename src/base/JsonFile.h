@@ -28,6 +28,9 @@ struct JsonFile {
 /// untouched, when it cannot be written whole.
 [[nodiscard]] bool writeFile(const QString& path, const QByteArray& content);
 
+/// The path of @p file, relative to the working directory, as the system's users write it whole.
+[[nodiscard]] QString fullPath(const QString& file);
+
 /// The "*.json" files in @p folder, in the order in which the file system lists them; none when there is no such
 /// folder.
 [[nodiscard]] QFileInfoList jsonFiles(const QString& folder);

@@ -29,6 +29,8 @@ Attributes::Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& 
     QStringList names = jsonBaseNames(BytesModel::folder());
     names.sort();
     view.mcuList()->addItems(names);
+    if (names.isEmpty())
+        avrdude.appendToLog(tr("Nothing found in the folder %1.").arg(fullPath(BytesModel::folder())));
 
     connect(view.eraseButton(), &QPushButton::clicked, this, &Attributes::eraseAllMcu);
     connect(view.autoDetectButton(), &QPushButton::clicked, this, &Attributes::autoDetect);

@@ -4,19 +4,15 @@
 
 #include <QDir>
 
-namespace {
-
-QString programmerFolder()
-{
-    return QStringLiteral("programmer");
-}
-
-} // namespace
-
 SettingsModel::SettingsModel(QObject* parent, PortSource ports)
     : QObject(parent)
     , m_ports(std::move(ports))
 {
+}
+
+QString SettingsModel::programmerFolder()
+{
+    return QStringLiteral("programmer");
 }
 
 QStringList SettingsModel::programmerList() const

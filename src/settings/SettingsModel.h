@@ -19,6 +19,9 @@ public:
     /// @p ports is asked each time the port list is built; another source than the system's serves tests.
     explicit SettingsModel(QObject* parent = nullptr, PortSource ports = systemSerialPorts);
 
+    /// The folder of the catalogue.
+    [[nodiscard]] static QString programmerFolder();
+
     /// Names of the programmers of the catalogue, in the order of the file system.
     [[nodiscard]] QStringList programmerList() const;
 

@@ -22,6 +22,8 @@ SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, Set
     // Filled before they are connected: what happens to stand first is no choice of the user's.
     // No programmer is current before the record's is shown, whose entry is then always read.
     view.programmer()->addItems(model.programmerList());
+    if (view.programmer()->count() == 0)
+        avrdude.appendToLog(tr("Nothing found in the folder %1.").arg(fullPath(SettingsModel::programmerFolder())));
     view.programmer()->setCurrentIndex(-1);
     view.speed()->addItems(model.speedList());
     view.language()->addItems(model.languageList());
