@@ -18,6 +18,7 @@
 #ifdef Q_OS_LINUX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 namespace {
@@ -91,17 +92,32 @@ private slots:
         const WorkFolder folder;
         BoxAnswerer boxes;
         QStringList told {Startup::language()};
+        QString log;
         for (const QByteArray& content : {full.chopped(2), QByteArray("[1]"), QByteArray("{\"language\": 5}"), full}) {
             folder.write(file, content);
             told += Startup::language();
-            KorvelApp().close();
+            KorvelApp window;
+            log += window.findChild<Avrdude*>()->logText().remove(QDir::currentPath() + '/') + '\n';
+            window.close();
             told += boxes.take();
         }
         const QString failed = "Korvel: Failed to load settings from file: save.json";
         QCOMPARE(told, QStringList({"English", "English", failed, "English", failed, "", "Русский"}));
+        // What could not be read is kept, each under a name of its own.
+        QCOMPARE(folder.read("save.damaged-1.json") + folder.read("save.damaged-2.json"), full.chopped(2) + "[1]");
+        const QString empty = "Nothing found in the folder mcu.\nNothing found in the folder programmer.\n";
+        const QString kept = failed.mid(8) + " (%2)\nThe file is kept as save.damaged-%1.json.\n";
+        QCOMPARE(log,
+                 empty + kept.arg(1).arg("illegal value") + empty + kept.arg(2).arg("no JSON object") + empty
+                     + empty);
         // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
         for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
             QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(full)[key]);
+#ifdef Q_OS_LINUX
+        QVERIFY(QFile::remove(file) && ::mkfifo("save.json", 0600) == 0); // nobody ever writes into it
+        KorvelApp();
+        QCOMPARE(boxes.take() + QDir().entryList({"save.damaged-3*"}), QStringList {failed});
+#endif
     }
 
     void startShowsWhatIsUsed()

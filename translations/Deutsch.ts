@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Einstellungen ließen sich nicht aus dieser Datei laden: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Datei lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Die Datei ist noch da, als %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

@@ -154,6 +154,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Failed to load settings from file: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Cannot open file</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>no JSON object</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>The file is kept as %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

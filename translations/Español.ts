@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>No se pudieron cargar los ajustes del archivo: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>No se puede abrir el archivo</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>no es un objeto JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>El archivo se conserva como %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Impossible de charger les réglages du fichier&#xa0;: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>ce n&apos;est pas un objet JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Le fichier est conservé sous le nom %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

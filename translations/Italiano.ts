@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Impossibile caricare le impostazioni dal file: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Impossibile aprire il file</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>non è un oggetto JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Il file è conservato come %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Nie udało się wczytać ustawień z pliku: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Nie można otworzyć pliku</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>to nie jest obiekt JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Plik zachowano jako %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

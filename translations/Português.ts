@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Não foi possível carregar as configurações do arquivo: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Não foi possível abrir o arquivo</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>não é um objeto JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>O arquivo foi mantido como %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Ayarlar şu dosyadan yüklenemedi: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Dosya açılamıyor</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>JSON nesnesi değil</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Dosya şu adla saklandı: %1</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

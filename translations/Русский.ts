@@ -154,6 +154,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Не удалось загрузить настройки из файла: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Не удаётся открыть файл</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>не объект JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Файл сохранён как %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

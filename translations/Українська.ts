@@ -155,6 +155,18 @@
         <source>Failed to load settings from file: </source>
         <translation>Не вдалося завантажити налаштування з файлу: </translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Не вдається відкрити файл</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>не об&apos;єкт JSON</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>Файл збережено як %1.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

@@ -154,6 +154,18 @@
         <source>Failed to load settings from file: </source>
         <translation>无法从文件加载设置：</translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>不是 JSON 对象</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>文件已保留为 %1。</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

@@ -154,6 +154,18 @@
         <source>Failed to load settings from file: </source>
         <translation>設定を読み込めませんでした。ファイル：</translation>
     </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>ファイルを開けません</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>JSON オブジェクトではありません</translation>
+    </message>
+    <message>
+        <source>The file is kept as %1.</source>
+        <translation>ファイルは %1 として残してあります。</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>

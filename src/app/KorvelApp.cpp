@@ -4,6 +4,7 @@
 #include "about/SocialLinksWidget.h"
 #include "app/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
+#include "base/JsonFile.h"
 #include "base/ProductInfo.h"
 #include "fuses/Fuses.h"
 #include "mcu/Program.h"
@@ -13,18 +14,33 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <QScrollArea>
 
 namespace {
 
-void warnAboutSettings(const QString& text)
-{
 constexpr QSize smallestSize(320, 240); // pixels; what does not fit is scrolled
 
+void warnAboutSettings(const QString& text)
+{
     QMessageBox::warning(QApplication::activeWindow(), ProductInfo::name, text + ProductInfo::settingsFile);
+}
+
+/// Gives the file at @p path the first name that is still free, and returns that; empty when it has to stay.
+QString setAside(const QString& path)
+{
+    const QFileInfo info(path);
+    for (int number = 1; info.isFile(); ++number) {
+        const QString name = QStringLiteral("%1.damaged-%2.%3").arg(info.baseName()).arg(number).arg(info.suffix());
+        if (QFile::rename(path, name)) // never onto another file
+            return name;
+        if (!QFileInfo(name).isSymLink() && !QFile::exists(name))
+            break;
+    }
+    return {};
 }
 
 } // namespace
@@ -51,6 +67,11 @@ KorvelApp::KorvelApp(QWidget* parent)
     layout->addWidget(m_tabs);
     layout->addWidget(m_settings);
     layout->addWidget(m_log);
+    m_central->setFrameShape(QFrame::NoFrame);
+    m_central->setFocusPolicy(Qt::NoFocus);
+    m_central->setWidgetResizable(true);
+    m_central->setMinimumSize(smallestSize);
+    m_central->setWidget(m_content);
     setCentralWidget(m_central);
 
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
@@ -67,11 +88,6 @@ KorvelApp::KorvelApp(QWidget* parent)
 
 void KorvelApp::saveSettings()
 {
-    m_central->setFrameShape(QFrame::NoFrame);
-    m_central->setFocusPolicy(Qt::NoFocus);
-    m_central->setWidgetResizable(true);
-    m_central->setMinimumSize(smallestSize);
-    m_central->setWidget(m_content);
     if (!m_avrdude->settings().saveToFile(ProductInfo::settingsFile))
         warnAboutSettings(tr("Failed to save settings to file: "));
 }
@@ -82,8 +98,23 @@ bool KorvelApp::loadSettings()
         return false;
     if (m_avrdude->settings().loadFromFile(ProductInfo::settingsFile))
         return true;
-    warnAboutSettings(tr("Failed to load settings from file: "));
+    const QString failed = tr("Failed to load settings from file: ");
+    // Before the box, and before the closing writes these settings over those of the user.
+    const JsonFile file = JsonFile::read(ProductInfo::settingsFile);
+    const QString fault = !file.wasRead()       ? tr("Cannot open file")
+        : file.state == JsonFile::State::Parsed ? tr("no JSON object")
+                                                : file.error;
+    const QString kept = setAside(ProductInfo::settingsFile);
+    m_avrdude->appendToLog(failed + ProductInfo::settingsFile + QLatin1String(" (") + fault + QLatin1Char(')'));
+    if (!kept.isEmpty())
+        m_avrdude->appendToLog(tr("The file is kept as %1.").arg(fullPath(kept)));
+    warnAboutSettings(failed);
     return false;
+}
+
+QSize KorvelApp::sizeHint() const
+{
+    return m_content->minimumSizeHint();
 }
 
 void KorvelApp::refreshPanels()
@@ -112,10 +143,5 @@ void KorvelApp::showRunning(bool isRunning)
 void KorvelApp::closeEvent(QCloseEvent* event)
 {
     saveSettings();
-QSize KorvelApp::sizeHint() const
-{
-    return m_content->minimumSizeHint();
-}
-
     event->accept();
 }

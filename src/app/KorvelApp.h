@@ -24,7 +24,7 @@ public:
     void saveSettings();
 
     /// Reads the settings file into the record. Returns false when there is none (silently: a first start) or when it
-    /// cannot be used (a box says so).
+    /// cannot be used: a box says so, and the log why, and under which other name the file is kept.
     bool loadSettings();
 
     /// The size at which nothing needs to be scrolled.
