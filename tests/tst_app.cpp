@@ -108,8 +108,7 @@ private slots:
         const QString empty = "Nothing found in the folder mcu.\nNothing found in the folder programmer.\n";
         const QString kept = failed.mid(8) + " (%2)\nThe file is kept as save.damaged-%1.json.\n";
         QCOMPARE(log,
-                 empty + kept.arg(1).arg("illegal value") + empty + kept.arg(2).arg("no JSON object") + empty
-                     + empty);
+                 empty + kept.arg(1).arg("illegal value") + empty + kept.arg(2).arg("no JSON object") + empty + empty);
         // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
         for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
             QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(full)[key]);

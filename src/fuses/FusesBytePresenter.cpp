@@ -43,13 +43,12 @@ FusesBytePresenter::FusesBytePresenter(FusesByteView& view, FusesByteModel& mode
 {
     connect(&view, &FusesByteView::bitChanged, this, &FusesBytePresenter::onBitChanged);
     connect(view.value(), &HexField::left, this, &FusesBytePresenter::showValue);
-    setModel();
+    setModel(model.byte());
     view.value()->installEventFilter(this);
 }
 
-void FusesBytePresenter::setModel()
+void FusesBytePresenter::setModel(const FuseByte& byte)
 {
-    const FuseByte& byte = m_model.byte();
     m_view.setTitle(QStringLiteral("%1 ( %2 )").arg(byte.name, byte.id));
     setByte(byte.currentValue);
 }

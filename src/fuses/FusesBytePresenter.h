@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/FuseByte.h"
+
 #include <QObject>
 #include <QVector>
 
@@ -16,6 +18,9 @@ class FusesBytePresenter : public QObject
 public:
     FusesBytePresenter(FusesByteView& view, FusesByteModel& model, QObject* parent = nullptr);
 
+    /// Shows the record @p byte, which is the model's: its name, its identifier and its bits.
+    void setModel(const FuseByte& byte);
+
     /// Puts @p value into the byte as far as its bits may be changed, and shows the result.
     void setByte(quint32 value);
 
@@ -23,7 +28,6 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void setModel();
     void showBits();
     void showValue();
     void onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox);

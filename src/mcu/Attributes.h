@@ -33,9 +33,10 @@ public:
     /// Takes the file of a reading over into the field and the record, and tells so. Without a file both stay as they
     /// are.
     void readFileCallByte();
-    void showCalibration(const QString& text);
 
 private:
+    void showCalibration(const QString& text);
+
     Avrdude& m_avrdude;
     AttributesView& m_view;
     ReadFile m_readFile;
