@@ -66,6 +66,9 @@ private slots:
             QInputMethodEvent composed;
             composed.setCommitString("c");
             QCoreApplication::sendEvent(editor->value(), &composed);
+            QTest::mouseClick(editor->value(), Qt::LeftButton);
+            QCOMPARE(editor->value()->selectedText().size(), 2);
+            QTest::keyClick(editor->value(), Qt::Key_Delete);
             QFocusEvent leaving(QEvent::FocusOut);
             QCoreApplication::sendEvent(editor->value(), &leaving);
             QCOMPARE(editor->value()->text(),

@@ -91,8 +91,9 @@ private slots:
         dragged.setUrls({QUrl::fromLocalFile(app.filePath())});
         QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(panels.flashView.writePath(), &enter);
-        QDropEvent drop(QPointF(3, 3), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPointF(3, 3), Qt::MoveAction | Qt::CopyAction, &dragged, Qt::LeftButton, Qt::ShiftModifier);
         QCoreApplication::sendEvent(panels.flashView.writePath(), &drop);
+        QCOMPARE(drop.dropAction(), Qt::CopyAction); // the file stays where it is
         QCOMPARE(panels.settings.flashWrite, app.fileName());
         panels.flashView.writePath()->clear();
         QApplication::clipboard()->setText("  /my fw/a.hex \n");

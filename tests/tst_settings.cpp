@@ -57,7 +57,7 @@ private slots:
         QCOMPARE(list.currentText(), QString("first"));
         // Typed at the closed list, at the open one, or found nowhere; the exact name, a part of one, or given up.
         for (const QString row : {"|ATmega16|ATmega16", "open|328p|ATmega328P", "|mega|ATmega1608", "|a~|ATmega1608",
-                                  "open|1~|ATmega1608", "|xyz~|ATmega1608", "open|first|first"}) {
+                                  "open|1~|ATmega1608", "|xyz~|ATmega1608", "|3<|ATmega1608", "open|first|first"}) {
             const QStringList parts = row.split('|');
             list.setFocus();
             QWidget* target = &list;
@@ -66,13 +66,17 @@ private slots:
                 target = list.view();
             }
             for (const QChar key : parts[1]) {
-                if (key != '~')
+                if (key == '<')
+                    QTest::keyClick(target, Qt::Key_Backspace);
+                else if (key != '~')
                     QTest::keyClick(target, key.toLatin1());
                 target = list.findChild<QLineEdit*>();
             }
             QTest::keyClick(target, parts[1].endsWith('~') ? Qt::Key_Escape : Qt::Key_Return);
             QCOMPARE(row + list.currentText(), row + parts[2]);
         }
+        QTest::keyClick(&list, Qt::Key_A, Qt::AltModifier);
+        QCOMPARE(list.currentText(), QString("first"));
         QCOMPARE(picked, QStringList({"ATmega16", "ATmega328P", "ATmega1608", "first"}));
     }
 

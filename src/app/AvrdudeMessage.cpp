@@ -2,9 +2,9 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QFontMetricsF>
 #include <QScrollBar>
 #include <QStyle>
-#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -27,7 +27,7 @@ QFont outputFont(int width)
     constexpr qreal smallest = 5.5;
     qreal size = QFontInfo(font).pointSizeF();
     font.setPointSizeF(size);
-    while (size > smallest && QFontMetricsF(font).horizontalAdvance(QLatin1Char('#')) * progressLength > width)
+    while (size > smallest && QFontMetricsF(font).horizontalAdvance(QString(progressLength, QLatin1Char('#'))) > width)
         font.setPointSizeF(size -= step);
     return font;
 }

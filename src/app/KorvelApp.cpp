@@ -34,7 +34,7 @@ QString setAside(const QString& path)
 {
     const QFileInfo info(path);
     for (int number = 1; info.isFile(); ++number) {
-        const QString name = QStringLiteral("%1.damaged-%2.%3").arg(info.baseName()).arg(number).arg(info.suffix());
+        QString name = QStringLiteral("%1.damaged-%2.%3").arg(info.baseName()).arg(number).arg(info.suffix());
         if (QFile::rename(path, name)) // never onto another file
             return name;
         if (!QFileInfo(name).isSymLink() && !QFile::exists(name))

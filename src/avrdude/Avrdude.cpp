@@ -58,7 +58,6 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
 
     m_process = new QProcess(this);
     m_killedOnError = false;
-    m_output.clear();
     m_errorDecoder.reset();
     m_outputDecoder.reset();
 
@@ -78,8 +77,9 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     emit runningChanged(true);
     m_log->clear();
     m_process->start(program, allArguments);
-    m_log->appendPlainText(ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ')
-                           + allArguments.join(QLatin1Char(' ')) + QLatin1Char('\n'));
+    m_output = ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ')
+        + allArguments.join(QLatin1Char(' ')) + QLatin1Char('\n');
+    m_log->appendPlainText(m_output);
     if (!m_process->waitForStarted(startTimeout)) {
         // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart.
         m_log->appendPlainText(tr("avrdude not found") + m_process->errorString());
@@ -152,10 +152,9 @@ void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callbac
     // A run that we ended has had its box, even if avrdude was quicker than the kill and exited by itself.
     if (status == QProcess::CrashExit || m_killedOnError)
         return;
-    // What counts is what avrdude said; its exit code only lends weight to some of its words. The raw text differs from
-    // the plain one in line breaks and fixed blanks only, which no fragment of the first table holds, and costs far
-    // less to get from a log of megabytes.
-    if (m_messages.checkOutput(m_log->document()->toRawText()))
+    // What counts is what avrdude said; its exit code only lends weight to some of its words. The log's own text has
+    // line breaks that avrdude did not print, and what the user clicked into.
+    if (m_messages.checkOutput(m_output))
         return;
     if (exitCode != 0 && m_messages.checkFailedRun(m_output))
         return;

@@ -76,7 +76,7 @@ private:
     SettingsRecord m_settings;
     Message m_messages;
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
-    QString m_output; ///< of the current run, as it came; the log may hold it in pieces, where the user clicked into it
+    QString m_output; ///< the current run's command line and output as it came; the log may hold them in pieces
     Toolkit::Utf8Decoder m_errorDecoder; ///< one a channel, begun anew with each run
     Toolkit::Utf8Decoder m_outputDecoder;
 };

@@ -1,20 +1,28 @@
 #include "base/ListComboBox.h"
 
+#include "base/BoxText.h"
+
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QStylePainter>
 #include <QWheelEvent>
 
 namespace {
 
+bool hasPrintableText(const QKeyEvent& event)
+{
+    const QString text = event.text();
+    return !text.isEmpty() && text.at(0).isPrint() && !text.at(0).isSpace();
+}
+
 bool beginsSearch(const QKeyEvent& event)
 {
-    const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    return others == Qt::NoModifier && !event.text().isEmpty() && event.text().at(0).isLetterOrNumber();
+    return hasPrintableText(event) && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
 bool wouldChoose(int key)
@@ -39,7 +47,7 @@ ListComboBox::ListComboBox(Width width, QWidget* parent)
 bool ListComboBox::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(currentText());
+        setToolTip(boxText(currentText()));
     return QComboBox::event(event);
 }
 
@@ -47,6 +55,9 @@ bool ListComboBox::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() == QEvent::FocusOut && object == m_search && !m_completer->popup()->isVisible())
         endSearch();
+    if (event->type() == QEvent::MouseButtonPress && object != m_search && object != view()
+        && !m_completer->popup()->rect().contains(static_cast<QMouseEvent*>(event)->pos()))
+        endSearch(); // a click somewhere else
     if (event->type() != QEvent::KeyPress)
         return QComboBox::eventFilter(object, event);
 
@@ -55,8 +66,13 @@ bool ListComboBox::eventFilter(QObject* object, QEvent* event)
         startSearch(key);
         return true;
     }
-    if (object != view() && key->key() == Qt::Key_Escape) {
+    if (object == view())
+        return QComboBox::eventFilter(object, event);
+    const bool isBack = key->key() == Qt::Key_Backtab;
+    if (key->key() == Qt::Key_Escape || key->key() == Qt::Key_Tab || isBack) {
         endSearch();
+        if (key->key() != Qt::Key_Escape)
+            focusNextPrevChild(!isBack);
         return true;
     }
     return QComboBox::eventFilter(object, event);
@@ -75,6 +91,8 @@ void ListComboBox::keyPressEvent(QKeyEvent* event)
         startSearch(event);
     else if (wouldChoose(event->key()))
         showPopup();
+    else if (hasPrintableText(*event))
+        event->ignore(); // a shortcut of somebody else's: the toolkit would pick by it
     else
         QComboBox::keyPressEvent(event);
 }
@@ -110,6 +128,8 @@ int ListComboBox::listWidth() const
 void ListComboBox::makeSearch()
 {
     m_search = new QLineEdit(this);
+    m_search->setContextMenuPolicy(Qt::NoContextMenu);
+    m_search->setAccessibleName(accessibleName());
     m_search->installEventFilter(this);
     m_completer = new QCompleter(model(), this);
     m_completer->setFilterMode(Qt::MatchContains);
@@ -124,6 +144,8 @@ void ListComboBox::makeSearch()
 
 void ListComboBox::startSearch(QKeyEvent* firstKey)
 {
+    if (count() == 0)
+        return;
     if (!m_search)
         makeSearch();
     hidePopup();
@@ -146,6 +168,8 @@ void ListComboBox::endSearch()
 void ListComboBox::pickFound()
 {
     const QString typed = m_search->text();
+    if (typed.isEmpty())
+        return;
     int index = findText(typed);
     if (index < 0)
         index = findText(typed, Qt::MatchFixedString); // in whatever case
@@ -159,7 +183,8 @@ void ListComboBox::pick(int index)
     if (index < 0 || m_search->isHidden())
         return;
     endSearch();
+    const QString name = itemText(index);
     setCurrentIndex(index);
     emit activated(index);
-    emit textActivated(itemText(index));
+    emit textActivated(name);
 }

@@ -25,7 +25,7 @@ signals:
     /// The user changed a check box of @p fusesBit.
     void bitChanged(QVector<QCheckBox*> fusesBit, QCheckBox* checkBox);
 
-    /// The value shown changed.
+    /// The value was shown anew.
     void byteChanged(quint32 byte);
 
 private:

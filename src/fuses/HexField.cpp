@@ -22,7 +22,7 @@ void HexField::focusOutEvent(QFocusEvent* event)
 
 void HexField::inputMethodEvent(QInputMethodEvent* event)
 {
-    const QString text = event->commitString().toUpper();
+    const QString text = event->commitString().normalized(QString::NormalizationForm_KC).toUpper();
     for (const QChar digit : text) {
         QKeyEvent key(QEvent::KeyPress, digit.unicode(), Qt::NoModifier, digit);
         QCoreApplication::sendEvent(this, &key);

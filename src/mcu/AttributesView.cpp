@@ -31,7 +31,9 @@ AttributesView::AttributesView(QWidget* parent)
     auto* label = new QLabel(QStringLiteral("HEX"), this);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new RowBox(tr("MCU"), {m_mcuList, m_erase}, this), 1);
+    auto* mcu = new RowBox(tr("MCU"), {m_mcuList, m_erase}, this);
+    mcu->row()->setStretchFactor(m_mcuList, 1);
+    layout->addWidget(mcu, 1);
     layout->addWidget(new RowBox(tr("Calibration Byte"), {m_read, label, m_calibrationByte}, this));
 }
 

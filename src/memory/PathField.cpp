@@ -1,7 +1,8 @@
 #include "memory/PathField.h"
 
+#include "base/BoxText.h"
+
 #include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QDropEvent>
@@ -21,10 +22,17 @@ QDir applicationFolder()
     return QDir(QCoreApplication::applicationDirPath());
 }
 
-/// The first file of what is dragged; empty when there is none on this machine.
-QString draggedFile(const QDropEvent& event)
+/// The file that is dragged or was copied first; empty when that is none on this machine.
+QString fileIn(const QMimeData& data)
 {
-    return event.mimeData()->urls().value(0).toLocalFile();
+    return data.urls().value(0).toLocalFile();
+}
+
+/// Takes the file and leaves it where it is: who drags it may offer to move it.
+void acceptCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
 }
 
 } // namespace
@@ -50,69 +58,76 @@ void PathField::setFile(const QString& chosen)
 bool PathField::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(text().isEmpty() ? QString() : QDir::current().absoluteFilePath(text()));
+        setToolTip(text().isEmpty() ? QString() : boxText(QDir::current().absoluteFilePath(text())));
     return QLineEdit::event(event);
 }
 
 void PathField::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-        paste->disconnect(this);
-        connect(paste, &QAction::triggered, this, [this] { insertPath(QApplication::clipboard()->text()); });
+    const auto actions = menu->actions();
+    for (QAction* action : actions) {
+        if (!action->text().startsWith(QLineEdit::tr("&Paste")))
+            continue;
+        action->disconnect(this);
+        connect(action, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
     }
     menu->exec(event->globalPos());
 }
 
 void PathField::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (draggedFile(*event).isEmpty())
+    if (fileIn(*event->mimeData()).isEmpty())
         QLineEdit::dragEnterEvent(event);
     else
-        event->acceptProposedAction();
+        acceptCopy(*event);
 }
 
 void PathField::dragMoveEvent(QDragMoveEvent* event)
 {
-    if (draggedFile(*event).isEmpty())
+    if (fileIn(*event->mimeData()).isEmpty())
         QLineEdit::dragMoveEvent(event);
     else
-        event->acceptProposedAction();
+        acceptCopy(*event);
 }
 
 void PathField::dropEvent(QDropEvent* event)
 {
-    const QString file = draggedFile(*event);
+    const QString file = fileIn(*event->mimeData());
     if (file.isEmpty()) {
         QLineEdit::dropEvent(event);
         return;
     }
     setFile(file);
-    event->acceptProposedAction();
+    acceptCopy(*event);
 }
 
 void PathField::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Paste))
-        insertPath(QApplication::clipboard()->text());
+        pasteFrom(QClipboard::Clipboard);
     else
         QLineEdit::keyPressEvent(event);
 }
 
 void PathField::mouseReleaseEvent(QMouseEvent* event)
 {
-    const QClipboard* clipboard = QApplication::clipboard();
-    if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection()) {
+    if (event->button() == Qt::MiddleButton && QApplication::clipboard()->supportsSelection())
+        pasteFrom(QClipboard::Selection);
+    else
         QLineEdit::mouseReleaseEvent(event);
-        return;
-    }
-    deselect();
-    setCursorPosition(cursorPositionAt(event->pos()));
-    insertPath(clipboard->text(QClipboard::Selection));
 }
 
-void PathField::insertPath(QString text)
+void PathField::pasteFrom(QClipboard::Mode mode)
 {
+    const QMimeData* copied = QApplication::clipboard()->mimeData(mode);
+    if (!copied)
+        return;
+    const QString file = fileIn(*copied);
+    if (!file.isEmpty()) {
+        setFile(file);
+        return;
+    }
     // A path copied from a terminal or a list comes with a line break and blanks that are none of it.
-    insert(text.remove(QLatin1Char('\n')).remove(QLatin1Char('\r')).trimmed());
+    insert(copied->text().remove(QLatin1Char('\n')).remove(QLatin1Char('\r')).trimmed());
 }

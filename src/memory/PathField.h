@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QClipboard>
 #include <QLineEdit>
 
 /// A field for the path of a file: typed, pasted, dropped, or chosen in a dialog. Shows the whole path as its tooltip.
@@ -29,5 +30,5 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void insertPath(QString text);
+    void pasteFrom(QClipboard::Mode mode);
 };

@@ -30,6 +30,9 @@ SettingsView::SettingsView(QWidget* parent)
         layout->addWidget(box, stretch);
     };
     addBox(tr("Programmer"), {m_programmer}, 1);
-    addBox(tr("Port && Speed ( New MCU -> 185kHz )"), {m_port, m_speed}, 0);
+    const QString connection = tr("Port && Speed ( New MCU -> 185kHz )");
+    addBox(connection, {m_port, m_speed}, 0);
+    m_port->setAccessibleName(connection.section(QLatin1String("&&"), 0, 0).trimmed());
+    m_speed->setAccessibleName(connection.section(QLatin1String("&&"), 1).trimmed());
     addBox(tr("Language"), {m_language}, 0);
 }
