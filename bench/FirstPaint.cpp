@@ -15,8 +15,10 @@ class FirstPaint : public QObject
 public:
     bool eventFilter(QObject* object, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint && qobject_cast<QMainWindow*>(object))
-            // The window's children are painted in the same go, before the event loop turns.
+        // Of the window itself nothing may be left to paint between its children. All of them are painted in the same
+        // go, before the event loop turns.
+        const auto* widget = event->type() == QEvent::Paint ? qobject_cast<QWidget*>(object) : nullptr;
+        if (widget && qobject_cast<QMainWindow*>(widget->window()))
             QMetaObject::invokeMethod(qApp, report, Qt::QueuedConnection);
         return false;
     }
