@@ -13,11 +13,11 @@ class Message : public QObject
 public:
     Message();
 
-    /// Looks for the first known error in @p text, the whole log of a run. When there is one, shows its message in a
-    /// box and returns true; returns false when the text is clean.
+    /// Looks for the first known error in @p text, a run's command line and output. When there is one, shows its
+    /// message in a box and returns true; returns false when the text is clean.
     [[nodiscard]] bool checkOutput(const QString& text) const;
 
-    /// The same for a run that ended with another exit code than 0 and whose log checkOutput() found clean: looks in
+    /// The same for a run that ended with another exit code than 0 and whose text checkOutput() found clean: looks in
     /// @p output, what avrdude printed in that run, for the words of versions that the first table does not know.
     [[nodiscard]] bool checkFailedRun(const QString& output) const;
 
