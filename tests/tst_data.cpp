@@ -25,43 +25,20 @@ QVector<QStringList> avrdudeTable(const QString& option)
     return lines;
 }
 
-/// An AVR microcontroller as avrdude knows it.
+/// An AVR microcontroller as the table of facts has it.
 struct Part {
-    QJsonObject facts; ///< identifier, signature ("1E 94 03") and sizes of flash and EEPROM, by the keys of our files
+    QJsonObject facts; ///< by the keys of our files, without the bytes
     bool isSerial = false; ///< can be programmed over SPI
-    QStringList bytes; ///< fuse and lock memories of one byte, without those that are left out
+    QStringList bytes; ///< in the order of the files: "lfuse=E1/FF", factory value and which bits exist
 };
-
-/// The bytes that avrdude names and the files leave out; docs/devices.md tells why.
-const QRegularExpression leftOut("^(ATtiny(4|5|9|10)|ATmega406) lockbits$|^ATtiny(11|12|15|28) lock$"
-                                 "|^(AVR\\w+|ATmega\\d+0[89]|ATtiny\\d+[02]\\d) fuse4$"
-                                 "|^ATxmega(64|128)A1(revD)? fuse[25]$|^ATxmega(16|32)A4 fuse0$");
 
 /// How the bytes are called: microcontroller, identifier, name.
 const QRegularExpression titles(
-    "^(\\w+ (lfuse Low Fuse|hfuse High Fuse|efuse Extended Fuse|fuse Fuse|lock Lock Bits)"
-    "|ATxmega\\w+ fuse(\\d) Fuse \\3 FUSEBYTE\\3"
+    "^(\\w+ (lfuse Low Fuse|hfuse High Fuse|efuse Extended Fuse|fuse Fuse|lock(bits)? Lock Bits)"
+    "|ATxmega\\w+ fuse(\\d) Fuse \\4 FUSEBYTE\\4"
     "|(ATmega|ATtiny|AVR)\\w+ fuse(0 Fuse 0 WDTCFG|1 Fuse 1 BODCFG|2 Fuse 2 OSCCFG|5 Fuse 5 SYSCFG0|6 Fuse 6 SYSCFG1)"
     "|(ATmega|ATtiny)\\w+ fuse(4 Fuse 4 TCD0CFG|7 Fuse 7 APPEND|8 Fuse 8 BOOTEND)"
     "|AVR\\w+ fuse(7 Fuse 7 CODESIZE|8 Fuse 8 BOOTSIZE))$");
-
-/// What the vendor delivers, from the datasheets: the bytes in the order of the files. ATmega32U4 as the RC order codes
-/// have it; the others come with 5E.
-const QString factoryBytes =
-    "AT90CAN128 ATmega1284P ATmega162 ATmega164P ATmega169P ATmega2560 ATmega644P: 62 99 FF FF; "
-    "AT90PWM3B ATmega168 ATmega88PA: 62 DF F9 FF; AT90USB1287: 5E 99 F3 FF; AT90USB162 ATmega32U2: 5E D9 F4 FF; "
-    "ATmega128 ATmega64: E1 99 FD FF; ATmega16 ATmega32: E1 99 FF; ATmega328P: 62 D9 FF FF; "
-    "ATmega328PB: 62 D9 F7 FF; ATmega32U4: 52 99 FB FF; "
-    "ATmega48 ATtiny1634 ATtiny24A ATtiny44 ATtiny45 ATtiny84 ATtiny85 ATtiny861: 62 DF FF FF; "
-    "ATmega4809: 00 00 02 C4 07 00 00 C5; ATmega8 ATmega8515 ATmega8535: E1 D9 FF; ATtiny10: FF; "
-    "ATtiny13A: 6A FF FF; ATtiny1614 ATtiny412: 00 00 02 00 C4 07 00 00 C5; ATtiny2313: 64 DF FF FF; "
-    "ATtiny26: E1 F7 FF; ATtiny88: 6E DF FF FF; ATxmega128A1U: FF 00 FF FE FF FF; "
-    "AVR128DA28: 00 00 00 C0 00 00 00; AVR128DB48: 00 00 00 C0 08 00 00; AVR64DD32: 00 00 00 D0 08 00 00";
-
-/// Different parts with one signature: one die, some with fewer pins or without USB host, and in the last pair given
-/// twice, to parts that no one programmer interface reaches. Besides these, revisions of one part share it.
-const QStringList sameSignature {"AT90PWM2 AT90PWM3",     "AT90PWM2B AT90PWM3B",     "AT90PWM216 AT90PWM316",
-                                 "AT90USB646 AT90USB647", "AT90USB1286 AT90USB1287", "ATmega4809 ATxmega64B3"};
 
 } // namespace
 
@@ -73,27 +50,29 @@ private slots:
     void initTestCase()
     {
         QVERIFY(QDir::setCurrent(DATA_FOLDER));
-        const QRegularExpression avr("^(AT(mega|tiny|xmega|90)|AVR)\\w+$");
-        const QRegularExpression isSize("^(flash|eeprom) size ");
-        const QRegularExpression wanted("^(.?fuse\\d?|lock(bits)?) size 1$");
-        for (const QStringList& cells : avrdudeTable("-p")) {
-            if (cells.size() < 4 || !avr.match(cells[1]).hasMatch())
+        QFile table(DATA_FOLDER "/../tests/data/parts.txt");
+        QVERIFY(table.open(QIODevice::ReadOnly));
+        for (const QString& line : QString::fromUtf8(table.readAll()).split('\n')) {
+            const QStringList cells = line.split(' ');
+            if (cells.size() < 6 || line.startsWith('#'))
                 continue;
-            Part& part = m_parts[cells[1]];
-            const QString kind = cells[0] + ' ' + cells[2];
-            if (kind == ".pt id")
-                part.facts["id"] = QString(cells[3]).remove('"');
-            else if (kind == ".pt signature")
-                part.facts["signature"] = QString(cells[3]).remove("0x").toUpper();
-            else if (isSize.match(cells.mid(2).join(' ')).hasMatch() && cells[1] + cells[2] != "ATtiny11eeprom")
-                part.facts[cells[2]] = cells[4].toInt(nullptr, 0); // ATtiny11 has no EEPROM; avrdude 8 knows
-            else if (kind == ".pt prog_modes")
-                part.isSerial = cells[3].contains("PM_ISP");
-            else if (wanted.match(cells.mid(2).join(' ')).hasMatch()
-                     && !leftOut.match(cells[1] + ' ' + cells[2]).hasMatch())
-                part.bytes += cells[2];
+            const QString signature = QString(cells[2]).insert(4, ' ').insert(2, ' ');
+            Part& part = m_parts[cells[0]];
+            part.facts = {{"mcu", cells[0]}, {"id", cells[1]}, {"signature", signature}, {"flash", cells[3].toInt()}};
+            if (cells[4] != "-")
+                part.facts["eeprom"] = cells[4].toInt();
+            part.isSerial = cells[5].contains("ISP");
+            for (QString byte : cells.mid(6))
+                if (!byte.startsWith('(')) // left out
+                    part.bytes += byte.remove('*') + (byte.contains('/') ? "" : "/FF");
         }
-        QVERIFY(m_parts.contains("ATmega16"));
+        for (const QStringList& cells : avrdudeTable("-p")) {
+            if (cells.size() > 3 && cells[0] + cells[2] == ".ptid")
+                m_installed[cells[1]] += QString(cells[3]).remove('"'); // comes first
+            else if (cells.size() > 4 && cells[3] == "size" && cells[4] == "1")
+                m_installed[cells[1]] += cells[2];
+        }
+        QVERIFY(m_parts.contains("ATmega16") && m_installed["ATmega16"].contains("lfuse"));
     }
 
     void everyFileIsAnObjectWithOneDotInItsName()
@@ -104,49 +83,30 @@ private slots:
         }
     }
 
-    void descriptionsAgreeWithAvrdude()
+    void descriptionsAgreeWithFacts()
     {
         for (const QString& name : jsonBaseNames("mcu")) {
             QJsonObject description = JsonFile::read("mcu/" + name + ".json").document.object();
             Part part = m_parts.value(name);
-            QStringList ids;
             for (const QJsonValue& byte : description.take("FuseBytes").toArray()) {
-                ids += byte["id"].toString();
-                const QString title = name + ' ' + ids.last() + ' ' + byte["name"].toString();
+                const QString title = name + ' ' + byte["id"].toString() + ' ' + byte["name"].toString();
                 QVERIFY2(titles.match(title).hasMatch(), qPrintable(title));
                 QVERIFY2(byte["bits"] == wellFormed(byte["bits"].toArray(), part.isSerial), qPrintable(title));
             }
-            if (part.bytes.removeOne("lock"))
-                part.bytes += "lock"; // comes last in the files
-            QCOMPARE(name + ' ' + ids.join(' '), name + ' ' + part.bytes.join(' '));
-            part.facts["mcu"] = name;
-            QCOMPARE(description, part.facts);
-        }
-    }
-
-    void factoryValues()
-    {
-        for (const QString& group : factoryBytes.split("; "))
-            for (const QString& name : group.section(": ", 0, 0).split(' ')) {
-                QByteArray bytes;
-                for (const FuseByte& byte : load(name))
-                    bytes += static_cast<char>(byte.defaultValue);
-                QCOMPARE(name + ": " + bytes.toHex(' ').toUpper(), name + ": " + group.section(": ", 1));
+            const QStringList installed = m_installed.value(name);
+            QStringList bytes;
+            for (const FuseByte& byte : load(name)) {
+                unsigned existing = 0;
+                for (const FuseBit& bit : byte.fuseBits)
+                    existing |= bit.name == "NOT USED" ? 0 : 1U << bit.bitNumber;
+                bytes += QString::asprintf("%s=%02X/%02X", qPrintable(byte.id), byte.defaultValue, existing);
+                QVERIFY2(installed.isEmpty() || installed.contains(byte.id), qPrintable(name + ' ' + byte.id));
             }
-    }
-
-    void signaturesAreSharedForAReason()
-    {
-        static const QRegularExpression revision("(P|P?A|[RU])$");
-        QHash<QString, QStringList> owners;
-        for (const QString& name : jsonBaseNames("mcu"))
-            owners[JsonFile::read("mcu/" + name + ".json").document["signature"].toString()] += name;
-        for (QStringList& names : owners) {
-            names.sort();
-            QSet<QString> bare;
-            for (QString name : names)
-                bare += name.remove(revision);
-            QVERIFY2(bare.size() == 1 || sameSignature.contains(names.join(' ')), qPrintable(names.join(' ')));
+            QCOMPARE(name + ' ' + bytes.join(' '), name + ' ' + part.bytes.join(' '));
+            if (installed.contains(name.toLower())) // newer ones know the part by its name too
+                part.facts["id"] = name.toLower();
+            QVERIFY2(description == part.facts, qPrintable(name));
+            QVERIFY2(installed.isEmpty() || installed.first() == description["id"].toString(), qPrintable(name));
         }
     }
 
@@ -161,9 +121,11 @@ private slots:
             const QJsonObject programmer = JsonFile::read("programmer/" + name + ".json").document.object();
             const QString id = programmer["id"].toString();
             const QString arguments = programmer["arguments"].toString();
-            const QJsonObject expected {
-                {"id", id}, {"arguments", arguments}, {"port", arguments.contains("-P ") ? "usb" : ports.value(id)}};
-            QVERIFY2(programmer == expected && ports.contains(id), qPrintable(name));
+            const QString newer = QString("| %1 | `%2` | %3 |").arg(name, id, programmer["port"].toString());
+            QVERIFY2(ports.contains(id) != devices("What needs avrdude 8").contains(newer), qPrintable(newer));
+            const QString port = arguments.contains("-P ") ? "usb" : ports.value(id, programmer["port"].toString());
+            const QJsonObject expected {{"id", id}, {"arguments", arguments}, {"port", port}};
+            QVERIFY2(programmer == expected, qPrintable(name));
             QVERIFY2(!offered.contains(id + ' ' + arguments), qPrintable(name + " is there twice"));
             offered << id << id + ' ' + arguments;
         }
@@ -185,25 +147,32 @@ private slots:
             SettingsRecord sample;
             QVERIFY2(sample.loadFromFile(file.filePath()), qPrintable(file.filePath()));
             QCOMPARE(text(sample.mcuId, sample.fusesBytes),
-                     text(m_parts.value(sample.mcuName).facts["id"].toString(), load(sample.mcuName)));
+                     text(JsonFile::read("mcu/" + sample.mcuName + ".json").document["id"].toString(),
+                          load(sample.mcuName)));
         }
     }
 
-    void theListOfDevicesTellsWhatIsMissing()
+    void theListOfDevicesIsTrue()
     {
-        const QString told = devices("Microcontrollers that do not ship");
+        const QString missing = devices("Microcontrollers that do not ship");
+        const QString newer = devices("What needs avrdude 8");
         const QStringList ships = jsonBaseNames("mcu");
-        for (const QString& name : m_parts.keys())
-            QVERIFY2(ships.contains(name) != told.contains(QRegularExpression("\\b" + name + "\\b")), qPrintable(name));
+        for (const QString& name : m_parts.keys()) {
+            const QRegularExpression word("\\b" + name + "\\b");
+            QVERIFY2(ships.contains(name) != missing.contains(word), qPrintable(name));
+            QVERIFY2(newer.contains(word) == (ships.contains(name) && !m_installed.contains(name)), qPrintable(name));
+        }
+        const QString counts = "descriptions of %1 microcontrollers (`data/mcu`) and entries for %2 programmers";
+        QVERIFY(devices().contains(counts.arg(ships.size()).arg(jsonBaseNames("programmer").size())));
     }
 
 private:
-    /// A section of the list of devices.
-    static QString devices(const QString& title)
+    /// A section of the list of devices, or what stands above the first.
+    static QString devices(const QString& title = {})
     {
         QFile file(DATA_FOLDER "/../docs/devices.md");
         const QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-        return text.section("## " + title, 1).section("\n## ", 0, 0);
+        return (title.isEmpty() ? text : text.section("\n## " + title, 1)).section("\n## ", 0, 0);
     }
 
     /// What the program makes of a description that ships.
@@ -232,6 +201,7 @@ private:
     }
 
     QHash<QString, Part> m_parts;
+    QHash<QString, QStringList> m_installed; ///< of each part that avrdude knows: identifier, memories of one byte
 };
 
 QTEST_MAIN(tst_Data)
