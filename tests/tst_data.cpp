@@ -1,6 +1,7 @@
 #include "app/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
+#include "fuses/FuseMeanings.h"
 #include "mcu/BytesModel.h"
 #include "support/BoxAnswerer.h"
 
@@ -98,7 +99,7 @@ private slots:
             for (const FuseByte& byte : load(name)) {
                 unsigned existing = 0;
                 for (const FuseBit& bit : byte.fuseBits)
-                    existing |= bit.name == "NOT USED" ? 0 : 1U << bit.bitNumber;
+                    existing |= bit.isUsed() ? 1U << bit.bitNumber : 0;
                 bytes += QString::asprintf("%s=%02X/%02X", qPrintable(byte.id), byte.defaultValue, existing);
                 QVERIFY2(installed.isEmpty() || installed.contains(byte.id), qPrintable(name + ' ' + byte.id));
             }
@@ -108,6 +109,66 @@ private slots:
             QVERIFY2(description == part.facts, qPrintable(name));
             QVERIFY2(installed.isEmpty() || installed.first() == description["id"].toString(), qPrintable(name));
         }
+    }
+
+    void everyBitBelongsToOneField()
+    {
+        const QRegularExpression otherName("^(LVL|OSCSEL|OSCHFFRQ|PLLCK|NVLB|JTAGUSERID)"); // than their field's
+        for (const QString& name : jsonBaseNames("mcu"))
+            for (const QJsonValue& byte : JsonFile::read("mcu/" + name + ".json").document["FuseBytes"].toArray()) {
+                const QJsonObject fields = byte["fields"].toObject();
+                QHash<QString, QString> before; // the bit before, by field and name without its number
+                for (int i = 0; i < 8; ++i) {
+                    const QString bit = byte["bits"][i]["name"].toString();
+                    QStringList owners;
+                    for (const QString& mask : fields.keys())
+                        if ((mask.toUInt(nullptr, 16) << i & 0x80) != 0)
+                            owners += fields[mask].toString().toUpper();
+                    const QString stem = QString(bit).remove(QRegularExpression("\\d+$"));
+                    QString& last = before[owners.value(0) + stem];
+                    const bool isNext =
+                        last.isEmpty() || last.mid(stem.size()).toInt() == bit.mid(stem.size()).toInt() + 1;
+                    const bool isNamed = owners.value(0).contains(stem) || bit.contains(otherName);
+                    QVERIFY2(bit == "NOT USED" || (owners.size() == 1 && isNext && isNamed),
+                             qPrintable(name + ' ' + byte["id"].toString() + ' ' + bit + ' ' + owners.join(' ')));
+                    last = bit;
+                }
+            }
+    }
+
+    void everySettingHasWords()
+    {
+        const QJsonObject symbols = JsonFile::read("mcu/meanings/fields.json").document.object();
+        QStringList left = symbols.keys();
+        for (const QString& name : jsonBaseNames("mcu")) {
+            Avrdude avrdude(nullptr, nullptr);
+            BytesModel(avrdude).load(name);
+            FuseMeanings meanings;
+            meanings.load(avrdude.settings());
+            const QJsonValue described = BytesModel::description(avrdude.settings())["FuseBytes"];
+            for (int i = 0; i < avrdude.settings().fusesBytes.size(); ++i) {
+                const QJsonObject fields = described[i]["fields"].toObject();
+                for (const QString& mask : fields.keys()) {
+                    const QString field = fields[mask].toString();
+                    if (!left.removeOne(field))
+                        continue; // a number, or seen with another part
+                    const auto bits = mask.toUInt(nullptr, 16);
+                    const QJsonObject settings = symbols[field].toObject();
+                    for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
+                        FuseByte byte = avrdude.settings().fusesBytes[i];
+                        byte.currentValue = setting.key().toUInt() * (bits & (~bits + 1));
+                        QString words;
+                        for (const FuseMeanings::Text& about : meanings.of(byte))
+                            if (about.bits == bits)
+                                words = about.text.section('\n', 1, 1).section(": ", 1);
+                        QVERIFY2(words.contains(QRegularExpression("^[^_]+$")) && words != "reserved"
+                                     && words != setting.value().toString(),
+                                 qPrintable(field + ' ' + setting.key() + ' ' + words));
+                    }
+                }
+            }
+        }
+        QCOMPARE(left, QStringList());
     }
 
     void programmersAgreeWithAvrdude()

@@ -1,10 +1,13 @@
+#include "fuses/FuseMeanings.h"
 #include "fuses/FuseRequests.h"
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesByteView.h"
 #include "fuses/HexField.h"
+#include "mcu/BytesModel.h"
 #include "support/Bench.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLineEdit>
@@ -20,6 +23,14 @@ FuseByte makeByte(const QString& id, quint32 value)
     byte.fuseBits[3].enabled = false;
     byte.fuseBits[4].name = "NOT USED";
     return byte;
+}
+
+/// Lays the files that tell about the microcontroller @p name into the working folder.
+void layDescription(const WorkFolder& folder, const QString& name)
+{
+    for (const QString& file :
+         {"mcu/" + name + ".json", QString("mcu/meanings/fields.json"), QString("mcu/meanings/words.json")})
+        folder.write(file, folder.read(DATA_FOLDER "/" + file));
 }
 
 } // namespace
@@ -74,6 +85,101 @@ private slots:
             QCOMPARE(editor->value()->text(),
                      QString::number(bytes[0].currentValue, 16).toUpper().rightJustified(2, '0'));
         }
+    }
+
+    void everyChangeIsExplained()
+    {
+        Bench bench;
+        layDescription(bench.folder, "ATmega328P");
+        Fuses fuses(bench.avrdude, nullptr);
+        fuses.loadMcu("ATmega328P");
+        fuses.rebuild();
+        const auto* low = fuses.findChild<FusesByteView*>();
+        const auto heard = [](QWidget* widget) {
+            return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Description);
+        };
+        const QString factory = "100010: internal oscillator 8 MHz; start-up 6 clocks, after a reset 14 clocks + 65 ms";
+        QCOMPARE(heard(low->fusesBit()[5]), "Clock source and start-up time\nSUT1..0 CKSEL3..0 = " + factory);
+        const QSize plainSize = low->fusesBit()[5]->sizeHint();
+        low->fusesBit()[5]->click();
+        const QString changed =
+            "Clock source and start-up time\n"
+            "SUT1..0 CKSEL3..0 = 000010: internal oscillator 8 MHz; start-up 6 clocks, after a reset "
+            "14 clocks\nFactory setting = "
+            + factory;
+        QCOMPARE(low->fusesBit()[0]->toolTip(), changed);
+        QCOMPARE(heard(low->value()),
+                 "Division of the clock at the start\nCKDIV8 = 0: divided by 8\nClock output\nCKOUT = 1: off\n"
+                     + changed);
+        QCOMPARE(low->fusesBit()[5]->sizeHint(), plainSize);
+        QVERIFY(low->fusesBit()[5]->font().bold() && !low->fusesBit()[0]->font().bold());
+        QTest::keyClicks(low->value(), "62");
+        QVERIFY(low->fusesBit()[0]->toolTip().endsWith(" = " + factory) && !low->fusesBit()[5]->font().bold());
+
+        bench.avrdude.settings().mcuId = "another";
+        fuses.rebuild();
+        QCOMPARE(fuses.findChildren<FusesByteView*>().last()->value()->toolTip(), QString());
+    }
+
+    void settingsThatLockOut_data()
+    {
+        QTest::addColumn<QString>("mcu");
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<QString>("warning");
+        QTest::newRow("reset") << "ATmega328P"
+                               << "hfuse" << 0x59 << "The reset pin becomes an ordinary pin";
+        QTest::newRow("reset, TPI") << "ATtiny10"
+                                    << "fuse" << 0xFE << "The reset pin becomes an ordinary pin";
+        QTest::newRow("reset, PDI") << "ATxmega128A1U"
+                                    << "fuse4" << 0xEE << "";
+        QTest::newRow("debugWIRE") << "ATtiny85"
+                                   << "hfuse" << 0x9F << "The reset pin becomes the debugger's";
+        QTest::newRow("ISP") << "ATmega16"
+                             << "hfuse" << 0xB9 << "A serial programmer";
+        QTest::newRow("JTAG") << "ATmega16"
+                              << "hfuse" << 0xD9 << "A JTAG programmer";
+        QTest::newRow("UPDI as input") << "ATtiny1614"
+                                       << "fuse5" << 0xF2 << "The UPDI pin";
+        QTest::newRow("UPDI as reset") << "ATtiny1614"
+                                       << "fuse5" << 0xFA << "The UPDI pin";
+        QTest::newRow("reset beside UPDI") << "AVR128DB48"
+                                           << "fuse5" << 0xC8 << "";
+        QTest::newRow("crystal") << "ATmega328P"
+                                 << "lfuse" << 0xFF << "Without this clock";
+        QTest::newRow("crystal from the factory") << "AT90USB1287"
+                                                  << "lfuse" << 0x5E << "";
+        QTest::newRow("slow") << "ATmega328P"
+                              << "lfuse" << 0x63 << "So slow a chip";
+        QTest::newRow("lock bits") << "ATmega328P"
+                                   << "lock" << 0xFE << "A programmer can no longer write";
+        QTest::newRow("lock key") << "ATtiny1614"
+                                  << "lock" << 0x3A << "A programmer can no longer write";
+        QTest::newRow("boot lock bits") << "ATmega328P"
+                                        << "lock" << 0xCF << "";
+    }
+
+    void settingsThatLockOut()
+    {
+        QFETCH(QString, mcu);
+        QFETCH(QString, id);
+        QFETCH(int, value);
+        QFETCH(QString, warning);
+        Bench bench;
+        layDescription(bench.folder, mcu);
+        BytesModel(bench.avrdude).load(mcu);
+        FuseMeanings meanings;
+        meanings.load(bench.avrdude.settings());
+        QStringList warnings;
+        for (FuseByte byte : bench.avrdude.settings().fusesBytes) {
+            QTEST_ASSERT(!meanings.of(byte).isEmpty());
+            if (byte.id == id)
+                byte.currentValue = static_cast<quint32>(value);
+            for (const FuseMeanings::Text& about : meanings.of(byte))
+                warnings += about.text.split('\n').mid(3);
+        }
+        QCOMPARE(warnings.value(0).left(warning.size()), warning);
+        QCOMPARE(warnings.isEmpty(), warning.isEmpty());
     }
 
     void readingAndDefaults()

@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Ein so langsamer Chip antwortet nur bei einem Tempo unter einem Viertel seines Taktes.
+Der Weg zurück: ein niedrigeres Tempo wählen.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Ohne diesen Takt an seinen Pins antwortet der Chip nicht.
+Der Weg zurück: einen Takt oder Quarz anschließen, oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Werkseinstellung</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Der Reset-Pin wird ein gewöhnlicher Pin: Ein serieller Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Der Reset-Pin gehört dann dem Debugger: Ein serieller Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: ein Debugger mit debugWIRE oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Ein serieller Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: JTAG oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Ein JTAG-Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: ein Programmer für ISP oder, beim ATxmega, für PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: ein Programmer mit Hochvolt-UPDI.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Ein Programmer kann den Chip nicht mehr beschreiben.
+Der Weg zurück: alles löschen.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

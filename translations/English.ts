@@ -100,6 +100,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Factory setting</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>A programmer can no longer write the chip.
+The way back: erase all of it.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Un chip tan lento solo responde a una velocidad menor que un cuarto de su reloj.
+La vuelta atrás: elegir una velocidad menor.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Sin este reloj en sus pines el chip no responde.
+La vuelta atrás: conectar un reloj o un cristal, o usar un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Ajuste de fábrica</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>El pin de reset pasa a ser un pin normal: un programador serie ya no alcanza el chip.
+La vuelta atrás: un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>El pin de reset pasa a ser del depurador: un programador serie ya no alcanza el chip.
+La vuelta atrás: un depurador con debugWIRE o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Un programador serie ya no alcanza el chip.
+La vuelta atrás: JTAG o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Un programador JTAG ya no alcanza el chip.
+La vuelta atrás: un programador ISP o, en un ATxmega, PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>El pin UPDI recibe otra función: un programador UPDI normal ya no alcanza el chip.
+La vuelta atrás: un programador con UPDI de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programador ya no puede grabar el chip.
+La vuelta atrás: borrarlo todo.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

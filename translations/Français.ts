@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Une puce aussi lente ne répond qu&apos;à une vitesse inférieure au quart de son horloge.
+Le retour : choisir une vitesse plus basse.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Sans cette horloge sur ses broches, la puce ne répond pas.
+Le retour : brancher une horloge ou un quartz, ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Réglage d&apos;usine</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>La broche de reset devient une broche ordinaire : un programmateur série n&apos;atteint plus la puce.
+Le retour : un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>La broche de reset passe au débogueur : un programmateur série n&apos;atteint plus la puce.
+Le retour : un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Un programmateur série n&apos;atteint plus la puce.
+Le retour : JTAG ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Un programmateur JTAG n&apos;atteint plus la puce.
+Le retour : un programmateur ISP ou, avec un ATxmega, PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire n&apos;atteint plus la puce.
+Le retour : un programmateur avec UPDI haute tension.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programmateur ne peut plus écrire la puce.
+Le retour : tout effacer.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

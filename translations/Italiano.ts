@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Un chip così lento risponde solo a una velocità inferiore a un quarto del suo clock.
+La via del ritorno: scegliere una velocità minore.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Senza questo clock sui suoi pin il chip non risponde.
+La via del ritorno: collegare un clock o un quarzo, o usare un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Impostazione di fabbrica</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Il pin di reset diventa un pin comune: un programmatore seriale non raggiunge più il chip.
+La via del ritorno: un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Il pin di reset passa al debugger: un programmatore seriale non raggiunge più il chip.
+La via del ritorno: un debugger con debugWIRE o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Un programmatore seriale non raggiunge più il chip.
+La via del ritorno: JTAG o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Un programmatore JTAG non raggiunge più il chip.
+La via del ritorno: un programmatore ISP o, con un ATxmega, PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Il pin UPDI riceve un&apos;altra funzione: un comune programmatore UPDI non raggiunge più il chip.
+La via del ritorno: un programmatore con UPDI ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programmatore non può più scrivere il chip.
+La via del ritorno: cancellare tutto.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Tak wolny układ odpowiada tylko przy szybkości poniżej jednej czwartej swojego zegara.
+Droga powrotna: wybrać mniejszą szybkość.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Bez tego zegara na swoich wyprowadzeniach układ nie odpowiada.
+Droga powrotna: podłączyć zegar lub kwarc albo użyć programatora wysokonapięciowego.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Ustawienie fabryczne</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Wyprowadzenie reset staje się zwykłym wyprowadzeniem: programator szeregowy nie dosięgnie już układu.
+Droga powrotna: programator wysokonapięciowy.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Wyprowadzenie reset przejmuje debugger: programator szeregowy nie dosięgnie już układu.
+Droga powrotna: debugger z debugWIRE albo programator wysokonapięciowy.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Programator szeregowy nie dosięgnie już układu.
+Droga powrotna: JTAG albo programator wysokonapięciowy.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Programator JTAG nie dosięgnie już układu.
+Droga powrotna: programator ISP, a przy ATxmega PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Wyprowadzenie UPDI dostaje inną funkcję: zwykły programator UPDI nie dosięgnie już układu.
+Droga powrotna: programator z wysokonapięciowym UPDI.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Programator nie może już zapisać układu.
+Droga powrotna: skasować cały układ.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Um chip tão lento só responde a uma velocidade abaixo de um quarto do seu clock.
+O caminho de volta: escolher uma velocidade menor.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Sem este clock nos seus pinos o chip não responde.
+O caminho de volta: ligar um clock ou um cristal, ou usar um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Ajuste de fábrica</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>O pino de reset vira um pino comum: um gravador serial não alcança mais o chip.
+O caminho de volta: um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>O pino de reset passa para o depurador: um gravador serial não alcança mais o chip.
+O caminho de volta: um depurador com debugWIRE ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Um gravador serial não alcança mais o chip.
+O caminho de volta: JTAG ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Um gravador JTAG não alcança mais o chip.
+O caminho de volta: um gravador ISP ou, com um ATxmega, PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>O pino UPDI recebe outra função: um gravador UPDI comum não alcança mais o chip.
+O caminho de volta: um gravador com UPDI de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Um gravador não consegue mais gravar o chip.
+O caminho de volta: apagar tudo.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

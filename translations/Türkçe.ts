@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Bu kadar yavaş bir çip yalnızca saatinin dörtte birinden düşük bir hızda yanıt verir.
+Geri dönüş yolu: daha düşük bir hız seçmek.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Bacaklarında bu saat olmadan çip yanıt vermez.
+Geri dönüş yolu: bir saat ya da kristal bağlamak veya yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Fabrika ayarı</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Reset bacağı sıradan bir bacak olur: seri programlayıcı çipe artık ulaşamaz.
+Geri dönüş yolu: yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Reset bacağı hata ayıklayıcıya geçer: seri programlayıcı çipe artık ulaşamaz.
+Geri dönüş yolu: debugWIRE&apos;lı bir hata ayıklayıcı ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Seri programlayıcı çipe artık ulaşamaz.
+Geri dönüş yolu: JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>JTAG programlayıcısı çipe artık ulaşamaz.
+Geri dönüş yolu: ISP, ATxmega&apos;da ise PDI programlayıcısı.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>UPDI bacağı başka bir görev alır: sıradan bir UPDI programlayıcısı çipe artık ulaşamaz.
+Geri dönüş yolu: yüksek gerilimli UPDI&apos;si olan bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Programlayıcı çipe artık yazamaz.
+Geri dönüş yolu: tümünü silmek.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

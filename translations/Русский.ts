@@ -100,6 +100,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Такой медленный МК отвечает только на скорости ниже четверти его тактовой частоты.
+Путь назад: выбрать меньшую скорость.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Без этого тактового сигнала на выводах МК не отвечает.
+Путь назад: подключить генератор или кварц либо взять высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Заводская настройка</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Вывод сброса становится обычным: последовательный программатор больше не достучится до МК.
+Путь назад: высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Вывод сброса переходит к отладчику: последовательный программатор больше не достучится до МК.
+Путь назад: отладчик с debugWIRE или высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Последовательный программатор больше не достучится до МК.
+Путь назад: JTAG или высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Программатор JTAG больше не достучится до МК.
+Путь назад: программатор ISP, а для ATxmega — PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI больше не достучится до МК.
+Путь назад: программатор с высоковольтным UPDI.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Программатор больше не сможет записать МК.
+Путь назад: стереть всё.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

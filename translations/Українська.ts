@@ -101,6 +101,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Такий повільний МК відповідає лише на швидкості, нижчій за чверть його тактової частоти.
+Шлях назад: вибрати меншу швидкість.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>Без цього тактового сигналу на виводах МК не відповідає.
+Шлях назад: підключити генератор чи кварц або взяти високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>Заводське налаштування</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Вивід скидання стає звичайним: послідовний програматор більше не дістанеться до МК.
+Шлях назад: високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Вивід скидання переходить до налагоджувача: послідовний програматор більше не дістанеться до МК.
+Шлях назад: налагоджувач із debugWIRE або високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>Послідовний програматор більше не дістанеться до МК.
+Шлях назад: JTAG або високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>Програматор JTAG більше не дістанеться до МК.
+Шлях назад: програматор ISP, а для ATxmega — PDI.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Вивід UPDI отримує інше призначення: звичайний програматор UPDI більше не дістанеться до МК.
+Шлях назад: програматор із високовольтним UPDI.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>Програматор більше не зможе записати МК.
+Шлях назад: стерти все.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

@@ -100,6 +100,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>芯片时钟这么慢时，只有速度低于其时钟的四分之一才会应答。
+恢复方法：选择更低的速度。</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>引脚上没有此时钟时，芯片不会应答。
+恢复方法：接上时钟或晶振，或使用高压编程器。</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>出厂设置</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>复位引脚变为普通引脚：串行编程器将无法再访问芯片。
+恢复方法：使用高压编程器。</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>复位引脚归调试器使用：串行编程器将无法再访问芯片。
+恢复方法：使用支持 debugWIRE 的调试器或高压编程器。</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>串行编程器将无法再访问芯片。
+恢复方法：使用 JTAG 或高压编程器。</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>JTAG 编程器将无法再访问芯片。
+恢复方法：使用 ISP 编程器，ATxmega 则使用 PDI 编程器。</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
+恢复方法：使用支持高压 UPDI 的编程器。</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>编程器将无法再写入芯片。
+恢复方法：全部擦除。</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

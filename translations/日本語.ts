@@ -100,6 +100,61 @@
     </message>
 </context>
 <context>
+    <name>FuseMeanings</name>
+    <message>
+        <source>So slow a chip answers only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>これほど遅いチップは、クロックの 4 分の 1 より低い速度でしか応答しません。
+元に戻すには：より低い速度を選びます。</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip does not answer.
+The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
+        <translation>ピンにこのクロックがないと、チップは応答しません。
+元に戻すには：クロックまたは水晶をつなぐか、高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>Factory setting</source>
+        <translation>工場出荷時の設定</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>リセットピンが通常のピンになり、シリアル書込器はチップにアクセスできなくなります。
+元に戻すには：高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>リセットピンがデバッガ用になり、シリアル書込器はチップにアクセスできなくなります。
+元に戻すには：debugWIRE 対応のデバッガまたは高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, or a high-voltage programmer.</source>
+        <translation>シリアル書込器はチップにアクセスできなくなります。
+元に戻すには：JTAG または高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
+        <translation>JTAG 書込器はチップにアクセスできなくなります。
+元に戻すには：ISP 書込器（ATxmega では PDI 書込器）を使います。</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
+元に戻すには：高電圧 UPDI 対応の書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer write the chip.
+The way back: erase all of it.</source>
+        <translation>書込器はチップに書き込めなくなります。
+元に戻すには：全消去します。</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>

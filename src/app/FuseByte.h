@@ -12,6 +12,9 @@ struct FuseBit {
     QString name = QStringLiteral("NOT USED"); ///< this very name marks a bit that typing a value never changes
     quint32 defaultBitValue = 0; ///< 0 or 1, from the datasheet
     quint32 currentBitValue = 0; ///< 0 or 1
+
+    /// Whether the part has the bit.
+    [[nodiscard]] bool isUsed() const { return name != QLatin1String("NOT USED"); }
 };
 
 /// One fuse or lock byte of a microcontroller. A plain value, copied whole with the list that holds it.

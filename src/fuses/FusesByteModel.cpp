@@ -23,7 +23,7 @@ void FusesByteModel::setByte(quint32 value)
     FuseByte& byte = m_bytes[m_index];
     for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
         FuseBit& bit = byte.fuseBits[i];
-        if (bit.enabled && bit.name != QLatin1String("NOT USED"))
+        if (bit.enabled && bit.isUsed())
             bit.currentBitValue = (value >> i) & 1U;
     }
     recomputeValue(byte);

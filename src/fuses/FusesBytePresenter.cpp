@@ -1,5 +1,7 @@
 #include "fuses/FusesBytePresenter.h"
 
+#include "base/BoxText.h"
+#include "fuses/FuseMeanings.h"
 #include "fuses/FusesByteModel.h"
 #include "fuses/FusesByteView.h"
 #include "fuses/HexField.h"
@@ -29,6 +31,30 @@ bool isEditingKey(int key)
     }
 }
 
+/// Says @p texts to who hovers over @p widget and to who listens to it.
+void tell(QWidget* widget, const QStringList& texts)
+{
+    const QString text = texts.join(QLatin1Char('\n'));
+    widget->setToolTip(boxText(text));
+    widget->setAccessibleDescription(text);
+}
+
+/// Marks the label of @p checkBox or takes the mark away: bold, and no wider than it is otherwise, so that no label
+/// moves.
+void mark(QCheckBox* checkBox, bool isMarked)
+{
+    QFont font;
+    const QString label = checkBox->text();
+    if (isMarked && !label.isEmpty()) {
+        font = checkBox->parentWidget()->font();
+        const qreal width = QFontMetricsF(font).horizontalAdvance(label);
+        font.setBold(true);
+        font.setLetterSpacing(QFont::AbsoluteSpacing,
+                              (width - QFontMetricsF(font).horizontalAdvance(label)) / label.size());
+    }
+    checkBox->setFont(font);
+}
+
 bool isHexDigit(int key)
 {
     return (key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_F);
@@ -36,10 +62,12 @@ bool isHexDigit(int key)
 
 } // namespace
 
-FusesBytePresenter::FusesBytePresenter(FusesByteView& view, FusesByteModel& model, QObject* parent)
+FusesBytePresenter::FusesBytePresenter(FusesByteView& view, FusesByteModel& model, const FuseMeanings& meanings,
+                                       QObject* parent)
     : QObject(parent)
     , m_view(view)
     , m_model(model)
+    , m_meanings(meanings)
 {
     connect(&view, &FusesByteView::bitChanged, this, &FusesBytePresenter::onBitChanged);
     connect(view.value(), &HexField::left, this, &FusesBytePresenter::showValue);
@@ -79,7 +107,30 @@ void FusesBytePresenter::showValue()
     const int cursor = m_view.value()->cursorPosition();
     m_view.value()->setText(QString::number(value, 16).rightJustified(2, QLatin1Char('0')));
     m_view.value()->setCursorPosition(cursor);
+    showMeanings();
     emit m_view.byteChanged(value);
+}
+
+void FusesBytePresenter::showMeanings()
+{
+    const FuseByte& byte = m_model.byte();
+    QVector<QStringList> bitTexts(m_view.fusesBit().size());
+    QStringList byteTexts;
+    const auto texts = m_meanings.of(byte);
+    for (const FuseMeanings::Text& about : texts) {
+        byteTexts += about.text;
+        for (int i = 0; i < bitTexts.size(); ++i) {
+            if ((about.bits >> i & 1U) != 0)
+                bitTexts[i] += about.text;
+        }
+    }
+    tell(m_view.value(), byteTexts);
+    for (int i = 0; i < bitTexts.size(); ++i) {
+        const FuseBit& bit = byte.fuseBits[static_cast<std::size_t>(i)];
+        QCheckBox* checkBox = m_view.fusesBit().at(i);
+        tell(checkBox, bitTexts.at(i));
+        mark(checkBox, bit.currentBitValue != bit.defaultBitValue);
+    }
 }
 
 void FusesBytePresenter::onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox)

@@ -5,18 +5,20 @@
 #include <QObject>
 #include <QVector>
 
+class FuseMeanings;
 class FusesByteModel;
 class FusesByteView;
 class QCheckBox;
 
-/// Keeps the check boxes, the hexadecimal field and the record of one fuse byte in step. Lives as long as the byte's
-/// editor, which owns view and model too.
+/// Keeps the check boxes, the hexadecimal field and the record of one fuse byte in step, and what is told about them.
+/// Lives as long as the byte's editor, which owns view and model too.
 class FusesBytePresenter : public QObject
 {
     Q_OBJECT
 
 public:
-    FusesBytePresenter(FusesByteView& view, FusesByteModel& model, QObject* parent = nullptr);
+    FusesBytePresenter(FusesByteView& view, FusesByteModel& model, const FuseMeanings& meanings,
+                       QObject* parent = nullptr);
 
     /// Shows the record @p byte, which is the model's: its name, its identifier and its bits.
     void setModel(const FuseByte& byte);
@@ -30,9 +32,11 @@ public:
 private:
     void showBits();
     void showValue();
+    void showMeanings();
     void onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox);
     void typeDigit(QChar digit);
 
     FusesByteView& m_view;
     FusesByteModel& m_model;
+    const FuseMeanings& m_meanings;
 };

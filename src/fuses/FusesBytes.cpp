@@ -27,6 +27,7 @@ void FusesBytes::rebuild()
     m_editors.clear();
 
     SettingsRecord& settings = m_avrdude.settings();
+    m_meanings.load(settings);
     for (int i = 0; i < settings.fusesBytes.size(); ++i)
         m_view.editors()->addWidget(makeEditor(i));
     settings.fusesEnable = !settings.fusesBytes.isEmpty();
@@ -49,7 +50,7 @@ QWidget* FusesBytes::makeEditor(int index)
     auto* editor = new QWidget(&m_view);
     auto* view = new FusesByteView(editor);
     auto* model = new FusesByteModel(m_avrdude.settings().fusesBytes, index, editor);
-    m_editors.append(new FusesBytePresenter(*view, *model, editor));
+    m_editors.append(new FusesBytePresenter(*view, *model, m_meanings, editor));
 
     auto* layout = new QHBoxLayout(editor);
     layout->setContentsMargins(0, 0, 0, 0);

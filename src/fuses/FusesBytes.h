@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fuses/FuseMeanings.h"
+
 #include <QObject>
 #include <QVector>
 
@@ -27,5 +29,6 @@ private:
 
     Avrdude& m_avrdude;
     FusesBytesView& m_view;
+    FuseMeanings m_meanings;
     QVector<FusesBytePresenter*> m_editors; ///< by place in the record's list
 };

@@ -56,12 +56,15 @@ QString BytesModel::folder()
     return QStringLiteral("mcu");
 }
 
+QJsonObject BytesModel::description(const SettingsRecord& settings)
+{
+    const QJsonObject found = readDescription(settings.mcuName).document.object();
+    return found.value(QLatin1String("id")).toString() == settings.mcuId ? found : QJsonObject();
+}
+
 qint64 BytesModel::memorySize(const SettingsRecord& settings, const QString& memory)
 {
-    const QJsonObject description = readDescription(settings.mcuName).document.object();
-    if (description.value(QLatin1String("id")).toString() != settings.mcuId)
-        return 0;
-    return description.value(memory).toInt();
+    return description(settings).value(memory).toInt();
 }
 
 int BytesModel::load(const QString& name)

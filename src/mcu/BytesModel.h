@@ -3,6 +3,7 @@
 #include <QObject>
 
 class Avrdude;
+class QJsonObject;
 struct SettingsRecord;
 
 /// Loads the description of one microcontroller, with the datasheet's defaults of its fuse bytes, into the settings
@@ -17,9 +18,12 @@ public:
     /// The folder of the descriptions.
     [[nodiscard]] static QString folder();
 
+    /// The description of the microcontroller in @p settings. Empty when it cannot be read, or is another part's than
+    /// the one that avrdude is told.
+    [[nodiscard]] static QJsonObject description(const SettingsRecord& settings);
+
     /// Size in bytes of the memory that descriptions call @p memory ("flash", "eeprom"), of the microcontroller in
-    /// @p settings. 0 or less when it is not known: the description has no such key, cannot be read, or is another
-    /// part's than the one that avrdude is told.
+    /// @p settings. 0 or less when it is not known: there is no description, or no such key in it.
     [[nodiscard]] static qint64 memorySize(const SettingsRecord& settings, const QString& memory);
 
     /// Loads the microcontroller called @p name and replaces the record's name, identifier, signature and fuse bytes.

@@ -1,0 +1,195 @@
+#include "fuses/FuseMeanings.h"
+
+#include "base/JsonFile.h"
+#include "mcu/BytesModel.h"
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <tuple>
+
+namespace {
+
+QJsonObject readMeanings(const QString& file)
+{
+    return JsonFile::read(BytesModel::folder() + QStringLiteral("/meanings/") + file).document.object();
+}
+
+bool isIn(quint32 bits, std::size_t number)
+{
+    return (bits >> number & 1U) != 0;
+}
+
+/// Those of @p bits that @p byte has.
+quint32 existing(const FuseByte& byte, quint32 bits)
+{
+    for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
+        if (!byte.fuseBits[i].isUsed())
+            bits &= ~(1U << i);
+    }
+    return bits;
+}
+
+/// The names of @p bits as datasheets write them: "SUT1..0 CKSEL3..0".
+QString namesOf(const FuseByte& byte, quint32 bits)
+{
+    static const QRegularExpression number(QStringLiteral("\\d+$"));
+    QStringList names;
+    QString stem;
+    for (std::size_t i = byte.fuseBits.size(); i-- > 0;) {
+        if (!isIn(bits, i))
+            continue;
+        const QString name = byte.fuseBits[i].name;
+        const QString digits = number.match(name).captured();
+        if (!names.isEmpty() && !digits.isEmpty() && name.chopped(digits.size()) == stem)
+            names.last() = names.last().section(QStringLiteral(".."), 0, 0) + QStringLiteral("..") + digits;
+        else
+            names.append(name);
+        stem = name.chopped(digits.size());
+    }
+    return names.join(QLatin1Char(' '));
+}
+
+/// What @p value has in @p bits, digit by digit.
+QString digitsOf(quint32 value, quint32 bits)
+{
+    QString digits;
+    for (std::size_t i = std::tuple_size_v<decltype(FuseByte::fuseBits)>; i-- > 0;) {
+        if (isIn(bits, i))
+            digits += isIn(value, i) ? QLatin1Char('1') : QLatin1Char('0');
+    }
+    return digits;
+}
+
+/// The number that @p value has in @p bits, counted from their lowest.
+quint32 numberIn(quint32 value, quint32 bits)
+{
+    for (value &= bits; bits != 0 && !isIn(bits, 0); bits >>= 1U)
+        value >>= 1U;
+    return value;
+}
+
+/// What a setting does to the programmer that was used so far, and how the chip comes back.
+struct Warning {
+    const char* settings; ///< pattern for the field's name, a colon and the symbol
+    const char* text;
+};
+
+// An ATxmega has no line for its reset pin: PDI works without it.
+constexpr std::array<Warning, 8> warnings = {{
+    {"^rstdisbl:gpio",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.\n"
+                       "The way back: a high-voltage programmer.")},
+    {"^dwen:dw_enabled",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "The reset pin becomes the debugger's: a serial programmer can no longer reach the chip.\n"
+                       "The way back: a debugger with debugWIRE, or a high-voltage programmer.")},
+    {"^spien:isp_disabled",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "A serial programmer can no longer reach the chip.\n"
+                       "The way back: JTAG, or a high-voltage programmer.")},
+    {"^jtagen:jtag_disabled",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "A JTAG programmer can no longer reach the chip.\n"
+                       "The way back: a programmer for ISP, or for PDI with an ATxmega.")},
+    {"^(updi_rstpincfg:(gpio|rst)|updipincfg:gpio)$",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.\n"
+                       "The way back: a programmer with high-voltage UPDI.")},
+    {"^(sut_)?cksel:.*(128|32)khz",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "So slow a chip answers only at a speed below a quarter of its clock.\n"
+                       "The way back: choose a lower speed.")},
+    {"^((sut_)?cksel|rcen):.*(ext|xosc|cres|fsosc|tosc)",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "Without this clock on its pins the chip does not answer.\n"
+                       "The way back: connect a clock or a crystal, or use a high-voltage programmer.")},
+    {"^lb:(?!no)",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "A programmer can no longer write the chip.\n"
+                       "The way back: erase all of it.")},
+}};
+
+/// The warning for @p setting, a field's name, a colon and the symbol; empty for most.
+QString warningFor(const QString& setting)
+{
+    const auto* const found = std::find_if(warnings.begin(), warnings.end(), [&setting](const Warning& warning) {
+        return setting.contains(QRegularExpression(QLatin1String(warning.settings)));
+    });
+    return found == warnings.end() ? QString() : QCoreApplication::translate("FuseMeanings", found->text);
+}
+
+} // namespace
+
+void FuseMeanings::load(const SettingsRecord& settings)
+{
+    const QJsonArray bytes = BytesModel::description(settings).value(QLatin1String("FuseBytes")).toArray();
+    const QJsonObject symbols = readMeanings(QStringLiteral("fields.json"));
+    const QJsonObject words = readMeanings(QStringLiteral("words.json"));
+    m_fields.clear();
+    for (const QJsonValue& byte : bytes) {
+        QVector<Field>& fields = m_fields[byte[QLatin1String("id")].toString()];
+        const QJsonObject listed = byte[QLatin1String("fields")].toObject();
+        for (auto field = listed.begin(); field != listed.end(); ++field) {
+            const QString key = field.value().toString(); // the name, and what tells the field from its namesakes
+            const QString name = key.section(QLatin1Char(' '), 0, 0);
+            const QString text = words[QLatin1String("fields")][name].toString();
+            if (!text.isEmpty())
+                fields.append({field.key().toUInt(nullptr, 16), name, text, symbols.value(key).toObject()});
+        }
+        std::sort(fields.begin(), fields.end(), [](const Field& a, const Field& b) { return a.bits > b.bits; });
+    }
+    m_words = words.value(QLatin1String("symbols")).toObject();
+    m_rules.clear();
+    const QJsonArray rules = words.value(QLatin1String("rules")).toArray();
+    for (const QJsonValue& rule : rules)
+        m_rules.append({QRegularExpression(rule[0].toString()), rule[1].toString()});
+}
+
+QVector<FuseMeanings::Text> FuseMeanings::of(const FuseByte& byte) const
+{
+    QVector<Text> texts;
+    const auto fields = m_fields.value(byte.id);
+    for (const Field& field : fields)
+        texts.append({field.bits, textOf(field, byte)});
+    return texts;
+}
+
+QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
+{
+    const quint32 bits = existing(byte, field.bits);
+    const auto symbol = [&field](quint32 value) {
+        return field.symbols.value(QString::number(numberIn(value, field.bits))).toString();
+    };
+    const auto setting = [&](quint32 value) {
+        return field.symbols.isEmpty()
+            ? QString::number(numberIn(value, field.bits))
+            : digitsOf(value, bits) + QStringLiteral(": ") + meaningOf(field.name, symbol(value));
+    };
+    QStringList lines {field.text, namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
+    if (((byte.currentValue ^ byte.defaultValue) & bits) != 0) {
+        lines += QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ")
+            + setting(byte.defaultValue);
+        const QString warning = warningFor(field.name + QLatin1Char(':') + symbol(byte.currentValue));
+        if (!warning.isEmpty())
+            lines += warning;
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
+{
+    if (symbol.isEmpty())
+        return QStringLiteral("reserved");
+    const QJsonValue ofField = m_words.value(field + QLatin1Char(':') + symbol);
+    const QJsonValue words = ofField.isString() ? ofField : m_words.value(symbol);
+    if (words.isString())
+        return words.toString();
+    for (const auto& [pattern, replacement] : m_rules)
+        symbol.replace(pattern, replacement);
+    return symbol;
+}

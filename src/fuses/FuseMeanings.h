@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/FuseByte.h"
+
+#include <QHash>
+#include <QJsonObject>
+#include <QPair>
+#include <QRegularExpression>
+#include <QString>
+#include <QVector>
+
+struct SettingsRecord;
+
+/// Tells what the bits of the shown microcontroller's fuse bytes mean. The description says which bits form a field,
+/// and two files beside the descriptions give the vendor's symbol for each setting of a field and the rules by which
+/// symbols become words. Whatever of this is missing, the texts are missing and nothing else. Owned by FusesBytes.
+class FuseMeanings
+{
+public:
+    /// A text about some bits of a byte.
+    struct Text {
+        quint32 bits; ///< bit 0 is the least significant one
+        QString text; ///< plain, of several lines
+    };
+
+    /// Reads what is known of the microcontroller in @p settings, in place of the one before.
+    void load(const SettingsRecord& settings);
+
+    /// One text for each known field of @p byte, from the highest bit down: the field in words, its present setting
+    /// with its meaning, the factory's if that is another, and what to expect where a setting locks the programmer out.
+    [[nodiscard]] QVector<Text> of(const FuseByte& byte) const;
+
+private:
+    struct Field {
+        quint32 bits;
+        QString name; ///< the vendor's, in lower case; tells fields apart that differ in more than their bits
+        QString text; ///< what it is for
+        QJsonObject symbols; ///< by value; none: the field holds a number
+    };
+
+    [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
+    [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
+
+    QHash<QString, QVector<Field>> m_fields; ///< by the byte's id
+    QJsonObject m_words; ///< by symbol, or by field and symbol where fields share one
+    QVector<QPair<QRegularExpression, QString>> m_rules; ///< make words of all other symbols, one rule after another
+};
