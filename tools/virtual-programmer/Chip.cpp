@@ -18,10 +18,15 @@ Chip::Chip(const Part& part)
     leaveProgramming();
 }
 
+bool Chip::enterProgramming(int bitClock)
+{
+    leaveProgramming();
+    m_isProgramming = answers(bitClock);
+    return m_isProgramming;
+}
+
 Chip::Instruction Chip::transfer(const Instruction& in)
 {
-    if (in[0] == 0xAC && in[1] == 0x53)
-        m_isProgramming = true;
     if (!m_isProgramming)
         return {0xFF, 0xFF, 0xFF, 0xFF};
     return {0x00, in[0], in[1], execute(in).value_or(in[2])};
@@ -33,6 +38,23 @@ void Chip::leaveProgramming()
     m_extendedAddress = 0;
     m_flashPage.fill('\xFF', m_part.flashPageSize);
     m_eepromPage.fill(std::nullopt);
+}
+
+bool Chip::answers(int bitClock) const
+{
+    const bool hasResetPin = (~m_state.fuses[Part::HighFuse] & m_part.resetPin) == 0;
+    const bool isSerialEnabled = (m_state.fuses[m_part.spien.fuse] & m_part.spien.mask) == 0;
+    // "Serial Programming": SCK has to be low and high for more than 2 cycles each. (From 12 MHz on for more than 3,
+    // which is still twice as fast as an STK500 can be.)
+    return hasResetPin && isSerialEnabled && 4 * bitClock < clockFrequency();
+}
+
+int Chip::clockFrequency() const
+{
+    const quint8 low = m_state.fuses[Part::LowFuse];
+    const int oscillator = m_part.oscillators[low & m_part.cksel];
+    const int source = oscillator > 0 ? oscillator : m_clockInput;
+    return (~low & m_part.ckdiv8) == 0 ? source : source / 8;
 }
 
 std::optional<quint8> Chip::execute(const Instruction& in)

@@ -26,6 +26,15 @@ public:
     /// Makes the flash byte at `address` (0 to flash size - 1) faulty: each write to it turns bit 0 over.
     void setFaultyAddress(int address) { m_faultyAddress = address; }
 
+    /// The clock at the clock pins, in Hz (0: none). It serves whichever source outside the chip the fuses choose: a
+    /// generator, a crystal or a resonator of any range.
+    void setClockInput(int frequency) { m_clockInput = frequency; }
+
+    /// Starts the chip anew, held in reset: the fuses as they are now take effect. Then enables programming with
+    /// instructions shifted at `bitClock` (1 Hz to 10 MHz). False when the chip does not answer: its fuses have taken
+    /// reset or serial programming away, or its clock is not there or too slow.
+    bool enterProgramming(int bitClock);
+
     /// Whether programming has been enabled and not been left since.
     [[nodiscard]] bool isProgramming() const { return m_isProgramming; }
 
@@ -38,6 +47,8 @@ public:
     void leaveProgramming();
 
 private:
+    [[nodiscard]] bool answers(int bitClock) const;
+    [[nodiscard]] int clockFrequency() const;
     std::optional<quint8> execute(const Instruction& in);
     void executeWrite(const Instruction& in);
     void eraseChip();
@@ -53,6 +64,7 @@ private:
     const Part& m_part;
     ChipState m_state;
     bool m_isProgramming = false;
+    int m_clockInput = 0; // Hz
     int m_extendedAddress = 0;
     int m_faultyAddress = -1;
     QByteArray m_flashPage;

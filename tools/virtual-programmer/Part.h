@@ -28,6 +28,10 @@ struct Part {
     quint8 lockBits; ///< the bits of the lock byte that exist
     FuseBit spien; ///< serial programming enabled
     FuseBit eesave; ///< EEPROM survives a chip erase
+    quint8 resetPin; ///< RSTDISBL and DWEN in the high fuse, those of them that exist
+    quint8 ckdiv8; ///< CKDIV8 in the low fuse; 0: the part does not have it
+    quint8 cksel; ///< CKSEL in the low fuse, from bit 0
+    std::array<int, 16> oscillators; ///< Hz that each value of CKSEL gives; 0: the clock comes from outside
 
     /// The part of that name in upper or lower case, or nullptr when there is none.
     [[nodiscard]] static const Part* find(const QString& name);

@@ -24,6 +24,8 @@ constexpr int pageHeaderLength = 4; // what comes before the data of a page
 constexpr quint8 flashMemory = 'F';
 constexpr quint8 eepromMemory = 'E';
 
+constexpr int crystal = 7372800; // Hz
+
 constexpr char ok = 0x10;
 constexpr char failed = 0x11;
 constexpr char noDevice = 0x13;
@@ -35,7 +37,7 @@ constexpr std::size_t softwareMajor = 0x81;
 constexpr std::size_t softwareMinor = 0x82;
 constexpr std::size_t targetVoltage = 0x84; // 0.1 V
 constexpr std::size_t referenceVoltage = 0x85; // 0.1 V
-constexpr std::size_t sckDuration = 0x89;
+constexpr std::size_t sckDuration = 0x89; // of one bit, in 8 cycles of the 7.3728 MHz crystal
 
 quint8 byteAt(const QByteArray& bytes, int index)
 {
@@ -99,7 +101,14 @@ Stk500::Stk500(Chip& chip)
     m_parameters[softwareMinor] = 18;
     m_parameters[targetVoltage] = 50;
     m_parameters[referenceVoltage] = 50;
-    m_parameters[sckDuration] = 2;
+    m_parameters[sckDuration] = 8; // 115.2 kHz, which a new chip at 1 MHz can follow
+}
+
+void Stk500::beginConnection()
+{
+    m_pending.clear();
+    m_address = 0;
+    m_flashBytes = 0;
 }
 
 QByteArray Stk500::receive(const QByteArray& bytes)
@@ -142,7 +151,7 @@ QByteArray Stk500::execute(const QByteArray& command)
     case GetParameter:
         return answer(QByteArray(1, static_cast<char>(m_parameters[byte(1)])));
     case EnterProgramming:
-        return answer({}, m_chip.transfer({0xAC, 0x53, 0x00, 0x00})[2] == 0x53 ? ok : noDevice);
+        return answer({}, m_chip.enterProgramming(bitClock()) ? ok : noDevice);
     case LeaveProgramming:
         m_chip.leaveProgramming();
         return answer();
@@ -204,6 +213,11 @@ QByteArray Stk500::readSignature()
     for (int i = 0; i < 3; ++i)
         signature += static_cast<char>(instruct(0x30, i));
     return signature;
+}
+
+int Stk500::bitClock() const
+{
+    return crystal / 8 / qMax<int>(1, m_parameters[sckDuration]);
 }
 
 quint8 Stk500::instruct(int opcode, int address, int data)

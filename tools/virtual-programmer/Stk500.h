@@ -7,7 +7,8 @@
 #include <array>
 
 /// The programmer's side of the STK500 version 1 protocol (Atmel application note AVR061): bytes in, bytes out. It
-/// turns commands into instructions for its chip. One object serves one connection; the chip outlives it.
+/// turns commands into instructions for its chip, which outlives it. Its parameters stay from one connection to the
+/// next, as those of an STK500 do.
 class Stk500
 {
 public:
@@ -15,11 +16,14 @@ public:
 
     explicit Stk500(Chip& chip);
 
+    /// Forgets what the last connection left unfinished.
+    void beginConnection();
+
     /// Takes the next bytes of the stream, cut anywhere, and returns the answers to the commands they complete.
     /// What is no command, or has no end mark where it belongs, is dropped and answered with STK_NOSYNC.
     [[nodiscard]] QByteArray receive(const QByteArray& bytes);
 
-    /// How many bytes of flash page data have come in, those of a page still under way included.
+    /// How many bytes of flash page data have come in on this connection, those of a page still under way included.
     [[nodiscard]] int flashBytesReceived() const;
 
 private:
@@ -27,6 +31,7 @@ private:
     [[nodiscard]] QByteArray programPage(quint8 memory, const QByteArray& data);
     [[nodiscard]] QByteArray readPage(quint8 memory, int size);
     [[nodiscard]] QByteArray readSignature();
+    [[nodiscard]] int bitClock() const;
     quint8 instruct(int opcode, int address, int data = 0);
 
     Chip& m_chip;

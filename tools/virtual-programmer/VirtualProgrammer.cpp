@@ -8,6 +8,7 @@
 VirtualProgrammer::VirtualProgrammer(Chip& chip, QObject* parent)
     : QObject(parent)
     , m_chip(chip)
+    , m_protocol(chip)
 {
     connect(&m_server, &QTcpServer::newConnection, this, &VirtualProgrammer::serveNext);
 }
@@ -40,7 +41,7 @@ void VirtualProgrammer::serveNext()
     m_socket = m_server.nextPendingConnection();
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     m_socket->setReadBufferSize(m_unplugAfter);
-    m_protocol.emplace(m_chip);
+    m_protocol.beginConnection();
     connect(m_socket, &QTcpSocket::readyRead, this, &VirtualProgrammer::onReadyRead);
     // Queued: a connection may be closed from within onReadyRead().
     connect(m_socket, &QTcpSocket::disconnected, this, &VirtualProgrammer::onDisconnected, Qt::QueuedConnection);
@@ -58,7 +59,7 @@ void VirtualProgrammer::onReadyRead()
     const QByteArray bytes = m_socket->readAll();
     if (m_isSilent)
         return;
-    const QByteArray answers = m_protocol->receive(bytes);
+    const QByteArray answers = m_protocol.receive(bytes);
     // Saved before the answer goes out: whoever has seen the end of a session finds its result in the file.
     if (!m_chip.isProgramming())
         saveState();
@@ -67,7 +68,7 @@ void VirtualProgrammer::onReadyRead()
     if (m_unplugAfter > 0) {
         // Never reads beyond the point where the plug comes out. The rest of the page stays unread, and closing a
         // connection with unread bytes resets it: avrdude waits for ever where one is closed in an orderly way.
-        const int bytesLeft = m_unplugAfter - m_protocol->flashBytesReceived();
+        const int bytesLeft = m_unplugAfter - m_protocol.flashBytesReceived();
         if (bytesLeft > 0)
             m_socket->setReadBufferSize(bytesLeft);
         else
@@ -79,7 +80,6 @@ void VirtualProgrammer::onDisconnected()
 {
     m_chip.leaveProgramming();
     saveState();
-    m_protocol.reset();
     m_socket->deleteLater();
     m_socket = nullptr;
     serveNext();

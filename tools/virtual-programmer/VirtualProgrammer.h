@@ -46,11 +46,11 @@ private:
     void saveState();
 
     Chip& m_chip;
+    Stk500 m_protocol;
     QString m_statePath;
     std::optional<ChipState> m_savedState;
     bool m_isSilent = false;
     int m_unplugAfter = 0;
     QTcpServer m_server;
     QTcpSocket* m_socket = nullptr; // of the connection being served; owned by the server
-    std::optional<Stk500> m_protocol; // of the connection being served
 };

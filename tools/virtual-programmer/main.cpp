@@ -11,6 +11,7 @@ namespace {
 
 constexpr int exitFailure = 1;
 constexpr int exitUsage = 2;
+constexpr int fastestClock = 20000000; // Hz; no part takes more
 
 int fail(int status, const QString& message)
 {
@@ -41,6 +42,11 @@ int main(int argc, char* argv[])
     const QCommandLineOption stateOption(QStringLiteral("state"),
                                          QStringLiteral("Keep the memories of the chip in this file across starts."),
                                          QStringLiteral("file"));
+    const QCommandLineOption clockOption(
+        QStringLiteral("clock"),
+        QStringLiteral("Connect a crystal or generator of this frequency, for fuses that take the clock from outside "
+                       "the chip, whichever kind and range they name. Without it there is none."),
+        QStringLiteral("hertz"));
     const QCommandLineOption silentOption(QStringLiteral("silent"),
                                           QStringLiteral("Accept connections and never answer."));
     const QCommandLineOption flipOption(QStringLiteral("flip"),
@@ -54,7 +60,7 @@ int main(int argc, char* argv[])
     parser.setApplicationDescription(QStringLiteral("A programmer and an AVR chip in one, for avrdude's\n"
                                                     "-c stk500v1 -P net:127.0.0.1:7016"));
     const QCommandLineOption helpOption = parser.addHelpOption();
-    parser.addOptions({portOption, partOption, stateOption, silentOption, flipOption, unplugOption});
+    parser.addOptions({portOption, partOption, stateOption, clockOption, silentOption, flipOption, unplugOption});
     if (!parser.parse(QCoreApplication::arguments()))
         return fail(exitUsage, parser.errorText());
     if (parser.isSet(helpOption))
@@ -87,6 +93,15 @@ int main(int argc, char* argv[])
         if (!bytes)
             return fail(exitUsage, QStringLiteral("'%1' is no number of bytes.").arg(parser.value(unplugOption)));
         programmer.setUnplugAfter(*bytes);
+    }
+    if (parser.isSet(clockOption)) {
+        const std::optional<int> frequency = number(parser.value(clockOption), 1, fastestClock);
+        if (!frequency)
+            return fail(exitUsage,
+                        QStringLiteral("'%1' is no clock frequency in Hz, from 1 to %2.")
+                            .arg(parser.value(clockOption))
+                            .arg(fastestClock));
+        chip.setClockInput(*frequency);
     }
     QString error;
     if (parser.isSet(stateOption) && !programmer.setStateFile(parser.value(stateOption), error))
