@@ -43,40 +43,42 @@ private slots:
         }
     }
 
-    void lostChips()
+    void lostAndRescued()
     {
         struct Row {
             const char* part;
-            quint8 low, high;
+            quint8 low, high, lock;
             int clock;
             int duration; // the shortest SCK_DURATION that the chip can follow; 256: none
         };
         for (const Row& row : {
                  // 1, 8, 0.128, 9.6 / 8, 0.128 / 8, 1.6 and 4 / 8 MHz inside the chip
-                 Row {"ATmega16", 0xE1, 0x99, 0, 4},
-                 {"ATmega8", 0xE4, 0xD9, 0, 1},
-                 {"ATmega328P", 0xE3, 0xD9, 0, 29},
-                 {"ATtiny13A", 0x6A, 0xFF, 0, 4},
-                 {"ATtiny13A", 0x6B, 0xFF, 0, 231},
-                 {"ATtiny85", 0xE3, 0xDF, 0, 3},
-                 {"ATtiny2313A", 0x62, 0xDF, 0, 8},
+                 Row {"ATmega16", 0xE1, 0x99, 0xFF, 0, 4},
+                 {"ATmega8", 0xE4, 0xD9, 0xFF, 0, 1},
+                 {"ATmega328P", 0xE3, 0xD9, 0xFF, 0, 29},
+                 {"ATtiny13A", 0x6A, 0xFF, 0xFF, 0, 4},
+                 {"ATtiny13A", 0x6B, 0xFF, 0xFF, 0, 231},
+                 {"ATtiny85", 0xE3, 0xDF, 0xFF, 0, 3},
+                 {"ATtiny2313A", 0x62, 0xDF, 0xFF, 0, 8},
                  // a crystal: none there, there, too slow
-                 {"ATmega2560", 0x7F, 0x99, 0, 256},
-                 {"ATmega2560", 0x7F, 0x99, 8000000, 4},
-                 {"ATmega2560", 0x7F, 0x99, 16000, 256},
+                 {"ATmega2560", 0x7F, 0x99, 0xFE, 0, 256},
+                 {"ATmega2560", 0x7F, 0x99, 0xFC, 14745600, 3},
+                 {"ATmega2560", 0x7F, 0x99, 0xFF, 16000, 256},
                  // RSTDISBL, DWEN, SPIEN
-                 {"ATmega8", 0xE1, 0x59, 0, 256},
-                 {"ATtiny13A", 0x6A, 0xFE, 0, 256},
-                 {"ATtiny2313A", 0x62, 0xDE, 0, 256},
-                 {"ATmega328P", 0x62, 0x99, 0, 256},
-                 {"ATtiny13A", 0x6A, 0xF7, 0, 256},
-                 {"ATtiny85", 0x62, 0x9F, 0, 256},
-                 {"ATmega16", 0xE1, 0xB9, 0, 256},
-                 {"ATtiny13A", 0xEA, 0xFF, 0, 256},
+                 {"ATmega8", 0xE1, 0x59, 0xFF, 0, 256},
+                 {"ATtiny13A", 0x6A, 0xFE, 0xFF, 0, 256},
+                 {"ATtiny2313A", 0x62, 0xDE, 0xFC, 0, 256},
+                 {"ATmega328P", 0x62, 0x99, 0xFF, 0, 256},
+                 {"ATtiny13A", 0x6A, 0xF7, 0xFE, 0, 256},
+                 {"ATtiny85", 0x62, 0x9F, 0xFF, 0, 256},
+                 {"ATmega16", 0xE1, 0xB9, 0xFF, 0, 256},
+                 {"ATtiny13A", 0xEA, 0xFF, 0xFC, 0, 256},
              }) {
             Chip chip(*Part::find(row.part));
             ChipState state = chip.state();
+            state.flash[0] = 'x';
             state.fuses = {row.low, row.high, 0xFF};
+            state.lock = row.lock;
             chip.setState(state);
             chip.setClockInput(row.clock);
 
@@ -90,6 +92,8 @@ private slots:
                 ++shortest;
             QCOMPARE(row.part + QString(" %1 %2: %3").arg(row.low).arg(row.high).arg(shortest),
                      row.part + QString(" %1 %2: %3").arg(row.low).arg(row.high).arg(row.duration));
+            chip.rescue();
+            QVERIFY2(answers(8) && chip.state().flash[0] == (row.lock == 0xFF ? 'x' : '\xff'), row.part);
         }
     }
 };

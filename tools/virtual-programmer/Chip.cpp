@@ -18,6 +18,13 @@ Chip::Chip(const Part& part)
     leaveProgramming();
 }
 
+void Chip::rescue()
+{
+    if (!mayWrite())
+        eraseChip();
+    m_state.fuses = m_part.factoryFuses;
+}
+
 bool Chip::enterProgramming(int bitClock)
 {
     leaveProgramming();

@@ -30,6 +30,10 @@ public:
     /// generator, a crystal or a resonator of any range.
     void setClockInput(int frequency) { m_clockInput = frequency; }
 
+    /// Puts the factory fuses back as a high-voltage programmer does, which needs none of them to be right. Lock modes
+    /// 2 and 3 protect the fuses from that too, so a chip in one of them is erased first.
+    void rescue();
+
     /// Starts the chip anew, held in reset: the fuses as they are now take effect. Then enables programming with
     /// instructions shifted at `bitClock` (1 Hz to 10 MHz). False when the chip does not answer: its fuses have taken
     /// reset or serial programming away, or its clock is not there or too slow.

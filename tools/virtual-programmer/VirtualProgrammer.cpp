@@ -29,6 +29,12 @@ bool VirtualProgrammer::setStateFile(const QString& path, QString& error)
     return true;
 }
 
+void VirtualProgrammer::rescueChip()
+{
+    m_chip.rescue();
+    saveState();
+}
+
 bool VirtualProgrammer::listen(quint16 port)
 {
     return m_server.listen(QHostAddress::LocalHost, port);

@@ -24,6 +24,9 @@ public:
     /// is not usable; it is then as before.
     [[nodiscard]] bool setStateFile(const QString& path, QString& error);
 
+    /// Brings back a chip that fuses have shut off, see Chip::rescue(); the state file follows.
+    void rescueChip();
+
     /// Takes every byte and never answers.
     void setSilent(bool isSilent) { m_isSilent = isSilent; }
 

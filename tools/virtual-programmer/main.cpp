@@ -47,6 +47,10 @@ int main(int argc, char* argv[])
         QStringLiteral("Connect a crystal or generator of this frequency, for fuses that take the clock from outside "
                        "the chip, whichever kind and range they name. Without it there is none."),
         QStringLiteral("hertz"));
+    const QCommandLineOption rescueOption(
+        QStringLiteral("rescue"),
+        QStringLiteral("Start the chip with factory fuses, as after high-voltage programming. Lock bits protect fuses "
+                       "too: a chip with LB1 or LB2 programmed is erased first; any other keeps its memories."));
     const QCommandLineOption silentOption(QStringLiteral("silent"),
                                           QStringLiteral("Accept connections and never answer."));
     const QCommandLineOption flipOption(QStringLiteral("flip"),
@@ -60,7 +64,8 @@ int main(int argc, char* argv[])
     parser.setApplicationDescription(QStringLiteral("A programmer and an AVR chip in one, for avrdude's\n"
                                                     "-c stk500v1 -P net:127.0.0.1:7016"));
     const QCommandLineOption helpOption = parser.addHelpOption();
-    parser.addOptions({portOption, partOption, stateOption, clockOption, silentOption, flipOption, unplugOption});
+    parser.addOptions(
+        {portOption, partOption, stateOption, clockOption, rescueOption, silentOption, flipOption, unplugOption});
     if (!parser.parse(QCoreApplication::arguments()))
         return fail(exitUsage, parser.errorText());
     if (parser.isSet(helpOption))
@@ -106,6 +111,8 @@ int main(int argc, char* argv[])
     QString error;
     if (parser.isSet(stateOption) && !programmer.setStateFile(parser.value(stateOption), error))
         return fail(exitFailure, error);
+    if (parser.isSet(rescueOption))
+        programmer.rescueChip();
     if (!programmer.listen(static_cast<quint16>(*port)))
         return fail(exitFailure,
                     QStringLiteral("Cannot listen on 127.0.0.1:%1: %2").arg(*port).arg(programmer.errorString()));
