@@ -27,10 +27,9 @@ namespace {
 
 /// The main window in a fresh working folder, and the virtual programmer with a fresh chip in it, chosen.
 struct Desk {
-    explicit Desk(const QStringList& arguments = {})
+    explicit Desk(const QString& options = {})
     {
-        programmer.start(VIRTUAL_PROGRAMMER, QStringList {"--port", "0", "--state", "chip"} + arguments);
-        programmer.waitForReadyRead();
+        startProgrammer(options);
         port = QRegularExpression(":\\d+").match(programmer.readAllStandardOutput()).captured().toUtf8();
         for (const QString file : {"programmer/Virtual programmer.json", "profiles/Blink complete.json",
                                    "mcu/ATmega16.json", "demo/blink.hex", "demo/greeting.eep"})
@@ -39,6 +38,17 @@ struct Desk {
         window->show();
         avrdude = window->findChild<Avrdude*>();
         window->findChild<SettingsView*>()->programmer()->setCurrentText("Virtual programmer");
+    }
+
+    /// Starts the virtual programmer, again where it runs already; the chip's memories stay.
+    void startProgrammer(const QString& options)
+    {
+        programmer.kill();
+        programmer.waitForFinished();
+        programmer.start(VIRTUAL_PROGRAMMER,
+                         QStringList {"--port", port.isEmpty() ? "0" : port.mid(1), "--state", "chip"}
+                             + options.split(' ', Qt::SkipEmptyParts));
+        programmer.waitForReadyRead();
     }
 
     /// Runs avrdude behind the window's back.
@@ -158,6 +168,29 @@ private slots:
         }
     }
 
+    void lostChip()
+    {
+        Desk desk;
+        emit desk.window->findChild<AttributesView*>()->mcuList()->textActivated("ATmega16");
+        desk.boxes.take();
+        const auto* buttons = desk.window->findChild<FusesButtonsView*>();
+        QTest::keyClicks(desk.window->findChild<FusesByteView*>()->value(), "ef"); // a crystal
+        QCOMPARE(desk.boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
+        const QString read = "FUSES: Fuse bytes read successfully.";
+        // What avrdude 7.1 says to an STK500 without a chip ends with "use -F to override this check".
+        const QString lost = "AVRDUDE: Wrong microcontroller selected.";
+        for (const auto& [bench, box, fuses] : {std::tuple("", lost, "EF99FF"),
+                                                {"--clock=8000000", read, "EF99FF"},
+                                                {"--clock=32768", lost, "EF99FF"}, // slower than the bit clock allows
+                                                {"--rescue", read, "E199FF"},
+                                                {"", read, "E199FF"}}) {
+            desk.startProgrammer(bench);
+            QCOMPARE(bench + desk.boxAfter(buttons->readButton()), bench + box);
+            QCOMPARE(desk.avrdude->logText().contains("error: no device"), box == lost);
+            QCOMPARE(desk.fuses(), QString(fuses));
+        }
+    }
+
     void failures()
     {
         using Row = std::array<const char*, 4>;
@@ -168,7 +201,7 @@ private slots:
               {"--silent", "m16", "fw.bin", "Programmer not found."},
               {"--flip=0x10", "m16", "fw.bin", "Verification error."},
               {"--unplug-after=50", "m16", "fw.bin", "Programmer not found."}}) {
-            Desk desk(QString(programmer).split(' ', Qt::SkipEmptyParts));
+            Desk desk(programmer);
             desk.folder.write("fw.bin", QByteArray(100, 'x'));
             desk.folder.write("garbage.hex", "this is no hex file\n");
             desk.avrdude->settings().mcuId = part;
