@@ -178,7 +178,7 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
         if (!warning.isEmpty())
             lines += warning;
     }
-    return lines.join(QLatin1Char('\n'));
+    return lines.join(QLatin1Char('\n')).replace(QLatin1Char('\n'), QLatin1String("\n    "));
 }
 
 QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
