@@ -159,7 +159,7 @@ private slots:
                         byte.currentValue = setting.key().toUInt() * (bits & (~bits + 1));
                         QString words;
                         for (const FuseMeanings::Text& about : meanings.of(byte))
-                            if (about.bits == bits)
+                            if ((about.bits & bits) != 0)
                                 words = about.text.section('\n', 1, 1).section(": ", 1);
                         QVERIFY2(words.contains(QRegularExpression("^[^_]+$")) && words != "reserved"
                                      && words != setting.value().toString(),

@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 Der Weg zurück: ein Debugger mit debugWIRE oder ein Hochvolt-Programmer.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Ein serieller Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: JTAG oder ein Hochvolt-Programmer.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Ein JTAG-Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: ein Programmer für ISP oder, beim ATxmega, für PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip nicht mehr.
@@ -152,6 +140,30 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Ein Programmer kann den Chip nicht mehr beschreiben.
+Der Weg zurück: alles löschen.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Ein serieller Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: JTAG, wenn der Chip es hat, oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Ein JTAG-Programmer erreicht den Chip nicht mehr.
+Der Weg zurück: ISP, beim ATxmega PDI, oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Diese Einstellung ist reserviert: Der Chip antwortet danach vielleicht nicht mehr.
+Der Weg zurück: ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Ein Programmer kann den Chip weder lesen noch beschreiben.
 Der Weg zurück: alles löschen.</translation>
     </message>
 </context>

@@ -130,18 +130,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
@@ -151,6 +139,30 @@ The way back: a programmer with high-voltage UPDI.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>A programmer can no longer write the chip.
+The way back: erase all of it.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>A programmer can no longer read or write the chip.
 The way back: erase all of it.</translation>
     </message>
 </context>

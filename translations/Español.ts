@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 La vuelta atrás: un depurador con debugWIRE o un programador de alto voltaje.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Un programador serie ya no alcanza el chip.
-La vuelta atrás: JTAG o un programador de alto voltaje.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Un programador JTAG ya no alcanza el chip.
-La vuelta atrás: un programador ISP o, en un ATxmega, PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>El pin UPDI recibe otra función: un programador UPDI normal ya no alcanza el chip.
@@ -152,6 +140,30 @@ La vuelta atrás: un programador con UPDI de alto voltaje.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Un programador ya no puede grabar el chip.
+La vuelta atrás: borrarlo todo.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Un programador serie ya no alcanza el chip.
+La vuelta atrás: JTAG, si el chip lo tiene, o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Un programador JTAG ya no alcanza el chip.
+La vuelta atrás: ISP, PDI en un ATxmega, o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Este ajuste está reservado: puede que el chip ya no responda.
+La vuelta atrás: un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programador ya no puede leer ni grabar el chip.
 La vuelta atrás: borrarlo todo.</translation>
     </message>
 </context>

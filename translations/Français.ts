@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 Le retour : un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Un programmateur série n&apos;atteint plus la puce.
-Le retour : JTAG ou un programmateur haute tension.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Un programmateur JTAG n&apos;atteint plus la puce.
-Le retour : un programmateur ISP ou, avec un ATxmega, PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire n&apos;atteint plus la puce.
@@ -152,6 +140,30 @@ Le retour : un programmateur avec UPDI haute tension.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Un programmateur ne peut plus écrire la puce.
+Le retour : tout effacer.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Un programmateur série n&apos;atteint plus la puce.
+Le retour : JTAG, si la puce en a un, ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Un programmateur JTAG n&apos;atteint plus la puce.
+Le retour : ISP, PDI avec un ATxmega, ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Ce réglage est réservé : la puce risque de ne plus répondre.
+Le retour : un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programmateur ne peut plus ni lire ni écrire la puce.
 Le retour : tout effacer.</translation>
     </message>
 </context>

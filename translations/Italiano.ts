@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 La via del ritorno: un debugger con debugWIRE o un programmatore ad alta tensione.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Un programmatore seriale non raggiunge più il chip.
-La via del ritorno: JTAG o un programmatore ad alta tensione.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Un programmatore JTAG non raggiunge più il chip.
-La via del ritorno: un programmatore ISP o, con un ATxmega, PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>Il pin UPDI riceve un&apos;altra funzione: un comune programmatore UPDI non raggiunge più il chip.
@@ -152,6 +140,30 @@ La via del ritorno: un programmatore con UPDI ad alta tensione.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Un programmatore non può più scrivere il chip.
+La via del ritorno: cancellare tutto.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Un programmatore seriale non raggiunge più il chip.
+La via del ritorno: JTAG, se il chip lo ha, o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Un programmatore JTAG non raggiunge più il chip.
+La via del ritorno: ISP, PDI con un ATxmega, o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Questa impostazione è riservata: il chip potrebbe non rispondere più.
+La via del ritorno: un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programmatore non può più né leggere né scrivere il chip.
 La via del ritorno: cancellare tutto.</translation>
     </message>
 </context>

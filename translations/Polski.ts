@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 Droga powrotna: debugger z debugWIRE albo programator wysokonapięciowy.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Programator szeregowy nie dosięgnie już układu.
-Droga powrotna: JTAG albo programator wysokonapięciowy.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Programator JTAG nie dosięgnie już układu.
-Droga powrotna: programator ISP, a przy ATxmega PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>Wyprowadzenie UPDI dostaje inną funkcję: zwykły programator UPDI nie dosięgnie już układu.
@@ -152,6 +140,30 @@ Droga powrotna: programator z wysokonapięciowym UPDI.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Programator nie może już zapisać układu.
+Droga powrotna: skasować cały układ.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Programator szeregowy nie dosięgnie już układu.
+Droga powrotna: JTAG, jeśli układ go ma, albo programator wysokonapięciowy.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Programator JTAG nie dosięgnie już układu.
+Droga powrotna: ISP, przy ATxmega PDI, albo programator wysokonapięciowy.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>To ustawienie jest zastrzeżone: układ może przestać odpowiadać.
+Droga powrotna: programator wysokonapięciowy.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Programator nie może już odczytać ani zapisać układu.
 Droga powrotna: skasować cały układ.</translation>
     </message>
 </context>

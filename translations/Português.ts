@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 O caminho de volta: um depurador com debugWIRE ou um gravador de alta tensão.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Um gravador serial não alcança mais o chip.
-O caminho de volta: JTAG ou um gravador de alta tensão.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Um gravador JTAG não alcança mais o chip.
-O caminho de volta: um gravador ISP ou, com um ATxmega, PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>O pino UPDI recebe outra função: um gravador UPDI comum não alcança mais o chip.
@@ -152,6 +140,30 @@ O caminho de volta: um gravador com UPDI de alta tensão.</translation>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Um gravador não consegue mais gravar o chip.
+O caminho de volta: apagar tudo.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Um gravador serial não alcança mais o chip.
+O caminho de volta: JTAG, se o chip tiver, ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Um gravador JTAG não alcança mais o chip.
+O caminho de volta: ISP, PDI com um ATxmega, ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Este ajuste é reservado: o chip talvez não responda mais.
+O caminho de volta: um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Um gravador não consegue mais ler nem gravar o chip.
 O caminho de volta: apagar tudo.</translation>
     </message>
 </context>

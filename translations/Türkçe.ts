@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 Geri dönüş yolu: debugWIRE&apos;lı bir hata ayıklayıcı ya da yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Seri programlayıcı çipe artık ulaşamaz.
-Geri dönüş yolu: JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>JTAG programlayıcısı çipe artık ulaşamaz.
-Geri dönüş yolu: ISP, ATxmega&apos;da ise PDI programlayıcısı.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>UPDI bacağı başka bir görev alır: sıradan bir UPDI programlayıcısı çipe artık ulaşamaz.
@@ -152,6 +140,30 @@ Geri dönüş yolu: yüksek gerilimli UPDI&apos;si olan bir programlayıcı.</tr
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Programlayıcı çipe artık yazamaz.
+Geri dönüş yolu: tümünü silmek.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Seri programlayıcı çipe artık ulaşamaz.
+Geri dönüş yolu: çipte varsa JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>JTAG programlayıcısı çipe artık ulaşamaz.
+Geri dönüş yolu: ISP, ATxmega&apos;da PDI ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Bu ayar ayrılmıştır: çip artık yanıt vermeyebilir.
+Geri dönüş yolu: yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Programlayıcı çipi artık ne okuyabilir ne de yazabilir.
 Geri dönüş yolu: tümünü silmek.</translation>
     </message>
 </context>

@@ -130,18 +130,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 Путь назад: отладчик с debugWIRE или высоковольтный программатор.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Последовательный программатор больше не достучится до МК.
-Путь назад: JTAG или высоковольтный программатор.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Программатор JTAG больше не достучится до МК.
-Путь назад: программатор ISP, а для ATxmega — PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI больше не достучится до МК.
@@ -151,6 +139,30 @@ The way back: a programmer with high-voltage UPDI.</source>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Программатор больше не сможет записать МК.
+Путь назад: стереть всё.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Последовательный программатор больше не достучится до МК.
+Путь назад: JTAG, если он есть в МК, или высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Программатор JTAG больше не достучится до МК.
+Путь назад: ISP, для ATxmega — PDI, или высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Эта настройка зарезервирована: МК может перестать отвечать.
+Путь назад: высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Программатор больше не сможет ни считать, ни записать МК.
 Путь назад: стереть всё.</translation>
     </message>
 </context>

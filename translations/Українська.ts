@@ -131,18 +131,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 Шлях назад: налагоджувач із debugWIRE або високовольтний програматор.</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>Послідовний програматор більше не дістанеться до МК.
-Шлях назад: JTAG або високовольтний програматор.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>Програматор JTAG більше не дістанеться до МК.
-Шлях назад: програматор ISP, а для ATxmega — PDI.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>Вивід UPDI отримує інше призначення: звичайний програматор UPDI більше не дістанеться до МК.
@@ -152,6 +140,30 @@ The way back: a programmer with high-voltage UPDI.</source>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Програматор більше не зможе записати МК.
+Шлях назад: стерти все.</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Послідовний програматор більше не дістанеться до МК.
+Шлях назад: JTAG, якщо він є в МК, або високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Програматор JTAG більше не дістанеться до МК.
+Шлях назад: ISP, для ATxmega — PDI, або високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>Це налаштування зарезервоване: МК може більше не відповідати.
+Шлях назад: високовольтний програматор.</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>Програматор більше не зможе ні зчитати, ні записати МК.
 Шлях назад: стерти все.</translation>
     </message>
 </context>

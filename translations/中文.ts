@@ -130,18 +130,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 恢复方法：使用支持 debugWIRE 的调试器或高压编程器。</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>串行编程器将无法再访问芯片。
-恢复方法：使用 JTAG 或高压编程器。</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>JTAG 编程器将无法再访问芯片。
-恢复方法：使用 ISP 编程器，ATxmega 则使用 PDI 编程器。</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
@@ -151,6 +139,30 @@ The way back: a programmer with high-voltage UPDI.</source>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>编程器将无法再写入芯片。
+恢复方法：全部擦除。</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>串行编程器将无法再访问芯片。
+恢复方法：使用 JTAG（如果芯片有）或高压编程器。</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>JTAG 编程器将无法再访问芯片。
+恢复方法：使用 ISP（ATxmega 使用 PDI）或高压编程器。</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>此设置为保留值：芯片可能不再应答。
+恢复方法：使用高压编程器。</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>编程器将无法再读取或写入芯片。
 恢复方法：全部擦除。</translation>
     </message>
 </context>

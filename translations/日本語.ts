@@ -130,18 +130,6 @@ The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
 元に戻すには：debugWIRE 対応のデバッガまたは高電圧書込器を使います。</translation>
     </message>
     <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, or a high-voltage programmer.</source>
-        <translation>シリアル書込器はチップにアクセスできなくなります。
-元に戻すには：JTAG または高電圧書込器を使います。</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: a programmer for ISP, or for PDI with an ATxmega.</source>
-        <translation>JTAG 書込器はチップにアクセスできなくなります。
-元に戻すには：ISP 書込器（ATxmega では PDI 書込器）を使います。</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
@@ -151,6 +139,30 @@ The way back: a programmer with high-voltage UPDI.</source>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>書込器はチップに書き込めなくなります。
+元に戻すには：全消去します。</translation>
+    </message>
+    <message>
+        <source>A serial programmer can no longer reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>シリアル書込器はチップにアクセスできなくなります。
+元に戻すには：JTAG（チップにある場合）または高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer can no longer reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>JTAG 書込器はチップにアクセスできなくなります。
+元に戻すには：ISP（ATxmega では PDI）または高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>This setting is reserved: the chip may no longer answer.
+The way back: a high-voltage programmer.</source>
+        <translation>この設定は予約されています。チップが応答しなくなることがあります。
+元に戻すには：高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A programmer can no longer read or write the chip.
+The way back: erase all of it.</source>
+        <translation>書込器はチップの読み出しも書き込みもできなくなります。
 元に戻すには：全消去します。</translation>
     </message>
 </context>

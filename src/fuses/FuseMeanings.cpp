@@ -78,8 +78,9 @@ struct Warning {
     const char* text;
 };
 
-// An ATxmega has no line for its reset pin: PDI works without it.
-constexpr std::array<Warning, 8> warnings = {{
+// Fields that begin with "safe" lock nobody out: PDI works without the reset pin, and a part that knows high-voltage
+// programming only gets its clock from there.
+constexpr std::array<Warning, 10> warnings = {{
     {"^rstdisbl:gpio",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.\n"
@@ -91,11 +92,11 @@ constexpr std::array<Warning, 8> warnings = {{
     {"^spien:isp_disabled",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "A serial programmer can no longer reach the chip.\n"
-                       "The way back: JTAG, or a high-voltage programmer.")},
+                       "The way back: JTAG, if the chip has it, or a high-voltage programmer.")},
     {"^jtagen:jtag_disabled",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "A JTAG programmer can no longer reach the chip.\n"
-                       "The way back: a programmer for ISP, or for PDI with an ATxmega.")},
+                       "The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.")},
     {"^(updi_rstpincfg:(gpio|rst)|updipincfg:gpio)$",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.\n"
@@ -108,7 +109,15 @@ constexpr std::array<Warning, 8> warnings = {{
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "Without this clock on its pins the chip does not answer.\n"
                        "The way back: connect a clock or a crystal, or use a high-voltage programmer.")},
-    {"^lb:(?!no)",
+    {"^((sut_)?cksel|updi_rstpincfg):$",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "This setting is reserved: the chip may no longer answer.\n"
+                       "The way back: a high-voltage programmer.")},
+    {"^lb:(prog_ver_disabled|rwlock)",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "A programmer can no longer read or write the chip.\n"
+                       "The way back: erase all of it.")},
+    {"^lb:(prog_disabled|wlock)",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "A programmer can no longer write the chip.\n"
                        "The way back: erase all of it.")},
@@ -155,7 +164,7 @@ QVector<FuseMeanings::Text> FuseMeanings::of(const FuseByte& byte) const
     QVector<Text> texts;
     const auto fields = m_fields.value(byte.id);
     for (const Field& field : fields)
-        texts.append({field.bits, textOf(field, byte)});
+        texts.append({existing(byte, field.bits), textOf(field, byte)});
     return texts;
 }
 
@@ -163,7 +172,8 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
 {
     const quint32 bits = existing(byte, field.bits);
     const auto symbol = [&field](quint32 value) {
-        return field.symbols.value(QString::number(numberIn(value, field.bits))).toString();
+        const QJsonValue others = field.symbols.value(QLatin1String("*"));
+        return field.symbols.value(QString::number(numberIn(value, field.bits))).toString(others.toString());
     };
     const auto setting = [&](quint32 value) {
         return field.symbols.isEmpty()
@@ -183,8 +193,6 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
 
 QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
 {
-    if (symbol.isEmpty())
-        return QStringLiteral("reserved");
     const QJsonValue ofField = m_words.value(field + QLatin1Char(':') + symbol);
     const QJsonValue words = ofField.isString() ? ofField : m_words.value(symbol);
     if (words.isString())

@@ -33,15 +33,15 @@ public:
 private:
     struct Field {
         quint32 bits;
-        QString name; ///< the vendor's, in lower case; tells fields apart that differ in more than their bits
+        QString name; ///< the vendor's, in lower case, or ours where one name of theirs stands for two things
         QString text; ///< what it is for
-        QJsonObject symbols; ///< by value; none: the field holds a number
+        QJsonObject symbols; ///< by value, "*" for all others; none: the field holds a number
     };
 
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
 
     QHash<QString, QVector<Field>> m_fields; ///< by the byte's id
-    QJsonObject m_words; ///< by symbol, or by field and symbol where fields share one
+    QJsonObject m_words; ///< by symbol, or by field and symbol where fields share one; those without one are reserved
     QVector<QPair<QRegularExpression, QString>> m_rules; ///< make words of all other symbols, one rule after another
 };
