@@ -148,10 +148,11 @@ private slots:
             const QJsonValue described = BytesModel::description(avrdude.settings())["FuseBytes"];
             for (int i = 0; i < avrdude.settings().fusesBytes.size(); ++i) {
                 const QJsonObject fields = described[i]["fields"].toObject();
+                QCOMPARE(meanings.of(avrdude.settings().fusesBytes[i]).size(), fields.size());
                 for (const QString& mask : fields.keys()) {
                     const QString field = fields[mask].toString();
                     if (!left.removeOne(field))
-                        continue; // a number, or seen with another part
+                        continue; // seen with another part
                     const auto bits = mask.toUInt(nullptr, 16);
                     const QJsonObject settings = symbols[field].toObject();
                     for (auto setting = settings.begin(); setting != settings.end(); ++setting) {

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QToolTip>
 #include <QtTest>
 
 namespace {
@@ -113,7 +114,10 @@ private slots:
                      + changed);
         QCOMPARE(low->fusesBit()[5]->sizeHint(), plainSize);
         QVERIFY(low->fusesBit()[5]->font().bold() && !low->fusesBit()[0]->font().bold());
+        low->value()->setAttribute(Qt::WA_UnderMouse);
+        QToolTip::showText({}, low->value()->toolTip(), low->value());
         QTest::keyClicks(low->value(), "62");
+        QCOMPARE(QToolTip::text(), low->value()->toolTip());
         QVERIFY(low->fusesBit()[0]->toolTip().endsWith(" = " + factory) && !low->fusesBit()[5]->font().bold());
 
         bench.avrdude.settings().mcuId = "another";

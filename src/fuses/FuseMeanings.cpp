@@ -26,6 +26,7 @@ bool isIn(quint32 bits, std::size_t number)
 /// Those of @p bits that @p byte has.
 quint32 existing(const FuseByte& byte, quint32 bits)
 {
+    bits &= 0xFF;
     for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
         if (!byte.fuseBits[i].isUsed())
             bits &= ~(1U << i);
@@ -141,16 +142,17 @@ void FuseMeanings::load(const SettingsRecord& settings)
     const QJsonObject words = readMeanings(QStringLiteral("words.json"));
     m_fields.clear();
     for (const QJsonValue& byte : bytes) {
-        QVector<Field>& fields = m_fields[byte[QLatin1String("id")].toString()];
+        QVector<Field> fields;
         const QJsonObject listed = byte[QLatin1String("fields")].toObject();
         for (auto field = listed.begin(); field != listed.end(); ++field) {
             const QString key = field.value().toString(); // the name, and what tells the field from its namesakes
             const QString name = key.section(QLatin1Char(' '), 0, 0);
             const QString text = words[QLatin1String("fields")][name].toString();
-            if (!text.isEmpty())
+            if (symbols.contains(key) && !text.isEmpty())
                 fields.append({field.key().toUInt(nullptr, 16), name, text, symbols.value(key).toObject()});
         }
         std::sort(fields.begin(), fields.end(), [](const Field& a, const Field& b) { return a.bits > b.bits; });
+        m_fields.insert(byte[QLatin1String("id")].toString(), fields);
     }
     m_words = words.value(QLatin1String("symbols")).toObject();
     m_rules.clear();
@@ -163,8 +165,10 @@ QVector<FuseMeanings::Text> FuseMeanings::of(const FuseByte& byte) const
 {
     QVector<Text> texts;
     const auto fields = m_fields.value(byte.id);
-    for (const Field& field : fields)
-        texts.append({existing(byte, field.bits), textOf(field, byte)});
+    for (const Field& field : fields) {
+        if (const quint32 bits = existing(byte, field.bits))
+            texts.append({bits, textOf(field, byte)});
+    }
     return texts;
 }
 

@@ -35,7 +35,7 @@ private:
         quint32 bits;
         QString name; ///< the vendor's, in lower case, or ours where one name of theirs stands for two things
         QString text; ///< what it is for
-        QJsonObject symbols; ///< by value, "*" for all others; none: the field holds a number
+        QJsonObject symbols; ///< by value, "*" for all others; without any the field holds a number
     };
 
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;

@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 namespace {
 
@@ -31,12 +32,14 @@ bool isEditingKey(int key)
     }
 }
 
-/// Says @p texts to who hovers over @p widget and to who listens to it.
+/// Says @p texts to who points at @p widget and to who listens to it.
 void tell(QWidget* widget, const QStringList& texts)
 {
     const QString text = texts.join(QLatin1Char('\n'));
     widget->setToolTip(boxText(text));
     widget->setAccessibleDescription(text);
+    if (QToolTip::isVisible() && widget->underMouse()) // typing does not close it
+        QToolTip::showText(QCursor::pos(), widget->toolTip(), widget);
 }
 
 /// Marks the label of @p checkBox or takes the mark away: bold, and no wider than it is otherwise, so that no label
