@@ -37,6 +37,8 @@ KorvelApp* mainWindow()
     return nullptr;
 }
 
+#ifdef Q_OS_UNIX
+
 /// Closes the main window and ends the event loops, those of open boxes first.
 void endProgram()
 {
@@ -44,8 +46,6 @@ void endProgram()
         window->close();
     QCoreApplication::exit();
 }
-
-#ifdef Q_OS_UNIX
 
 int signalPipe[2]; // what is written into the second end, by a signal's handler, comes out of the first
 
