@@ -16,6 +16,10 @@ void Toolkit::useHighDpi()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#ifdef Q_OS_WIN
+    // Many screens are set to 150 % there: rounded to 200, the window would be higher than the screen.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#endif
 }
 
 void Toolkit::useUtf8Names()
