@@ -97,7 +97,8 @@ private slots:
             folder.write(file, content);
             told += Startup::language();
             KorvelApp window;
-            log += window.findChild<Avrdude*>()->logText().remove(QDir::currentPath() + '/') + '\n';
+            log += window.findChild<Avrdude*>()->logText().remove(QDir::toNativeSeparators(QDir::currentPath() + '/'))
+                + '\n';
             window.close();
             told += boxes.take();
         }

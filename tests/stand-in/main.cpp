@@ -14,6 +14,10 @@
 #include <cstdio>
 #include <cstdlib>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
@@ -48,6 +52,9 @@ int main(int argc, char* argv[])
         } else if (word == "exit") {
             return operand.toInt();
         } else if (word == "crash") {
+#ifdef Q_OS_WIN
+            ::TerminateProcess(::GetCurrentProcess(), STATUS_ACCESS_VIOLATION); // an abort() would end normally
+#endif
             std::abort();
         }
     }
