@@ -1,0 +1,204 @@
+# Sourced after common.sh. Makes what Korvel for Windows is built with and what it ships with, each once: Qt, its serial
+# port module, the USB libraries of avrdude, and avrdude. All of it lies in the cache, with the licences.
+
+export KORVEL_WINDOWS_CACHE=${KORVEL_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvel/windows}
+windows_target=x86_64-w64-mingw32
+windows_toolchain=$PWD/cmake/windows-x86_64.cmake
+windows_manifest=$PWD/packaging/windows # that of avrdude
+
+windows_packages=(g++ make perl cmake ninja-build g++-mingw-w64-x86-64-posix flex bison cmark-gfm ca-certificates xz-utils
+    bzip2 fonts-dejavu-core wine wine64)
+
+# Prints the path of the upstream archive of a Debian source package. The lists of sources lie in the cache: the
+# system's own are left alone, and need not name any.
+fetch_source() {
+    local package=$1 folder=$KORVEL_WINDOWS_CACHE/sources/$1 lists=$KORVEL_WINDOWS_CACHE/apt file
+    if [ ! -e "$folder/fetched" ]; then
+        rm -rf "$lists"
+        mkdir -p "$folder" "$lists"/{parts,lists/partial,cache/archives/partial}
+        for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.{list,sources}; do
+            [ ! -e "$file" ] || sed -E 's/^deb( |\t)/deb-src\1/; s/^Types:.*/Types: deb-src/' "$file" \
+                >"$lists/parts/$(basename "$file" .list | sed 's/^sources$/main/; /\./!s/$/.list/')"
+        done
+        local apt=(apt-get -q -q -o "Dir::Etc::SourceList=/dev/null" -o "Dir::Etc::SourceParts=$lists/parts"
+            -o "Dir::State::Lists=$lists/lists" -o "Dir::Cache=$lists/cache" -o APT::Sandbox::User=)
+        "${apt[@]}" update >&2
+        (cd "$folder" && "${apt[@]}" source --only-source --tar-only "$package" >&2) || return 1
+        rm -r "$lists"
+        touch "$folder/fetched"
+    fi
+    ls "$folder"/*.orig.tar.*
+}
+
+# Unpacks a source into the folder "work" of the cache and prints where it lies; a folder is taken as it is.
+unpack() {
+    local source=$1 folder=$KORVEL_WINDOWS_CACHE/work/$2
+    if [ -d "$source" ]; then
+        cp -r "$source" "$folder"
+    else
+        mkdir -p "$folder"
+        tar -C "$folder" -xf "$source" --strip-components=1
+    fi
+    echo "$folder"
+}
+
+# Says where a part comes from, and lays its licences beside that: credit NAME ORIGIN FILE...
+credit() {
+    local folder=$KORVEL_WINDOWS_CACHE/licences/$1
+    rm -rf "$folder"
+    mkdir -p "$folder"
+    echo "$2" >"$folder/ORIGIN.txt"
+    shift 2
+    local file
+    for file in "$@"; do
+        cp "$file" "$folder/$(basename "$file" .txt).txt"
+    done
+}
+
+# The version in the name of an upstream archive.
+version_of() { basename "$1" | sed -E 's/^[^_]*_(.*)\.orig\.tar\..*/\1/'; }
+
+make_qt() {
+    local archive source build=$KORVEL_WINDOWS_CACHE/work/qt-build name
+    archive=$(fetch_source qtbase-opensource-src)
+    source=$(unpack "$archive" qt)
+    # The linker wants these two in this spelling.
+    mkdir -p "$KORVEL_WINDOWS_CACHE/work/spelling" "$build"
+    for name in Secur32 Crypt32; do
+        ln -sf "/usr/$windows_target/lib/lib${name,}.a" "$KORVEL_WINDOWS_CACHE/work/spelling/lib$name.a"
+    done
+    rm -rf "$KORVEL_WINDOWS_CACHE/qt"
+    # The prefix is baked into the libraries; it is none of this machine's paths.
+    cd "$build"
+    "$source/configure" -opensource -confirm-license -xplatform win32-g++ \
+        -device-option CROSS_COMPILE=$windows_target- -prefix /qt -extprefix "$KORVEL_WINDOWS_CACHE/qt" \
+        -release -shared -no-opengl -no-dbus -no-icu -schannel -no-openssl -qt-zlib -qt-pcre -qt-libpng -qt-libjpeg \
+        -qt-freetype -qt-harfbuzz -nomake examples -nomake tests -no-feature-sql -no-feature-printer \
+        -no-feature-tabletevent -no-feature-concurrent -no-pch -L "$KORVEL_WINDOWS_CACHE/work/spelling" \
+        QMAKE_CXXFLAGS+="-ffile-prefix-map=$source=qt"
+    make -j"$(nproc)"
+    make install
+    local licences=("$source"/LICENSE.{LGPL3,GPL3})
+    credit qt "Qt $(version_of "$archive"), unchanged: Debian's source package qtbase-opensource-src" "${licences[@]}"
+    local part text
+    for part in double-conversion easing forkfd freetype harfbuzz-ng libjpeg libpng md4 md5 pcre2 rfc6234 sha1 sha3 \
+        tinycbor zlib; do
+        for text in "$source/src/3rdparty/$part"/{LICENSE,COPYING,LICENCE,LICENSE.*,COPYING.*,docs/*.TXT}; do
+            [ ! -f "$text" ] || cp "$text" "$KORVEL_WINDOWS_CACHE/licences/qt/$part-$(basename "$text" .txt).txt"
+        done
+    done
+}
+
+make_qtserialport() {
+    local archive=${KORVEL_QTSERIALPORT:-} source version origin="the source that KORVEL_QTSERIALPORT named when this was built"
+    if [ -z "$archive" ]; then
+        origin="Debian's source package qtserialport-opensource-src"
+        archive=$(fetch_source qtserialport-opensource-src) || {
+            echo "The source of Qt's serial port module cannot be had. Get qtserialport-everywhere-src 5.15 from the" \
+                "Qt project and start again with KORVEL_QTSERIALPORT=ARCHIVE_OR_FOLDER." >&2
+            return 1
+        }
+    fi
+    source=$(unpack "$archive" qtserialport)
+    version=$(sed -n 's/^MODULE_VERSION *= *//p' "$source/.qmake.conf")
+    mkdir -p "$KORVEL_WINDOWS_CACHE/work/qtserialport-build"
+    # Headers that are made for releases, and are not in what comes from the repository.
+    [ -d "$source/include" ] ||
+        perl "$KORVEL_WINDOWS_CACHE/qt/bin/syncqt.pl" -version "$version" -outdir "$source" "$source"
+    cd "$KORVEL_WINDOWS_CACHE/work/qtserialport-build"
+    "$KORVEL_WINDOWS_CACHE/qt/bin/qmake" "$source"
+    make -j"$(nproc)"
+    make install
+    credit qtserialport "Qt SerialPort $version, unchanged: $origin" \
+        "$source"/LICENSE.LGPL*
+}
+
+make_usb() {
+    local archive source
+    rm -rf "$KORVEL_WINDOWS_CACHE/usb"
+    archive=$(fetch_source libusb-1.0)
+    source=$(unpack "$archive" libusb)
+    cd "$source"
+    ./configure --host=$windows_target --prefix="$KORVEL_WINDOWS_CACHE/usb" --disable-shared CC=$windows_target-gcc-posix
+    make -j"$(nproc)"
+    make install
+    credit libusb "libusb $(version_of "$archive"), unchanged: Debian's source package libusb-1.0" "$source/COPYING"
+
+    archive=$(fetch_source hidapi)
+    source=$(unpack "$archive" hidapi)
+    cmake -S "$source" -B "$source/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$windows_toolchain" \
+        -DBUILD_SHARED_LIBS=OFF -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_LIBDIR=lib \
+        -DCMAKE_INSTALL_PREFIX="$KORVEL_WINDOWS_CACHE/usb"
+    cmake --build "$source/build" --target install
+    credit hidapi "hidapi $(version_of "$archive"), unchanged: Debian's source package hidapi" \
+        "$source"/LICENSE{,-bsd,-orig}.txt
+}
+
+make_avrdude() {
+    local archive source program
+    archive=$(fetch_source avrdude)
+    source=$(unpack "$archive" avrdude)
+    $windows_target-windres -O coff -I "$windows_manifest" "$windows_manifest/avrdude.rc" "$source/utf8.o"
+    cmake -S "$source" -B "$source/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$windows_toolchain" \
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_FLAGS="-I$KORVEL_WINDOWS_CACHE/usb/include -ffile-prefix-map=$source=avrdude" \
+        -DCMAKE_EXE_LINKER_FLAGS="-static -s $source/utf8.o" -DCMAKE_DISABLE_FIND_PACKAGE_Git=ON \
+        -DCMAKE_INSTALL_SYSCONFDIR=/etc
+    cmake --build "$source/build"
+    rm -rf "$KORVEL_WINDOWS_CACHE/avrdude"
+    mkdir "$KORVEL_WINDOWS_CACHE/avrdude"
+    program=$(find "$source/build" -name avrdude.exe)
+    cp "$program" "$source/build/src/avrdude.conf" "$KORVEL_WINDOWS_CACHE/avrdude/"
+    credit avrdude "avrdude $(version_of "$archive"), unchanged but for a manifest that has it take UTF-8 file names: \
+Debian's source package avrdude" "$source/COPYING"
+}
+
+# What the compiler adds to every program.
+credit_runtime() {
+    credit runtime "The run-time libraries of GCC and mingw-w64, from Debian's packages gcc-mingw-w64-x86-64-posix-runtime \
+and mingw-w64-x86-64-dev ($(dpkg-query -W -f '${Version}' gcc-mingw-w64-x86-64-posix-runtime), \
+$(dpkg-query -W -f '${Version}' mingw-w64-x86-64-dev)); sources: gcc-mingw-w64 and mingw-w64" \
+        /usr/share/common-licenses/GPL-3
+    cp /usr/share/doc/gcc-mingw-w64-base/copyright "$KORVEL_WINDOWS_CACHE/licences/runtime/gcc.txt"
+    cp /usr/share/doc/mingw-w64-x86-64-dev/copyright "$KORVEL_WINDOWS_CACHE/licences/runtime/mingw-w64.txt"
+}
+
+# The Wine folder that cmake/wine.sh uses. Wine keeps Qt's variables from programs, unless they are set in there: tests
+# need no screen then, and print what they find.
+make_wine() {
+    rm -rf "$KORVEL_WINDOWS_CACHE/wine"
+    cmake/wine.sh "$KORVEL_WINDOWS_CACHE" wineboot --init
+    local setting
+    for setting in QT_QPA_PLATFORM=offscreen 'QT_QPA_FONTDIR=Z:\usr\share\fonts\truetype\dejavu' \
+        QT_FORCE_STDERR_LOGGING=1; do
+        cmake/wine.sh "$KORVEL_WINDOWS_CACHE" reg add 'HKCU\Environment' /v "${setting%=*}" /d "${setting#*=}" /f
+    done
+    WINEPREFIX=$KORVEL_WINDOWS_CACHE/wine wineserver -w # that is when it is on the disk
+}
+
+# Makes one of them unless the cache has it as the recipe above would make it now.
+make_once() {
+    local recipe=$1 mark=$KORVEL_WINDOWS_CACHE/$1.made now
+    now=$(declare -f "$recipe" | sha256sum)
+    [ ! -e "$mark" ] || [ "$(cat "$mark")" != "$now" ] || return 0
+    echo "== ${recipe/_/ }: the log is $KORVEL_WINDOWS_CACHE/$recipe.log"
+    rm -rf "$KORVEL_WINDOWS_CACHE/work"
+    mkdir -p "$KORVEL_WINDOWS_CACHE/work"
+    "$recipe" >"$KORVEL_WINDOWS_CACHE/$recipe.log" 2>&1 & # in a condition it would go on after an error
+    if ! wait $!; then
+        tail -n 20 "$KORVEL_WINDOWS_CACHE/$recipe.log" >&2
+        echo "$recipe failed" >&2
+        return 1
+    fi
+    rm -r "$KORVEL_WINDOWS_CACHE/work"
+    echo "$now" >"$mark"
+}
+
+make_windows_libraries() {
+    need_packages "${windows_packages[@]}"
+    mkdir -p "$KORVEL_WINDOWS_CACHE"
+    local recipe
+    for recipe in make_qt make_qtserialport make_usb make_avrdude make_wine; do
+        make_once "$recipe"
+    done
+    credit_runtime
+}
