@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Terminy: fusebity, bajty fuse i lockbity, jak przyjęło się mówić; bajt kalibracyjny; zegar jako szybkość
-     programatora. -->
+<!-- Terminy: fusebity, bajty fuse i lockbity, jak przyjęło się mówić; bajt kalibracyjny; szybkość programatora (bit
+     clock); „programować” układ, „zapisywać” ustawienia. -->
 <TS version="2.1" language="pl_PL" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -19,7 +19,7 @@
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>W folderze %1 nic nie znaleziono.</translation>
+        <translation>W katalogu %1 nic nie znaleziono.</translation>
     </message>
 </context>
 <context>
@@ -105,14 +105,14 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Tak wolny układ odpowiada tylko przy szybkości poniżej jednej czwartej swojego zegara.
-Droga powrotna: wybrać mniejszą szybkość.</translation>
+        <translation>Tak wolny układ odpowiada tylko przy szybkości poniżej jednej czwartej częstotliwości swojego zegara.
+Jak odzyskać układ: wybierz mniejszą szybkość.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Bez tego zegara na swoich wyprowadzeniach układ nie odpowiada.
-Droga powrotna: podłączyć zegar lub kwarc albo użyć programatora wysokonapięciowego.</translation>
+        <translation>Bez tego sygnału zegarowego na wyprowadzeniach układ nie odpowiada.
+Jak odzyskać układ: podłącz zegar lub kwarc albo użyj programatora wysokonapięciowego.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ Droga powrotna: podłączyć zegar lub kwarc albo użyć programatora wysokonapi
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Wyprowadzenie reset staje się zwykłym wyprowadzeniem: programator szeregowy nie dosięgnie już układu.
-Droga powrotna: programator wysokonapięciowy.</translation>
+        <translation>Wyprowadzenie RESET staje się zwykłym wyprowadzeniem: programator szeregowy straci dostęp do układu.
+Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Wyprowadzenie reset przejmuje debugger: programator szeregowy nie dosięgnie już układu.
-Droga powrotna: debugger z debugWIRE albo programator wysokonapięciowy.</translation>
+        <translation>Wyprowadzenie RESET przejmuje debugger: programator szeregowy straci dostęp do układu.
+Jak odzyskać układ: debuggerem z debugWIRE albo programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Wyprowadzenie UPDI dostaje inną funkcję: zwykły programator UPDI nie dosięgnie już układu.
-Droga powrotna: programator z wysokonapięciowym UPDI.</translation>
+        <translation>Wyprowadzenie UPDI otrzymuje inną funkcję: zwykły programator UPDI straci dostęp do układu.
+Jak odzyskać układ: programatorem z wysokonapięciowym UPDI.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Programator nie może już zapisać układu.
-Droga powrotna: skasować cały układ.</translation>
+        <translation>Programator nie będzie już mógł programować układu.
+Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -178,7 +178,7 @@ Droga powrotna: skasować cały układ.</translation>
     <name>FusesButtons</name>
     <message>
         <source>Fuse bytes written successfully.</source>
-        <translation>Zapisano bajty fuse.</translation>
+        <translation>Zaprogramowano bajty fuse.</translation>
     </message>
     <message>
         <source>Fuse bytes verified successfully.</source>
@@ -197,7 +197,7 @@ Droga powrotna: skasować cały układ.</translation>
     <name>FusesButtonsView</name>
     <message>
         <source>Write</source>
-        <translation>Zapisz</translation>
+        <translation>Programuj</translation>
     </message>
     <message>
         <source>Verify</source>
@@ -239,7 +239,7 @@ Droga powrotna: skasować cały układ.</translation>
     <name>Memory</name>
     <message>
         <source>EEPROM written successfully.</source>
-        <translation>Zapisano pamięć EEPROM.</translation>
+        <translation>Zaprogramowano pamięć EEPROM.</translation>
     </message>
     <message>
         <source>EEPROM verified successfully.</source>
@@ -251,7 +251,7 @@ Droga powrotna: skasować cały układ.</translation>
     </message>
     <message>
         <source>FLASH written successfully.</source>
-        <translation>Zapisano pamięć FLASH.</translation>
+        <translation>Zaprogramowano pamięć FLASH.</translation>
     </message>
     <message>
         <source>FLASH verified successfully.</source>
@@ -266,7 +266,7 @@ Droga powrotna: skasować cały układ.</translation>
     <name>MemoryView</name>
     <message>
         <source>Write</source>
-        <translation>Zapisz</translation>
+        <translation>Programuj</translation>
     </message>
     <message>
         <source>Read</source>
@@ -291,7 +291,7 @@ Droga powrotna: skasować cały układ.</translation>
         <translation>Programator nie wykrył mikrokontrolera
 
 - Sprawdź połączenia i zasilanie
-- Ustaw wolniejszy zegar (Port &amp; zegar)</translation>
+- Ustaw mniejszą szybkość (Port &amp; szybkość)</translation>
     </message>
     <message>
         <source>Could not read contents
@@ -313,7 +313,7 @@ Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translati
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Zobacz komunikat w oknie poniżej.</translation>
+        <translation>Zobacz komunikat w dzienniku poniżej.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -336,8 +336,8 @@ Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translati
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>Konfiguracja „%1” już istnieje.
-Czy ją zastąpić?</translation>
+        <translation>Profil „%1” już istnieje.
+Czy go zastąpić?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -355,7 +355,7 @@ Czy ją zastąpić?</translation>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Zapisano pamięć Flash.
+        <translation>Zaprogramowano pamięć Flash.
 Zweryfikowano pamięć Flash.
 </translation>
     </message>
@@ -363,14 +363,14 @@ Zweryfikowano pamięć Flash.
         <source>Eeprom write successfully.
 Eeprom verify successfully.
 </source>
-        <translation>Zapisano pamięć EEPROM.
+        <translation>Zaprogramowano pamięć EEPROM.
 Zweryfikowano pamięć EEPROM.
 </translation>
     </message>
     <message>
         <source>Fuse bits write successfully.
 Fuse bits verify successfully.</source>
-        <translation>Zapisano fusebity.
+        <translation>Zaprogramowano fusebity.
 Zweryfikowano fusebity.</translation>
     </message>
     <message>
@@ -388,14 +388,14 @@ Zweryfikowano fusebity.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bajty fuse mają wartości domyślne z noty katalogowej.</translation>
+Bajty fuse ustawiono na wartości domyślne z noty katalogowej.</translation>
     </message>
 </context>
 <context>
     <name>ProgrammingView</name>
     <message>
         <source>Write</source>
-        <translation>Zapisz</translation>
+        <translation>Programuj</translation>
     </message>
     <message>
         <source>Use external button</source>
@@ -407,7 +407,7 @@ Bajty fuse mają wartości domyślne z noty katalogowej.</translation>
     </message>
     <message>
         <source>Write Selected Areas</source>
-        <translation>Zapisz wybrane obszary</translation>
+        <translation>Programuj wybrane obszary</translation>
     </message>
 </context>
 <context>
@@ -744,7 +744,7 @@ Usunąć mimo to?</translation>
     <name>RawFile</name>
     <message>
         <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Plik ma bajtów: %1, a pamięć tylko %2.</translation>
+        <translation>Plik ma %1 B, a pamięć tylko %2 B.</translation>
     </message>
 </context>
 <context>
@@ -763,7 +763,7 @@ Usunąć mimo to?</translation>
     </message>
     <message>
         <source>Select memory areas to write:</source>
-        <translation>Obszary pamięci do zapisu:</translation>
+        <translation>Obszary pamięci do zaprogramowania:</translation>
     </message>
 </context>
 <context>
@@ -786,7 +786,7 @@ Usunąć mimo to?</translation>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>W folderze %1 nic nie znaleziono.</translation>
+        <translation>W katalogu %1 nic nie znaleziono.</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@ Usunąć mimo to?</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Port &amp;&amp; zegar ( nowy MCU -&gt; 185kHz )</translation>
+        <translation>Port &amp;&amp; szybkość (nowy MCU: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
