@@ -95,8 +95,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>「追加」 - 現在の設定を保存します。
-「削除」 - 選択したものを削除します。</translation>
+        <translation>「追加」：現在の設定を保存します。
+「削除」：選択したプロファイルを削除します。</translation>
     </message>
 </context>
 <context>
@@ -111,7 +111,7 @@ The way back: choose a lower speed.</source>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>ピンにこのクロックがないと、チップは応答しません。
-元に戻すには：クロックまたは水晶をつなぐか、高電圧書込器を使います。</translation>
+元に戻すには：クロックまたは水晶振動子をつなぐか、高電圧書込器を使います。</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -181,7 +181,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Fuse bytes verified successfully.</source>
-        <translation>ヒューズバイトを照合しました。</translation>
+        <translation>ヒューズバイトの照合に成功しました。</translation>
     </message>
     <message>
         <source>Fuse bytes read successfully.</source>
@@ -242,7 +242,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>EEPROM verified successfully.</source>
-        <translation>EEPROM を照合しました。</translation>
+        <translation>EEPROM の照合に成功しました。</translation>
     </message>
     <message>
         <source>EEPROM read successfully.</source>
@@ -254,7 +254,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>FLASH verified successfully.</source>
-        <translation>FLASH を照合しました。</translation>
+        <translation>FLASH の照合に成功しました。</translation>
     </message>
     <message>
         <source>FLASH read successfully.</source>
@@ -296,7 +296,7 @@ The way back: erase all of it.</source>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>内容を読み出せませんでした
-デバイスが空か、読み出し保護されています（ロックビットが設定済み）。</translation>
+チップが空か、読み出し保護されています（ロックビットが設定済み）。</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -312,7 +312,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>出力欄のメッセージを参照してください。</translation>
+        <translation>下の出力欄のメッセージを参照してください。</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -335,7 +335,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>構成「%1」はすでに存在します。
+        <translation>プロファイル「%1」はすでに存在します。
 上書きしますか？</translation>
     </message>
     <message>
@@ -355,7 +355,7 @@ Do you want to overwrite it?</source>
 Flash verify successfully.
 </source>
         <translation>Flash に書き込みました。
-Flash を照合しました。
+Flash の照合に成功しました。
 </translation>
     </message>
     <message>
@@ -363,14 +363,14 @@ Flash を照合しました。
 Eeprom verify successfully.
 </source>
         <translation>EEPROM に書き込みました。
-EEPROM を照合しました。
+EEPROM の照合に成功しました。
 </translation>
     </message>
     <message>
         <source>Fuse bits write successfully.
 Fuse bits verify successfully.</source>
         <translation>ヒューズビットを書き込みました。
-ヒューズビットを照合しました。</translation>
+ヒューズビットの照合に成功しました。</translation>
     </message>
     <message>
         <source>Failed to save settings to file: </source>
