@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Términos: fusibles y bytes de fusibles (fuse bits), bits de bloqueo (lock bits), byte de calibración, reloj para la
-     velocidad del programador; «grabar» para escribir en el chip. -->
+<!-- Términos: fusibles y bytes de fusibles (fuse bits), bits de bloqueo (lock bits), byte de calibración, velocidad (bit
+     clock); «grabar» para escribir en el chip. -->
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -96,8 +96,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Añadir» - guarda los ajustes actuales.
-«Quitar» - quita el perfil elegido.</translation>
+        <translation>«Añadir»: guarda los ajustes actuales.
+«Quitar»: quita el perfil elegido.</translation>
     </message>
 </context>
 <context>
@@ -105,14 +105,14 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Un chip tan lento solo responde a una velocidad menor que un cuarto de su reloj.
-La vuelta atrás: elegir una velocidad menor.</translation>
+        <translation>Un chip tan lento solo responde a una velocidad menor que un cuarto de la de su reloj.
+Para recuperarlo: elija una velocidad menor.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Sin este reloj en sus pines el chip no responde.
-La vuelta atrás: conectar un reloj o un cristal, o usar un programador de alto voltaje.</translation>
+Para recuperarlo: conecte un reloj o un cristal, o use un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ La vuelta atrás: conectar un reloj o un cristal, o usar un programador de alto 
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>El pin de reset pasa a ser un pin normal: un programador serie ya no alcanza el chip.
-La vuelta atrás: un programador de alto voltaje.</translation>
+        <translation>El pin de reset pasa a ser un pin normal: un programador serie ya no podrá acceder al chip.
+Para recuperarlo: un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>El pin de reset pasa a ser del depurador: un programador serie ya no alcanza el chip.
-La vuelta atrás: un depurador con debugWIRE o un programador de alto voltaje.</translation>
+        <translation>El pin de reset pasa a ser del depurador: un programador serie ya no podrá acceder al chip.
+Para recuperarlo: un depurador con debugWIRE o un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>El pin UPDI recibe otra función: un programador UPDI normal ya no alcanza el chip.
-La vuelta atrás: un programador con UPDI de alto voltaje.</translation>
+        <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
+Para recuperarlo: un programador con UPDI de alto voltaje.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programador ya no puede grabar el chip.
-La vuelta atrás: borrarlo todo.</translation>
+        <translation>Un programador ya no podrá grabar el chip.
+Para recuperarlo: bórrelo todo.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -291,13 +291,13 @@ La vuelta atrás: borrarlo todo.</translation>
         <translation>El programador no detectó el microcontrolador
 
 - Compruebe las conexiones y la alimentación
-- Elija un reloj más lento (Puerto &amp; reloj)</translation>
+- Elija una velocidad menor (Puerto &amp; vel.)</translation>
     </message>
     <message>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>No se pudo leer el contenido
-El dispositivo está vacío o protegido contra lectura (bits de bloqueo activos).</translation>
+El chip está vacío o protegido contra lectura (bits de bloqueo activos).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -313,7 +313,7 @@ El dispositivo está vacío o protegido contra lectura (bits de bloqueo activos)
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Vea el mensaje en la ventana de salida.</translation>
+        <translation>Vea el mensaje en el registro de abajo.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -336,8 +336,8 @@ El dispositivo está vacío o protegido contra lectura (bits de bloqueo activos)
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>La configuración «%1» ya existe.
-¿Desea sobrescribirla?</translation>
+        <translation>El perfil «%1» ya existe.
+¿Desea sobrescribirlo?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -797,7 +797,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Puerto &amp;&amp; reloj ( nuevo -&gt; 185kHz )</translation>
+        <translation>Puerto &amp;&amp; vel. (MCU nuevo: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
