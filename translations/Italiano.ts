@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Termini: fuse, fuse bit e lock bit restano in inglese, come d'uso; byte di calibrazione; clock per la velocità del
-     programmatore. -->
+<!-- Termini: fuse, fuse bit e lock bit restano in inglese, come d'uso; byte di calibrazione; velocità (bit clock); clock
+     solo per quello del chip. -->
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -96,8 +96,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Aggiungi» - salva le impostazioni attuali.
-«Rimuovi» - rimuove il profilo scelto.</translation>
+        <translation>«Aggiungi»: salva le impostazioni attuali.
+«Rimuovi»: rimuove il profilo scelto.</translation>
     </message>
 </context>
 <context>
@@ -105,14 +105,14 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Un chip così lento risponde solo a una velocità inferiore a un quarto del suo clock.
-La via del ritorno: scegliere una velocità minore.</translation>
+        <translation>Un chip così lento risponde solo a una velocità inferiore a un quarto di quella del suo clock.
+Per recuperarlo: scegliere una velocità minore.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Senza questo clock sui suoi pin il chip non risponde.
-La via del ritorno: collegare un clock o un quarzo, o usare un programmatore ad alta tensione.</translation>
+Per recuperarlo: collegare un clock o un quarzo, o usare un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ La via del ritorno: collegare un clock o un quarzo, o usare un programmatore ad 
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Il pin di reset diventa un pin comune: un programmatore seriale non raggiunge più il chip.
-La via del ritorno: un programmatore ad alta tensione.</translation>
+        <translation>Il pin di reset diventa un pin comune: un programmatore seriale non può più accedere al chip.
+Per recuperarlo: un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Il pin di reset passa al debugger: un programmatore seriale non raggiunge più il chip.
-La via del ritorno: un debugger con debugWIRE o un programmatore ad alta tensione.</translation>
+        <translation>Il pin di reset passa al debugger: un programmatore seriale non può più accedere al chip.
+Per recuperarlo: un debugger con debugWIRE o un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Il pin UPDI riceve un&apos;altra funzione: un comune programmatore UPDI non raggiunge più il chip.
-La via del ritorno: un programmatore con UPDI ad alta tensione.</translation>
+        <translation>Il pin UPDI assume un&apos;altra funzione: un comune programmatore UPDI non può più accedere al chip.
+Per recuperarlo: un programmatore con UPDI ad alta tensione.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programmatore non può più scrivere il chip.
-La via del ritorno: cancellare tutto.</translation>
+        <translation>Un programmatore non può più scrivere sul chip.
+Per recuperarlo: cancellare tutto.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -291,13 +291,13 @@ La via del ritorno: cancellare tutto.</translation>
         <translation>Il programmatore non ha rilevato il microcontrollore
 
 - Controllare i collegamenti e l&apos;alimentazione
-- Scegliere un clock più lento (Porta &amp; clock)</translation>
+- Scegliere una velocità minore (Porta &amp; vel.)</translation>
     </message>
     <message>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>Impossibile leggere il contenuto
-Il dispositivo è vuoto o protetto contro la lettura (lock bit attivi).</translation>
+Il chip è vuoto o protetto in lettura (lock bit attivi).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -313,7 +313,7 @@ Il dispositivo è vuoto o protetto contro la lettura (lock bit attivi).</transla
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Vedere il messaggio nella finestra di output.</translation>
+        <translation>Vedere il messaggio nel registro in basso.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -336,8 +336,8 @@ Il dispositivo è vuoto o protetto contro la lettura (lock bit attivi).</transla
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>La configurazione «%1» esiste già.
-Sovrascriverla?</translation>
+        <translation>Il profilo «%1» esiste già.
+Sovrascriverlo?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -797,7 +797,7 @@ Eliminarlo comunque?</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Porta &amp;&amp; clock ( nuovo -&gt; 185kHz )</translation>
+        <translation>Porta &amp;&amp; vel. (MCU nuovo: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
