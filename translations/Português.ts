@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Português do Brasil. Termos: fuse, fuse bits e lock bits ficam em inglês, como é de costume; byte de calibração;
-     gravador para o aparelho; clock para a velocidade dele. -->
+     gravador para o aparelho; velocidade (bit clock); clock só para o do chip. -->
 <TS version="2.1" language="pt_BR" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -96,8 +96,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>“Adicionar” - salva as configurações atuais.
-“Remover” - remove o perfil escolhido.</translation>
+        <translation>“Adicionar”: salva as configurações atuais.
+“Remover”: remove o perfil escolhido.</translation>
     </message>
 </context>
 <context>
@@ -105,14 +105,14 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Um chip tão lento só responde a uma velocidade abaixo de um quarto do seu clock.
-O caminho de volta: escolher uma velocidade menor.</translation>
+        <translation>Um chip tão lento só responde a uma velocidade abaixo de um quarto da do seu clock.
+Para recuperá-lo: escolha uma velocidade menor.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Sem este clock nos seus pinos o chip não responde.
-O caminho de volta: ligar um clock ou um cristal, ou usar um gravador de alta tensão.</translation>
+Para recuperá-lo: ligue um clock ou um cristal, ou use um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ O caminho de volta: ligar um clock ou um cristal, ou usar um gravador de alta te
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>O pino de reset vira um pino comum: um gravador serial não alcança mais o chip.
-O caminho de volta: um gravador de alta tensão.</translation>
+        <translation>O pino de reset passa a ser um pino comum: um gravador serial não consegue mais acessar o chip.
+Para recuperá-lo: um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>O pino de reset passa para o depurador: um gravador serial não alcança mais o chip.
-O caminho de volta: um depurador com debugWIRE ou um gravador de alta tensão.</translation>
+        <translation>O pino de reset passa para o depurador: um gravador serial não consegue mais acessar o chip.
+Para recuperá-lo: um depurador com debugWIRE ou um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>O pino UPDI recebe outra função: um gravador UPDI comum não alcança mais o chip.
-O caminho de volta: um gravador com UPDI de alta tensão.</translation>
+        <translation>O pino UPDI passa a ter outra função: um gravador UPDI comum não consegue mais acessar o chip.
+Para recuperá-lo: um gravador com UPDI de alta tensão.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
         <translation>Um gravador não consegue mais gravar o chip.
-O caminho de volta: apagar tudo.</translation>
+Para recuperá-lo: apague tudo.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -291,13 +291,13 @@ O caminho de volta: apagar tudo.</translation>
         <translation>O gravador não detectou o microcontrolador
 
 - Verifique as conexões e a alimentação
-- Escolha um clock mais lento (Porta &amp; clock)</translation>
+- Escolha uma velocidade menor (Porta &amp; velocidade)</translation>
     </message>
     <message>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>Não foi possível ler o conteúdo
-O dispositivo está vazio ou protegido contra leitura (lock bits ativos).</translation>
+O chip está vazio ou protegido contra leitura (lock bits ativos).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -313,7 +313,7 @@ O dispositivo está vazio ou protegido contra leitura (lock bits ativos).</trans
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Veja a mensagem na janela de saída.</translation>
+        <translation>Veja a mensagem no registro abaixo.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -336,8 +336,8 @@ O dispositivo está vazio ou protegido contra leitura (lock bits ativos).</trans
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>A configuração “%1” já existe.
-Deseja substituí-la?</translation>
+        <translation>O perfil “%1” já existe.
+Deseja substituí-lo?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -388,7 +388,7 @@ Fuse bits verificados com sucesso.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bytes de fuse nos valores padrão do datasheet.</translation>
+Bytes de fuse definidos com os valores padrão do datasheet.</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@ Excluir mesmo assim?</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Porta &amp;&amp; clock ( novo -&gt; 185kHz )</translation>
+        <translation>Porta &amp;&amp; velocidade (MCU novo: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
