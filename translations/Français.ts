@@ -96,8 +96,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«&#xa0;Ajouter&#xa0;» - enregistre les réglages.
-«&#xa0;Retirer&#xa0;» - retire le profil choisi.</translation>
+        <translation>«&#xa0;Ajouter&#xa0;»&#xa0;: enregistre les réglages.
+«&#xa0;Retirer&#xa0;»&#xa0;: supprime le profil choisi.</translation>
     </message>
 </context>
 <context>
@@ -105,14 +105,14 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Une puce aussi lente ne répond qu&apos;à une vitesse inférieure au quart de son horloge.
-Le retour : choisir une vitesse plus basse.</translation>
+        <translation>Une puce aussi lente ne répond qu&apos;à une vitesse inférieure au quart de celle de son horloge.
+Pour la récupérer&#xa0;: choisissez une vitesse plus basse.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Sans cette horloge sur ses broches, la puce ne répond pas.
-Le retour : brancher une horloge ou un quartz, ou un programmateur haute tension.</translation>
+Pour la récupérer&#xa0;: branchez une horloge ou un quartz, ou utilisez un programmateur haute tension.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ Le retour : brancher une horloge ou un quartz, ou un programmateur haute tension
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>La broche de reset devient une broche ordinaire : un programmateur série n&apos;atteint plus la puce.
-Le retour : un programmateur haute tension.</translation>
+        <translation>La broche de reset devient une broche ordinaire&#xa0;: un programmateur série ne peut plus accéder à la puce.
+Pour la récupérer&#xa0;: un programmateur haute tension.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>La broche de reset passe au débogueur : un programmateur série n&apos;atteint plus la puce.
-Le retour : un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
+        <translation>La broche de reset passe au débogueur&#xa0;: un programmateur série ne peut plus accéder à la puce.
+Pour la récupérer&#xa0;: un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire n&apos;atteint plus la puce.
-Le retour : un programmateur avec UPDI haute tension.</translation>
+        <translation>La broche UPDI reçoit une autre fonction&#xa0;: un programmateur UPDI ordinaire ne peut plus accéder à la puce.
+Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programmateur ne peut plus écrire la puce.
-Le retour : tout effacer.</translation>
+        <translation>Un programmateur ne peut plus écrire dans la puce.
+Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -297,7 +297,7 @@ Le retour : tout effacer.</translation>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>Impossible de lire le contenu
-Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</translation>
+La puce est vierge ou protégée en lecture (bits de verrouillage actifs).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -313,7 +313,7 @@ Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Voyez le message dans la fenêtre de sortie.</translation>
+        <translation>Consultez le message dans le journal ci-dessous.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -336,8 +336,8 @@ Le composant est vierge ou protégé en lecture (bits de verrouillage actifs).</
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>La configuration «&#xa0;%1&#xa0;» existe déjà.
-Voulez-vous la remplacer&#xa0;?</translation>
+        <translation>Le profil «&#xa0;%1&#xa0;» existe déjà.
+Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -797,7 +797,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Port &amp;&amp; vitesse ( neuf -&gt; 185kHz )</translation>
+        <translation>Port &amp;&amp; vitesse (MCU neuf&#xa0;: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
