@@ -1,6 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Термины: фьюз-биты и фьюз-байты, как принято говорить; биты защиты (lock bits), калибровочный байт, частота (bit clock); МК - микроконтроллер. -->
+<!-- Термины: фьюз-биты и фьюз-байты, как принято говорить; биты защиты (lock bits), калибровочный байт, скорость (bit
+     clock); МК - микроконтроллер. -->
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -14,7 +15,7 @@
     </message>
     <message>
         <source>Calibration byte read successfully.</source>
-        <translation>Калибровочный байт успешно прочитан.</translation>
+        <translation>Калибровочный байт успешно считан.</translation>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
@@ -33,7 +34,7 @@
     </message>
     <message>
         <source>Read</source>
-        <translation>Читать</translation>
+        <translation>Считать</translation>
     </message>
     <message>
         <source>MCU</source>
@@ -78,11 +79,11 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation>Убрать</translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Add / Remove profile</source>
-        <translation>Добавить / убрать профиль</translation>
+        <translation>Добавить / удалить профиль</translation>
     </message>
     <message>
         <source>Profile name</source>
@@ -96,7 +97,7 @@
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«Добавить» — сохранить настройки.
-«Убрать» — убрать выбранный профиль.</translation>
+«Удалить» — удалить выбранный профиль.</translation>
     </message>
 </context>
 <context>
@@ -105,13 +106,13 @@
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
         <translation>Такой медленный МК отвечает только на скорости ниже четверти его тактовой частоты.
-Путь назад: выбрать меньшую скорость.</translation>
+Как восстановить: выберите меньшую скорость.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Без этого тактового сигнала на выводах МК не отвечает.
-Путь назад: подключить генератор или кварц либо взять высоковольтный программатор.</translation>
+Как восстановить: подключите генератор или кварц либо используйте высоковольтный программатор.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -120,26 +121,26 @@ The way back: connect a clock or a crystal, or use a high-voltage programmer.</s
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Вывод сброса становится обычным: последовательный программатор больше не достучится до МК.
-Путь назад: высоковольтный программатор.</translation>
+        <translation>Вывод сброса становится обычным: последовательный программатор потеряет доступ к МК.
+Как восстановить: высоковольтным программатором.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Вывод сброса переходит к отладчику: последовательный программатор больше не достучится до МК.
-Путь назад: отладчик с debugWIRE или высоковольтный программатор.</translation>
+        <translation>Вывод сброса переходит к отладчику: последовательный программатор потеряет доступ к МК.
+Как восстановить: отладчиком с debugWIRE или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI больше не достучится до МК.
-Путь назад: программатор с высоковольтным UPDI.</translation>
+        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
+Как восстановить: программатором с высоковольтным UPDI.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Программатор больше не сможет записать МК.
-Путь назад: стереть всё.</translation>
+        <translation>Программатор больше не сможет записывать в МК.
+Как восстановить: сотрите всё.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -185,11 +186,11 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Fuse bytes read successfully.</source>
-        <translation>Фьюз-байты успешно прочитаны.</translation>
+        <translation>Фьюз-байты успешно считаны.</translation>
     </message>
     <message>
         <source>Not read: %1</source>
-        <translation>Не прочитаны: %1</translation>
+        <translation>Не считаны: %1</translation>
     </message>
 </context>
 <context>
@@ -204,7 +205,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Read</source>
-        <translation>Читать</translation>
+        <translation>Считать</translation>
     </message>
     <message>
         <source>Default</source>
@@ -246,7 +247,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>EEPROM read successfully.</source>
-        <translation>EEPROM успешно прочитана.</translation>
+        <translation>EEPROM успешно считана.</translation>
     </message>
     <message>
         <source>FLASH written successfully.</source>
@@ -258,7 +259,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>FLASH read successfully.</source>
-        <translation>FLASH успешно прочитана.</translation>
+        <translation>FLASH успешно считана.</translation>
     </message>
 </context>
 <context>
@@ -269,7 +270,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Read</source>
-        <translation>Читать</translation>
+        <translation>Считать</translation>
     </message>
     <message>
         <source>Verify</source>
@@ -290,13 +291,13 @@ The way back: erase all of it.</source>
         <translation>Программатор не обнаружил микроконтроллер
 
 - Проверьте соединения и питание
-- Установите меньшую частоту (Порт &amp; частота)</translation>
+- Установите меньшую скорость (Порт &amp; скор.)</translation>
     </message>
     <message>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
-        <translation>Не удалось прочитать содержимое
-Микросхема пуста или защищена от чтения (установлены биты защиты).</translation>
+        <translation>Не удалось считать содержимое
+МК пуст или защищён от чтения (установлены биты защиты).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -312,7 +313,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Смотрите сообщение в окне вывода.</translation>
+        <translation>Смотрите сообщение в журнале внизу.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -320,7 +321,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>No such file or directory.</source>
-        <translation>Нет такого файла или каталога.</translation>
+        <translation>Нет такого файла или папки.</translation>
     </message>
 </context>
 <context>
@@ -335,8 +336,8 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>Конфигурация «%1» уже существует.
-Заменить её?</translation>
+        <translation>Профиль «%1» уже существует.
+Заменить его?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -513,7 +514,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Убрать</translation>
+        <translation>Удалить</translation>
     </message>
     <message>
         <source>Show </source>
@@ -796,7 +797,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Порт &amp;&amp; частота ( новый: 185kHz )</translation>
+        <translation>Порт &amp;&amp; скор. (новый МК: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
