@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Терміни: фʼюз-біти та фʼюз-байти, як заведено казати; біти захисту (lock bits), калібрувальний байт, частота
+<!-- Терміни: фʼюз-біти та фʼюз-байти, як заведено казати; біти захисту (lock bits), калібрувальний байт, швидкість
      (bit clock); МК - мікроконтролер. -->
 <TS version="2.1" language="uk_UA" sourcelanguage="en_US">
 <context>
@@ -15,11 +15,11 @@
     </message>
     <message>
         <source>Calibration byte read successfully.</source>
-        <translation>Калібрувальний байт успішно прочитано.</translation>
+        <translation>Калібрувальний байт успішно зчитано.</translation>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>У папці %1 нічого не знайдено.</translation>
+        <translation>У теці %1 нічого не знайдено.</translation>
     </message>
 </context>
 <context>
@@ -34,7 +34,7 @@
     </message>
     <message>
         <source>Read</source>
-        <translation>Читати</translation>
+        <translation>Зчитати</translation>
     </message>
     <message>
         <source>MCU</source>
@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Remove</source>
-        <translation>Прибрати</translation>
+        <translation>Видалити</translation>
     </message>
     <message>
         <source>Add / Remove profile</source>
-        <translation>Додати / прибрати профіль</translation>
+        <translation>Додати / видалити профіль</translation>
     </message>
     <message>
         <source>Profile name</source>
@@ -97,7 +97,7 @@
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«Додати» — зберегти налаштування.
-«Прибрати» — прибрати вибраний профіль.</translation>
+«Видалити» — видалити вибраний профіль.</translation>
     </message>
 </context>
 <context>
@@ -106,13 +106,13 @@
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
         <translation>Такий повільний МК відповідає лише на швидкості, нижчій за чверть його тактової частоти.
-Шлях назад: вибрати меншу швидкість.</translation>
+Як відновити: виберіть меншу швидкість.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Без цього тактового сигналу на виводах МК не відповідає.
-Шлях назад: підключити генератор чи кварц або взяти високовольтний програматор.</translation>
+Як відновити: підключіть генератор чи кварц або скористайтеся високовольтним програматором.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ The way back: connect a clock or a crystal, or use a high-voltage programmer.</s
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Вивід скидання стає звичайним: послідовний програматор більше не дістанеться до МК.
-Шлях назад: високовольтний програматор.</translation>
+        <translation>Вивід скидання стає звичайним: послідовний програматор втратить доступ до МК.
+Як відновити: високовольтним програматором.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Вивід скидання переходить до налагоджувача: послідовний програматор більше не дістанеться до МК.
-Шлях назад: налагоджувач із debugWIRE або високовольтний програматор.</translation>
+        <translation>Вивід скидання переходить до налагоджувача: послідовний програматор втратить доступ до МК.
+Як відновити: налагоджувачем із debugWIRE або високовольтним програматором.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Вивід UPDI отримує інше призначення: звичайний програматор UPDI більше не дістанеться до МК.
-Шлях назад: програматор із високовольтним UPDI.</translation>
+        <translation>Вивід UPDI отримує інше призначення: звичайний програматор UPDI втратить доступ до МК.
+Як відновити: програматором із високовольтним UPDI.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Програматор більше не зможе записати МК.
-Шлях назад: стерти все.</translation>
+        <translation>Програматор більше не зможе записувати в МК.
+Як відновити: зітріть усе.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -186,11 +186,11 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Fuse bytes read successfully.</source>
-        <translation>Фʼюз-байти успішно прочитано.</translation>
+        <translation>Фʼюз-байти успішно зчитано.</translation>
     </message>
     <message>
         <source>Not read: %1</source>
-        <translation>Не прочитано: %1</translation>
+        <translation>Не зчитано: %1</translation>
     </message>
 </context>
 <context>
@@ -205,7 +205,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Read</source>
-        <translation>Читати</translation>
+        <translation>Зчитати</translation>
     </message>
     <message>
         <source>Default</source>
@@ -228,7 +228,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>no JSON object</source>
-        <translation>не об&apos;єкт JSON</translation>
+        <translation>не обʼєкт JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -247,7 +247,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>EEPROM read successfully.</source>
-        <translation>EEPROM успішно прочитано.</translation>
+        <translation>EEPROM успішно зчитано.</translation>
     </message>
     <message>
         <source>FLASH written successfully.</source>
@@ -259,7 +259,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>FLASH read successfully.</source>
-        <translation>FLASH успішно прочитано.</translation>
+        <translation>FLASH успішно зчитано.</translation>
     </message>
 </context>
 <context>
@@ -270,7 +270,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Read</source>
-        <translation>Читати</translation>
+        <translation>Зчитати</translation>
     </message>
     <message>
         <source>Verify</source>
@@ -291,13 +291,13 @@ The way back: erase all of it.</source>
         <translation>Програматор не виявив мікроконтролера
 
 - Перевірте зʼєднання та живлення
-- Встановіть меншу частоту (Порт &amp; частота)</translation>
+- Встановіть меншу швидкість (Порт &amp; швидк.)</translation>
     </message>
     <message>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
-        <translation>Не вдалося прочитати вміст
-Мікросхема порожня або захищена від читання (встановлено біти захисту).</translation>
+        <translation>Не вдалося зчитати вміст
+МК порожній або захищений від читання (встановлено біти захисту).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -313,7 +313,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Дивіться повідомлення у вікні виводу.</translation>
+        <translation>Дивіться повідомлення в журналі внизу.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -321,7 +321,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>No such file or directory.</source>
-        <translation>Немає такого файлу або каталогу.</translation>
+        <translation>Немає такого файлу або теки.</translation>
     </message>
 </context>
 <context>
@@ -336,8 +336,8 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>Конфігурація «%1» уже існує.
-Замінити її?</translation>
+        <translation>Профіль «%1» уже існує.
+Замінити його?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -514,7 +514,7 @@ Fuse bytes set to datasheet default values.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation>Прибрати</translation>
+        <translation>Видалити</translation>
     </message>
     <message>
         <source>Show </source>
@@ -786,7 +786,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>У папці %1 нічого не знайдено.</translation>
+        <translation>У теці %1 нічого не знайдено.</translation>
     </message>
 </context>
 <context>
@@ -797,7 +797,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Порт &amp;&amp; частота (новий: 185kHz)</translation>
+        <translation>Порт &amp;&amp; швидк. (новий МК: 185kHz)</translation>
     </message>
     <message>
         <source>Language</source>
