@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- Begriffe: Fuse-Bit, Fuse-Byte und Lock-Bit bleiben, wie es unter Elektronikern üblich ist; Kalibrierbyte; Takt für
-     die Geschwindigkeit des Programmers; der Programmer bleibt ebenfalls. -->
+<!-- Begriffe: Fuse-Bit, Fuse-Byte und Lock-Bit bleiben, wie es unter Elektronikern üblich ist; Kalibrierbyte; Tempo für
+     die Geschwindigkeit des Programmers, Takt nur für den des Chips; der Programmer bleibt ebenfalls. -->
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
     <name>Attributes</name>
@@ -112,7 +112,7 @@ Der Weg zurück: ein niedrigeres Tempo wählen.</translation>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Ohne diesen Takt an seinen Pins antwortet der Chip nicht.
-Der Weg zurück: einen Takt oder Quarz anschließen, oder ein Hochvolt-Programmer.</translation>
+Der Weg zurück: einen Takt oder Quarz anschließen oder einen Hochvolt-Programmer benutzen.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -232,7 +232,7 @@ Der Weg zurück: alles löschen.</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
-        <translation>Die Datei ist noch da, als %1.</translation>
+        <translation>Die Datei bleibt als %1 erhalten.</translation>
     </message>
 </context>
 <context>
@@ -291,13 +291,13 @@ Der Weg zurück: alles löschen.</translation>
         <translation>Der Programmer hat keinen Mikrocontroller erkannt
 
 - Verbindungen und Versorgung prüfen
-- Niedrigeren Takt einstellen (Port &amp; Takt)</translation>
+- Niedrigeres Tempo einstellen (Port &amp; Tempo)</translation>
     </message>
     <message>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>Der Inhalt ließ sich nicht lesen.
-Der Baustein ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
+Der Chip ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -336,8 +336,8 @@ Der Baustein ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>Die Konfiguration „%1“ gibt es schon.
-Soll sie überschrieben werden?</translation>
+        <translation>Das Profil „%1“ gibt es schon.
+Soll es überschrieben werden?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -797,7 +797,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>Port &amp;&amp; Speed ( New MCU -&gt; 185kHz )</source>
-        <translation>Port &amp;&amp; Takt ( neue MCU -&gt; 185kHz )</translation>
+        <translation>Port &amp;&amp; Tempo ( neue MCU -&gt; 185kHz )</translation>
     </message>
     <message>
         <source>Language</source>
