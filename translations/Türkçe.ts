@@ -96,8 +96,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>“Ekle” - geçerli ayarları profil olarak kaydeder.
-“Kaldır” - seçili profili kaldırır.</translation>
+        <translation>“Ekle”: geçerli ayarları profil olarak kaydeder.
+“Kaldır”: seçili profili kaldırır.</translation>
     </message>
 </context>
 <context>
@@ -105,14 +105,14 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Bu kadar yavaş bir çip yalnızca saatinin dörtte birinden düşük bir hızda yanıt verir.
-Geri dönüş yolu: daha düşük bir hız seçmek.</translation>
+        <translation>Bu kadar yavaş bir çip yalnızca saat hızının dörtte birinden düşük bir hızda yanıt verir.
+Kurtarmak için: daha düşük bir hız seçin.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Bacaklarında bu saat olmadan çip yanıt vermez.
-Geri dönüş yolu: bir saat ya da kristal bağlamak veya yüksek gerilimli bir programlayıcı.</translation>
+        <translation>Bacaklarında bu saat sinyali olmadan çip yanıt vermez.
+Kurtarmak için: bir saat sinyali ya da kristal bağlayın veya yüksek gerilimli bir programlayıcı kullanın.</translation>
     </message>
     <message>
         <source>Factory setting</source>
@@ -121,26 +121,26 @@ Geri dönüş yolu: bir saat ya da kristal bağlamak veya yüksek gerilimli bir 
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Reset bacağı sıradan bir bacak olur: seri programlayıcı çipe artık ulaşamaz.
-Geri dönüş yolu: yüksek gerilimli bir programlayıcı.</translation>
+        <translation>Reset bacağı sıradan bir bacak olur: seri programlayıcı artık çipe erişemez.
+Kurtarmak için: yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Reset bacağı hata ayıklayıcıya geçer: seri programlayıcı çipe artık ulaşamaz.
-Geri dönüş yolu: debugWIRE&apos;lı bir hata ayıklayıcı ya da yüksek gerilimli bir programlayıcı.</translation>
+        <translation>Reset bacağı hata ayıklayıcıya geçer: seri programlayıcı artık çipe erişemez.
+Kurtarmak için: debugWIRE destekli bir hata ayıklayıcı ya da yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>UPDI bacağı başka bir görev alır: sıradan bir UPDI programlayıcısı çipe artık ulaşamaz.
-Geri dönüş yolu: yüksek gerilimli UPDI&apos;si olan bir programlayıcı.</translation>
+        <translation>UPDI bacağı başka bir işlev alır: sıradan bir UPDI programlayıcısı artık çipe erişemez.
+Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı.</translation>
     </message>
     <message>
         <source>A programmer can no longer write the chip.
 The way back: erase all of it.</source>
-        <translation>Programlayıcı çipe artık yazamaz.
-Geri dönüş yolu: tümünü silmek.</translation>
+        <translation>Programlayıcı artık çipe yazamaz.
+Kurtarmak için: tümünü silin.</translation>
     </message>
     <message>
         <source>A serial programmer can no longer reach the chip.
@@ -297,7 +297,7 @@ Geri dönüş yolu: tümünü silmek.</translation>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>İçerik okunamadı
-Aygıt boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translation>
+Çip boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -313,7 +313,7 @@ Aygıt boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translatio
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Çıktı penceresindeki iletiye bakın.</translation>
+        <translation>Aşağıdaki günlükteki iletiye bakın.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -336,7 +336,7 @@ Aygıt boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translatio
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>“%1” adlı yapılandırma zaten var.
+        <translation>“%1” adlı profil zaten var.
 Üzerine yazılsın mı?</translation>
     </message>
     <message>
@@ -407,7 +407,7 @@ Fuse baytları veri sayfasındaki varsayılan değerlere ayarlandı.</translatio
     </message>
     <message>
         <source>Write Selected Areas</source>
-        <translation>Seçili alanları yaz</translation>
+        <translation>Seçili alanlara yaz</translation>
     </message>
 </context>
 <context>
@@ -818,7 +818,7 @@ Yine de silinsin mi?</translation>
         <source>New version %1 available.
 
 Open download page?</source>
-        <translation>%1 sürümü çıktı.
+        <translation>%1 sürümü yayımlandı.
 
 İndirme sayfası açılsın mı?</translation>
     </message>
