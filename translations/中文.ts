@@ -95,8 +95,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>“添加” - 将当前设置保存为配置文件。
-“移除” - 移除所选的配置文件。</translation>
+        <translation>“添加”：将当前设置保存为配置文件。
+“移除”：移除所选的配置文件。</translation>
     </message>
 </context>
 <context>
@@ -104,7 +104,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>芯片时钟这么慢时，只有速度低于其时钟的四分之一才会应答。
+        <translation>时钟这么慢的芯片只有在速度低于其时钟的四分之一时才会应答。
 恢复方法：选择更低的速度。</translation>
     </message>
     <message>
@@ -312,7 +312,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>请查看输出窗口中的消息。</translation>
+        <translation>请查看下方日志中的消息。</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -335,7 +335,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     <message>
         <source>Configuration named «%1» already exists.
 Do you want to overwrite it?</source>
-        <translation>配置“%1”已存在。
+        <translation>配置文件“%1”已存在。
 要覆盖它吗？</translation>
     </message>
     <message>
