@@ -121,7 +121,7 @@ Der Weg zurück: einen Takt oder Quarz anschließen oder einen Hochvolt-Programm
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Der Reset-Pin wird ein gewöhnlicher Pin: Ein serieller Programmer erreicht den Chip nicht mehr.
+        <translation>Der Reset-Pin wird zu einem gewöhnlichen Pin: Ein serieller Programmer erreicht den Chip nicht mehr.
 Der Weg zurück: ein Hochvolt-Programmer.</translation>
     </message>
     <message>
@@ -163,7 +163,7 @@ Der Weg zurück: ein Hochvolt-Programmer.</translation>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Ein Programmer kann den Chip weder lesen noch beschreiben.
+        <translation>Ein Programmer kann den Chip nicht mehr lesen oder beschreiben.
 Der Weg zurück: alles löschen.</translation>
     </message>
 </context>

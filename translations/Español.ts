@@ -145,26 +145,26 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Un programador serie ya no alcanza el chip.
-La vuelta atrás: JTAG, si el chip lo tiene, o un programador de alto voltaje.</translation>
+        <translation>Un programador serie ya no podrá acceder al chip.
+Para recuperarlo: JTAG, si el chip lo tiene, o un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Un programador JTAG ya no alcanza el chip.
-La vuelta atrás: ISP, PDI en un ATxmega, o un programador de alto voltaje.</translation>
+        <translation>Un programador JTAG ya no podrá acceder al chip.
+Para recuperarlo: ISP (PDI en un ATxmega) o un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Este ajuste está reservado: puede que el chip ya no responda.
-La vuelta atrás: un programador de alto voltaje.</translation>
+Para recuperarlo: un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programador ya no puede leer ni grabar el chip.
-La vuelta atrás: borrarlo todo.</translation>
+        <translation>Un programador ya no podrá leer ni grabar el chip.
+Para recuperarlo: bórrelo todo.</translation>
     </message>
 </context>
 <context>

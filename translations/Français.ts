@@ -145,26 +145,26 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Un programmateur série n&apos;atteint plus la puce.
-Le retour : JTAG, si la puce en a un, ou un programmateur haute tension.</translation>
+        <translation>Un programmateur série ne peut plus accéder à la puce.
+Pour la récupérer&#xa0;: JTAG, si la puce en dispose, ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Un programmateur JTAG n&apos;atteint plus la puce.
-Le retour : ISP, PDI avec un ATxmega, ou un programmateur haute tension.</translation>
+        <translation>Un programmateur JTAG ne peut plus accéder à la puce.
+Pour la récupérer&#xa0;: ISP (PDI avec un ATxmega) ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
-        <translation>Ce réglage est réservé : la puce risque de ne plus répondre.
-Le retour : un programmateur haute tension.</translation>
+        <translation>Ce réglage est réservé&#xa0;: la puce risque de ne plus répondre.
+Pour la récupérer&#xa0;: un programmateur haute tension.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programmateur ne peut plus ni lire ni écrire la puce.
-Le retour : tout effacer.</translation>
+        <translation>Un programmateur ne peut plus ni lire la puce ni y écrire.
+Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
 </context>
 <context>

@@ -145,26 +145,26 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Un programmatore seriale non raggiunge più il chip.
-La via del ritorno: JTAG, se il chip lo ha, o un programmatore ad alta tensione.</translation>
+        <translation>Un programmatore seriale non può più accedere al chip.
+Per recuperarlo: JTAG, se il chip ce l&apos;ha, o un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Un programmatore JTAG non raggiunge più il chip.
-La via del ritorno: ISP, PDI con un ATxmega, o un programmatore ad alta tensione.</translation>
+        <translation>Un programmatore JTAG non può più accedere al chip.
+Per recuperarlo: ISP (PDI con un ATxmega) o un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Questa impostazione è riservata: il chip potrebbe non rispondere più.
-La via del ritorno: un programmatore ad alta tensione.</translation>
+Per recuperarlo: un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programmatore non può più né leggere né scrivere il chip.
-La via del ritorno: cancellare tutto.</translation>
+        <translation>Un programmatore non può più né leggere il chip né scriverci.
+Per recuperarlo: cancellare tutto.</translation>
     </message>
 </context>
 <context>

@@ -145,26 +145,26 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Programator szeregowy nie dosięgnie już układu.
-Droga powrotna: JTAG, jeśli układ go ma, albo programator wysokonapięciowy.</translation>
+        <translation>Programator szeregowy straci dostęp do układu.
+Jak odzyskać układ: przez JTAG, jeśli układ go ma, albo programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Programator JTAG nie dosięgnie już układu.
-Droga powrotna: ISP, przy ATxmega PDI, albo programator wysokonapięciowy.</translation>
+        <translation>Programator JTAG straci dostęp do układu.
+Jak odzyskać układ: przez ISP (w przypadku ATxmega przez PDI) albo programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>To ustawienie jest zastrzeżone: układ może przestać odpowiadać.
-Droga powrotna: programator wysokonapięciowy.</translation>
+Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Programator nie może już odczytać ani zapisać układu.
-Droga powrotna: skasować cały układ.</translation>
+        <translation>Programator nie będzie już mógł odczytywać ani programować układu.
+Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
 </context>
 <context>

@@ -145,26 +145,26 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Um gravador serial não alcança mais o chip.
-O caminho de volta: JTAG, se o chip tiver, ou um gravador de alta tensão.</translation>
+        <translation>Um gravador serial não consegue mais acessar o chip.
+Para recuperá-lo: JTAG, se o chip tiver, ou um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Um gravador JTAG não alcança mais o chip.
-O caminho de volta: ISP, PDI com um ATxmega, ou um gravador de alta tensão.</translation>
+        <translation>Um gravador JTAG não consegue mais acessar o chip.
+Para recuperá-lo: ISP (PDI com um ATxmega) ou um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Este ajuste é reservado: o chip talvez não responda mais.
-O caminho de volta: um gravador de alta tensão.</translation>
+Para recuperá-lo: um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
         <translation>Um gravador não consegue mais ler nem gravar o chip.
-O caminho de volta: apagar tudo.</translation>
+Para recuperá-lo: apague tudo.</translation>
     </message>
 </context>
 <context>

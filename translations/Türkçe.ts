@@ -145,26 +145,26 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Seri programlayıcı çipe artık ulaşamaz.
-Geri dönüş yolu: çipte varsa JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
+        <translation>Seri programlayıcı artık çipe erişemez.
+Kurtarmak için: çipte varsa JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>JTAG programlayıcısı çipe artık ulaşamaz.
-Geri dönüş yolu: ISP, ATxmega&apos;da PDI ya da yüksek gerilimli bir programlayıcı.</translation>
+        <translation>JTAG programlayıcısı artık çipe erişemez.
+Kurtarmak için: ISP (ATxmega&apos;da PDI) ya da yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Bu ayar ayrılmıştır: çip artık yanıt vermeyebilir.
-Geri dönüş yolu: yüksek gerilimli bir programlayıcı.</translation>
+Kurtarmak için: yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Programlayıcı çipi artık ne okuyabilir ne de yazabilir.
-Geri dönüş yolu: tümünü silmek.</translation>
+        <translation>Programlayıcı artık çipi ne okuyabilir ne de yazabilir.
+Kurtarmak için: tümünü silin.</translation>
     </message>
 </context>
 <context>

@@ -145,26 +145,26 @@ The way back: erase all of it.</source>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Последовательный программатор больше не достучится до МК.
-Путь назад: JTAG, если он есть в МК, или высоковольтный программатор.</translation>
+        <translation>Последовательный программатор потеряет доступ к МК.
+Как восстановить: через JTAG, если он есть в МК, или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Программатор JTAG больше не достучится до МК.
-Путь назад: ISP, для ATxmega — PDI, или высоковольтный программатор.</translation>
+        <translation>Программатор JTAG потеряет доступ к МК.
+Как восстановить: через ISP (для ATxmega через PDI) или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Эта настройка зарезервирована: МК может перестать отвечать.
-Путь назад: высоковольтный программатор.</translation>
+Как восстановить: высоковольтным программатором.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Программатор больше не сможет ни считать, ни записать МК.
-Путь назад: стереть всё.</translation>
+        <translation>Программатор больше не сможет ни считывать МК, ни записывать в него.
+Как восстановить: сотрите всё.</translation>
     </message>
 </context>
 <context>

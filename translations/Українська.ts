@@ -145,26 +145,26 @@ The way back: erase all of it.</source>
     <message>
         <source>A serial programmer can no longer reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Послідовний програматор більше не дістанеться до МК.
-Шлях назад: JTAG, якщо він є в МК, або високовольтний програматор.</translation>
+        <translation>Послідовний програматор втратить доступ до МК.
+Як відновити: через JTAG, якщо він є в МК, або високовольтним програматором.</translation>
     </message>
     <message>
         <source>A JTAG programmer can no longer reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Програматор JTAG більше не дістанеться до МК.
-Шлях назад: ISP, для ATxmega — PDI, або високовольтний програматор.</translation>
+        <translation>Програматор JTAG втратить доступ до МК.
+Як відновити: через ISP (для ATxmega через PDI) або високовольтним програматором.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Це налаштування зарезервоване: МК може більше не відповідати.
-Шлях назад: високовольтний програматор.</translation>
+Як відновити: високовольтним програматором.</translation>
     </message>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Програматор більше не зможе ні зчитати, ні записати МК.
-Шлях назад: стерти все.</translation>
+        <translation>Програматор більше не зможе ні зчитувати МК, ні записувати в нього.
+Як відновити: зітріть усе.</translation>
     </message>
 </context>
 <context>
