@@ -96,7 +96,7 @@ private slots:
         QCOMPARE(drop.dropAction(), Qt::CopyAction); // the file stays where it is
         QCOMPARE(panels.settings.flashWrite, app.fileName());
         panels.flashView.writePath()->clear();
-        QApplication::clipboard()->setText("  /my fw/a.hex \n");
+        QApplication::clipboard()->setText("  \"/my fw/a.hex\" \n");
         QTest::keySequence(panels.flashView.writePath(), QKeySequence::Paste);
         QCOMPARE(panels.settings.flashWrite, QString("/my fw/a.hex"));
         QCOMPARE(seen,

@@ -128,6 +128,10 @@ void PathField::pasteFrom(QClipboard::Mode mode)
         setFile(file);
         return;
     }
-    // A path copied from a terminal or a list comes with a line break and blanks that are none of it.
-    insert(copied->text().remove(QLatin1Char('\n')).remove(QLatin1Char('\r')).trimmed());
+    // A path copied from a terminal or a list comes with a line break and blanks that are none of it, and what the
+    // Explorer of Windows copies as a path stands in quotation marks.
+    QString path = copied->text().remove(QLatin1Char('\n')).remove(QLatin1Char('\r')).trimmed();
+    if (path.size() > 1 && path.startsWith(QLatin1Char('"')) && path.endsWith(QLatin1Char('"')))
+        path = path.mid(1, path.size() - 2);
+    insert(path);
 }
