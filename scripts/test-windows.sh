@@ -59,7 +59,7 @@ started+=($!)
 wait_for test -s "$scratch/display"
 DISPLAY=:$(cat "$scratch/display")
 export DISPLAY
-openbox &
+openbox >/dev/null 2>&1 &
 started+=($!)
 wine wineboot --init >/dev/null 2>&1
 wineserver -w
