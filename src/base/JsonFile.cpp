@@ -4,6 +4,18 @@
 #include <QFile>
 #include <QJsonParseError>
 #include <QSaveFile>
+#include <QThread>
+
+namespace {
+
+bool replaceFile(const QString& path, const QByteArray& content)
+{
+    QSaveFile file(path);
+    // Flushed here: a disk that fills up while the file is closed goes unnoticed, and half a file would win.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
+}
+
+} // namespace
 
 JsonFile JsonFile::read(const QString& path)
 {
@@ -29,9 +41,17 @@ bool writeFile(const QString& path, const QByteArray& content)
     const QFileInfo info(path);
     if (info.isSymLink() && info.exists() && !info.isFile())
         return false; // a link to a device: root would replace that
-    QSaveFile file(path);
-    // Flushed here: a disk that fills up while the file is closed goes unnoticed, and half a file would win.
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
+    if (replaceFile(path, content))
+        return true;
+#ifdef Q_OS_WIN
+    // A file that a program has open cannot be replaced there, and virus scanners look into what was just written.
+    for (int attempt = 0; attempt < 10; ++attempt) {
+        QThread::msleep(50);
+        if (replaceFile(path, content))
+            return true;
+    }
+#endif
+    return false;
 }
 
 QString fullPath(const QString& file)
