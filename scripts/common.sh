@@ -34,3 +34,23 @@ build() {
     cmake --preset "$preset"
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
+
+# The processes that a script has started; a script that fills it traps its end with stop_started.
+started=()
+stop_started() {
+    local i
+    for ((i = ${#started[@]} - 1; i >= 0; i--)); do # the display last
+        kill "${started[i]}" 2>/dev/null && wait "${started[i]}" || true
+    done
+}
+
+# Waits up to a minute for the command to succeed.
+wait_for() {
+    local i
+    for ((i = 0; i < 300; i++)); do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.2
+    done
+    echo "Waited in vain for: $*" >&2
+    return 1
+}

@@ -20,26 +20,8 @@ fi
 need_packages "${packages[@]}"
 build release korvel korvel-virtual-programmer korvel_data korvel_languages
 
-started=()
-stop_all() {
-    trap - EXIT INT TERM
-    local i
-    for ((i = ${#started[@]} - 1; i >= 0; i--)); do # the display last
-        kill "${started[i]}" 2>/dev/null && wait "${started[i]}" || true
-    done
-}
-trap stop_all EXIT
+trap 'trap - EXIT INT TERM; stop_started' EXIT
 trap 'exit 130' INT TERM
-
-# Waits up to 20 seconds for the command to succeed.
-wait_for() {
-    local i
-    for ((i = 0; i < 200; i++)); do
-        "$@" >/dev/null 2>&1 && return
-        sleep 0.1
-    done
-    return 1
-}
 
 cd build/release
 if [ -n "$demo" ]; then

@@ -31,28 +31,13 @@ PYTHON
 scratch=$(mktemp -d)
 export WINEPREFIX=$scratch/wine WINEARCH=win64 WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
-started=()
 cleanup() {
     wineserver -k 2>/dev/null && wineserver -w || true
-    local i
-    for ((i = ${#started[@]} - 1; i >= 0; i--)); do # the display last
-        kill "${started[i]}" 2>/dev/null && wait "${started[i]}" || true
-    done
+    stop_started
     rm -rf "$scratch"
 }
 trap cleanup EXIT
 trap 'exit 130' INT TERM
-
-# Waits up to a minute for the command to succeed.
-wait_for() {
-    local i
-    for ((i = 0; i < 300; i++)); do
-        "$@" >/dev/null 2>&1 && return
-        sleep 0.2
-    done
-    echo "Waited in vain for: $*" >&2
-    return 1
-}
 
 Xvfb -displayfd 3 -screen 0 1024x800x24 -dpi 96 -noreset -nolisten tcp 3>"$scratch/display" 2>/dev/null &
 started+=($!)
