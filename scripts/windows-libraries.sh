@@ -18,7 +18,7 @@ fetch_source() {
         mkdir -p "$folder" "$lists"/{parts,lists/partial,cache/archives/partial}
         for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.{list,sources}; do
             [ ! -e "$file" ] || sed -E 's/^deb( |\t)/deb-src\1/; s/^Types:.*/Types: deb-src/' "$file" \
-                >"$lists/parts/$(basename "$file" .list | sed 's/^sources$/main/; /\./!s/$/.list/')"
+                >"$lists/parts/$(basename "$file")"
         done
         local apt=(apt-get -q -q -o "Dir::Etc::SourceList=/dev/null" -o "Dir::Etc::SourceParts=$lists/parts"
             -o "Dir::State::Lists=$lists/lists" -o "Dir::Cache=$lists/cache" -o APT::Sandbox::User=)
