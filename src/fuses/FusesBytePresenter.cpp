@@ -53,7 +53,7 @@ void mark(QCheckBox* checkBox, bool isMarked)
         const qreal width = QFontMetricsF(font).horizontalAdvance(label);
         font.setBold(true);
         font.setLetterSpacing(QFont::AbsoluteSpacing,
-                              (width - QFontMetricsF(font).horizontalAdvance(label)) / label.size());
+                              (width - QFontMetricsF(font).horizontalAdvance(label)) / static_cast<int>(label.size()));
     }
     checkBox->setFont(font);
 }
