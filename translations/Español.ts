@@ -105,7 +105,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Un chip tan lento solo responde a una velocidad menor que un cuarto de la de su reloj.
+        <translation>Un chip tan lento solo responde a una velocidad menor que un cuarto de la frecuencia de su reloj.
 Para recuperarlo: elija una velocidad menor.</translation>
     </message>
     <message>

@@ -105,7 +105,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Une puce aussi lente ne répond qu&apos;à une vitesse inférieure au quart de celle de son horloge.
+        <translation>Une puce aussi lente ne répond qu&apos;à une vitesse inférieure au quart de la fréquence de son horloge.
 Pour la récupérer&#xa0;: choisissez une vitesse plus basse.</translation>
     </message>
     <message>

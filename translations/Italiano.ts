@@ -105,7 +105,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Un chip così lento risponde solo a una velocità inferiore a un quarto di quella del suo clock.
+        <translation>Un chip così lento risponde solo a una velocità inferiore a un quarto della frequenza del suo clock.
 Per recuperarlo: scegliere una velocità minore.</translation>
     </message>
     <message>

@@ -121,7 +121,7 @@ Jak odzyskać układ: podłącz zegar lub kwarc albo użyj programatora wysokona
     <message>
         <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Wyprowadzenie RESET staje się zwykłym wyprowadzeniem: programator szeregowy straci dostęp do układu.
+        <translation>Wyprowadzenie RESET staje się zwykłym pinem: programator szeregowy straci dostęp do układu.
 Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
     </message>
     <message>

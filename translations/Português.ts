@@ -105,7 +105,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Um chip tão lento só responde a uma velocidade abaixo de um quarto da do seu clock.
+        <translation>Um chip tão lento só responde a uma velocidade abaixo de um quarto da frequência do seu clock.
 Para recuperá-lo: escolha uma velocidade menor.</translation>
     </message>
     <message>

@@ -105,7 +105,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Bu kadar yavaş bir çip yalnızca saat hızının dörtte birinden düşük bir hızda yanıt verir.
+        <translation>Bu kadar yavaş bir çip yalnızca saat frekansının dörtte birinden düşük bir hızda yanıt verir.
 Kurtarmak için: daha düşük bir hız seçin.</translation>
     </message>
     <message>

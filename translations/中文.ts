@@ -320,7 +320,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>No such file or directory.</source>
-        <translation>没有此文件或目录。</translation>
+        <translation>没有此文件或文件夹。</translation>
     </message>
 </context>
 <context>
