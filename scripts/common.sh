@@ -2,7 +2,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev avrdude)
+build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev avrdude python3)
 
 # Installs those of the named Debian packages that are missing; elsewhere names them all and gives up.
 need_packages() {

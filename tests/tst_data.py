@@ -1,0 +1,152 @@
+#!/usr/bin/env python3
+"""Holds the descriptions of microcontrollers and programmers, and the samples, against facts: the table in
+tests/data/parts.txt, the installed avrdude, and what docs/devices.md says. Prints a line for each difference and ends with
+1 when there is one."""
+import json
+import pathlib
+import re
+import subprocess
+import sys
+
+top = pathlib.Path(__file__).resolve().parent.parent
+faults = []
+
+
+def check(holds, *words):
+    if not holds:
+        faults.append(' '.join(str(word) for word in words))
+
+
+def load(folder):
+    """The files of a folder by their names, which have no dot, as the program lists them."""
+    files = {path.stem: json.loads(path.read_text()) for path in (top / 'data' / folder).glob('*.json')}
+    for name, content in files.items():
+        check('.' not in name and isinstance(content, dict), folder, name, 'is no object or has a dot in its name')
+    return files
+
+
+def avrdude_table(option):
+    """avrdude's own description of its parts ("-p") or programmers ("-c")."""
+    run = subprocess.run(['avrdude', option, '*/St'], capture_output=True, text=True)
+    return [line.split('\t') for line in (run.stdout + run.stderr).split('\n')]
+
+
+def devices(title=''):
+    """A section of the list of devices, or what stands above the first."""
+    text = (top / 'docs/devices.md').read_text()
+    return (text.split('\n## ' + title, 1)[1] if title else text).split('\n## ')[0]
+
+
+def has_word(text, word):
+    return re.search(r'(?<![\w-])' + re.escape(word) + r'\b', text) is not None
+
+
+facts = {}  # what the table says, in the form of our files
+for line in (top / 'tests/data/parts.txt').read_text().splitlines():
+    name, *cells = line.split(' ')
+    if len(cells) < 5 or name == '#':
+        continue
+    identifier, signature, flash, eeprom, interfaces, *memories = cells
+    description = {'mcu': name, 'id': identifier, 'signature': ' '.join(re.findall('..', signature)),
+                   'flash': int(flash)}
+    if eeprom != '-':
+        description['eeprom'] = int(eeprom)
+    bytes_ = [m.replace('*', '') + ('' if '/' in m else '/FF') for m in memories if not m.startswith('(')]
+    facts[name] = description, 'ISP' in interfaces, bytes_
+
+installed = {}  # identifier, and the memories of one byte, of the parts that avrdude knows
+for cells in avrdude_table('-p'):
+    if len(cells) > 3 and cells[0] == '.pt' and cells[2] == 'id':
+        installed.setdefault(cells[1], [cells[3].strip('"')])
+    elif len(cells) > 4 and cells[3:5] == ['size', '1']:
+        installed[cells[1]].append(cells[2])
+check('lfuse' in installed.get('ATmega16', []), 'avrdude does not describe its parts')
+
+other_names = re.compile('LVL|OSCSEL|OSCHFFRQ|PLLCK|NVLB|JTAGUSERID')  # than their field's
+ships = load('mcu')
+seen = set()  # fields that some part has
+factory = {}  # identifier, and the factory values
+for name, found in sorted(ships.items()):
+    expected, is_serial, memories = facts.get(name, ({}, False, []))
+    known = installed.get(name, [])
+    listed = []
+    factory[name] = found['id'], [(byte['id'], sum(bit['default'] << 7 - place for place, bit in enumerate(byte['bits'])))
+                                  for byte in found['FuseBytes']]
+    for byte in found.pop('FuseBytes'):
+        seen |= set(byte['fields'].values())
+        where = f'{name} {byte["id"]}'
+        check(byte['name'].strip() and (not known or byte['id'] in known), where, 'is no memory of this avrdude')
+        names = [bit['name'] for bit in byte['bits']]
+        exists = [bit != 'NOT USED' for bit in names]
+        may_change = [here and not (bit == 'SPIEN' and is_serial) for here, bit in zip(exists, names)]
+        used = [bit for bit, here in zip(names, exists) if here]
+        check(len(names) == 8 and all(used) and len(set(used)) == len(used), where, 'names', names)
+        check([bit['enabled'] for bit in byte['bits']] == [int(may) for may in may_change], where, 'enabled')
+        check(all(bit['default'] in (0, 1) and set(bit) == {'name', 'default', 'enabled'} for bit in byte['bits']),
+              where, 'bits')
+        value = int(''.join(str(bit['default']) for bit in byte['bits']), 2)
+        mask = int(''.join(str(int(here)) for here in exists), 2)
+        listed.append(f'{byte["id"]}={value:02X}/{mask:02X}')
+
+        last = {}  # number of the bit before, by field and name without number
+        for place, bit in enumerate(names):
+            owners = [field.upper() for bits, field in byte['fields'].items() if int(bits, 16) << place & 0x80]
+            stem, number = re.fullmatch(r'(.*?)(\d*)', bit).groups()
+            if exists[place]:
+                check(len(owners) == 1 and (stem in owners[0] or other_names.match(bit)), where, bit, 'is in', owners)
+                before = last.setdefault((owners[:1] + [''])[0] + stem, int(number or 0) + 1)
+                check(before == int(number or 0) + 1, where, bit, 'does not follow', before)
+                last[(owners[:1] + [''])[0] + stem] = int(number or 0)
+    check(listed == memories, name, 'has', listed, 'instead of', memories)
+    if name.lower() in known:  # newer ones know the part by its name too
+        expected = dict(expected, id=name.lower())
+    check(found == expected, name, 'is', found, 'instead of', expected)
+    check(not known or known[0] == found['id'], name, 'is called', known[:1], 'by avrdude')
+
+meanings, words = load('mcu/meanings')['fields'], load('mcu/meanings')['words']
+rules = [(re.compile(pattern), replacement) for pattern, replacement in words['rules']]
+check(set(meanings) <= seen, 'fields of no part:', *sorted(set(meanings) - seen))
+for field, settings in meanings.items():
+    name = field.split(' ')[0]
+    check(words['fields'].get(name), field, 'has no words')
+    for symbol in settings.values():
+        text = words['symbols'].get(f'{name}:{symbol}', words['symbols'].get(symbol))
+        if text is None:
+            text = symbol
+            for pattern, replacement in rules:
+                text = pattern.sub(replacement, text)
+        check(re.fullmatch('[^_]+', text) and text not in ('reserved', symbol), field, symbol, 'has no words but', text)
+
+samples = dict(load('profiles'), save=json.loads((top / 'data/save.json').read_text()))
+for name, sample in samples.items():
+    values = [(byte['id'], byte['defaultValue']) for byte in sample['fusesBytes']]
+    check((sample['mcuId'], values) == factory.get(sample['mcuName']), 'sample', name, 'does not fit its part')
+
+missing, newer = devices('Microcontrollers that do not ship'), devices('What needs avrdude 8')
+for name in facts:
+    check((name in ships) != has_word(missing, name), name, 'ships, or is listed as missing')
+    check(has_word(newer, name) == (name in ships and name not in installed), name, 'needs a newer avrdude')
+
+ports = {}
+for cells in avrdude_table('-c'):  # each with its id first, and not always with a connection
+    if len(cells) > 3 and cells[2] in ('id', 'connection_type'):
+        ports[cells[1]] = 'com' if cells[3] == 'serial' else 'usb'
+offered = set()
+programmers = load('programmer')
+for name, entry in programmers.items():
+    identifier, arguments = entry['id'], entry['arguments']
+    row = f'| {name} | `{identifier}` | {entry["port"]} |'
+    check((identifier in ports) != (row in newer), name, 'needs a newer avrdude')
+    port = 'usb' if '-P ' in arguments else ports.get(identifier, entry['port'])
+    check(entry == {'id': identifier, 'arguments': arguments, 'port': port}, name, 'is', entry, 'not on', port)
+    check((identifier, arguments) not in offered, name, 'is there twice')
+    offered |= {identifier, (identifier, arguments)}
+missing = devices('Programmers that do not ship')
+for identifier in ports:
+    check((identifier in offered) != (re.search('[ ]' + re.escape(identifier) + r'\b', missing) is not None),
+          identifier, 'is offered, or listed as missing')
+counts = f'descriptions of {len(ships)} microcontrollers (`data/mcu`) and entries for {len(programmers)} programmers'
+check(counts in devices(), 'docs/devices.md does not say:', counts)
+
+print('\n'.join(faults) or f'data: {len(ships)} microcontrollers and {len(programmers)} programmers are in order')
+sys.exit(bool(faults))
