@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fuzzes every reader of what comes from outside, under the sanitizers: fuzz.sh [SECONDS [READER...]], for each reader
+# Fuzzes the readers of what comes from outside, under the sanitizers: fuzz.sh [SECONDS [READER...]], for each reader
 # (600 seconds and all of them without arguments). What was tried is kept in build/fuzz/corpus, a finding in
 # build/fuzz/findings. Not part of CI.
 source "$(dirname "$0")/common.sh"
@@ -8,20 +8,18 @@ export LC_ALL=C.UTF-8
 seconds=${1:-600}
 [ $# -gt 0 ] && shift
 readers=("$@")
-[ ${#readers[@]} -gt 0 ] || readers=(settings description catalogue language translation update output)
+[ ${#readers[@]} -gt 0 ] || readers=(settings description translation update output)
 
 need_packages "${build_packages[@]}" clang libclang-rt-14-dev
 CXX=clang++ cmake --preset dev -B build/fuzz -DKORVEL_FUZZ=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all" >/dev/null
-cmake --build build/fuzz --target "${readers[@]/#/fuzz-}" korvel_languages
+cmake --build build/fuzz --target "${readers[@]/#/fuzz-}"
 
 cd build/fuzz
 mkdir -p findings
 seed() { mkdir -p "corpus/$1" && cp -n "${@:2}" "corpus/$1/"; }
 seed settings ../../data/save.json ../../data/profiles/*
 seed description ../../data/mcu/ATmega16.json ../../data/mcu/ATtiny10.json
-seed catalogue ../../data/programmer/USBasp.json "../../data/programmer/Arduino as ISP.json"
-seed language bin/Languages/Deutsch.json
 seed translation ../../translations/Deutsch.ts
 mkdir -p corpus/update corpus/output
 echo '{"version": "6.0", "url": "https://korvel.example", "url_linux": ""}' >corpus/update/newer

@@ -1,0 +1,114 @@
+// Harnesses for what reads more than plain texts out of what comes from outside: READER names the function that gets
+// the input.
+
+#include "app/AvrdudeMessage.h"
+#include "app/SettingsRecord.h"
+#include "avrdude/Avrdude.h"
+#include "avrdude/ReadFile.h"
+#include "base/JsonFile.h"
+#include "fuses/FuseRequests.h"
+#include "fuses/FusesByteModel.h"
+#include "i18n/LanguageFiles.h"
+#include "i18n/TsConverter.h"
+#include "mcu/BytesModel.h"
+#include "mcu/SignatureIndex.h"
+#include "support/BoxAnswerer.h"
+#include "support/WorkFolder.h"
+#include "update/UpdateChecker.h"
+
+#include <QNetworkReply>
+
+/// What every harness starts with: an application without a screen, a working folder, and a hand that closes boxes.
+struct Fuzz {
+    int argc = 1;
+    char name[5] = "fuzz";
+    char* argv[2] = {name, nullptr};
+    bool silenced = (qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}), true);
+    QApplication application {argc, argv};
+    WorkFolder folder;
+    BoxAnswerer boxes;
+};
+
+/// The settings file, which is also what a profile is: read, written, and read again it must be the same.
+void settings(Fuzz& fuzz, const QByteArray& input)
+{
+    fuzz.folder.write("save.json", input);
+    SettingsRecord first;
+    if (!first.loadFromFile("save.json"))
+        return;
+    SettingsRecord second;
+    if (!first.saveToFile("first.json") || !second.loadFromFile("first.json") || !second.saveToFile("second.json")
+        || fuzz.folder.read("first.json") != fuzz.folder.read("second.json"))
+        std::abort();
+}
+
+/// The description of a microcontroller: loaded, shown in the Fuses tab, and changed there.
+void description(Fuzz& fuzz, const QByteArray& input)
+{
+    SignatureIndex index;
+    fuzz.folder.write("mcu/X.json", input);
+    index.build();
+    if (JsonFile::read("mcu/X.json").state != JsonFile::State::Parsed)
+        return; // turned away with a box
+    Avrdude avrdude(nullptr, nullptr);
+    BytesModel(avrdude).load("X");
+    FuseBytes& bytes = avrdude.settings().fusesBytes;
+    for (int i = 0; i < bytes.size(); ++i) {
+        FusesByteModel model(bytes, i);
+        model.setByte(0xA5);
+        model.setBit(7, true);
+        if (bytes[i].currentValue > 0xFF)
+            std::abort();
+    }
+    if (FuseRequests::write(bytes).isEmpty()) // the lock byte's argument is always there
+        std::abort();
+}
+
+/// A translation source: whatever it holds, what the converter writes is a language file.
+void translation(Fuzz& fuzz, const QByteArray& input)
+{
+    fuzz.folder.write("x.ts", input);
+    static_cast<void>(convertTsToJson("x.ts", "Fuzz"));
+    if (!JsonFile::read(LanguageFiles::path(QCoreApplication::applicationDirPath(), "Fuzz")).isObject())
+        std::abort();
+}
+
+/// The update server's reply.
+void update(Fuzz& fuzz, const QByteArray& input)
+{
+    fuzz.boxes.button = QMessageBox::No;
+    static QNetworkAccessManager manager;
+    static UpdateChecker checker;
+    const QUrl url("data:application/json;base64," + QString::fromLatin1(input.toBase64()));
+    checker.onReplyFinished(manager.get(QNetworkRequest(url)));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// avrdude's output, in pieces as a pipe delivers it, and the files that it reads fuse bytes into.
+void output(Fuzz& fuzz, const QByteArray& input)
+{
+    static AvrdudeMessage log;
+    static const Message messages;
+    Toolkit::Utf8Decoder decoder;
+    log.clear();
+    constexpr int piece = 7;
+    for (int i = 0; i < input.size(); i += piece) {
+        const QString text = decoder.decode(input.mid(i, piece));
+        static_cast<void>(Message::showsSilentProgrammer(text));
+        log.insertAtCursor(text);
+    }
+    static_cast<void>(messages.checkOutput(log.document()->toRawText()));
+    static_cast<void>(messages.checkFailedRun(log.toPlainText()));
+    fuzz.folder.write("lfuse.hex", input);
+    ReadFile().readFiles({"lfuse.hex"}, [](const QStringList& values) {
+        if (values.size() != 1)
+            std::abort();
+    });
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static Fuzz fuzz;
+    READER(fuzz, {reinterpret_cast<const char*>(data), static_cast<int>(size)});
+    return 0;
+}
