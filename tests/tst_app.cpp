@@ -1,19 +1,15 @@
 #include "app/KorvelApp.h"
 #include "app/Startup.h"
 #include "avrdude/Avrdude.h"
+#include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "settings/SettingsView.h"
 #include "support/BoxAnswerer.h"
 #include "support/LogCapture.h"
 #include "support/WorkFolder.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDialog>
-#include <QDir>
-#include <QJsonDocument>
-#include <QTabWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 #ifdef Q_OS_LINUX
 #include <csignal>
@@ -140,6 +136,33 @@ private slots:
         QCOMPARE((seen + boxes.take()).join('|'), QString("USBasp|usb|usbasp|-F|USBasp|usb|||Mine||avrisp|"));
     }
 
+    void aLoadedProfileIsShown()
+    {
+        const WorkFolder folder;
+        const BoxAnswerer boxes;
+        folder.write("programmer/Mine.json", R"({"id": "avrisp", "port": "usb"})");
+        for (const QString list : {"mcu/ATtiny85.json", "Languages/Русский.json"})
+            folder.write(list, "{}");
+        const QByteArray board = QByteArray(full).replace("/dev/none", "usb");
+        folder.write("profiles/Board.json", board);
+        folder.write("profiles/Other.json", QByteArray(board).replace("\"L\"", "\"Other\""));
+        const KorvelApp window;
+        for (const QString name : {"Other", "Board"})
+            emit window.findChild<ProgrammingView*>()->profiles()->textActivated(name);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QStringList shown; // as it is read out to who cannot see it
+        for (const auto* list : window.findChildren<QComboBox*>())
+            shown += list->accessibleName() + ": " + list->currentText();
+        for (const auto* field : window.findChildren<QLineEdit*>())
+            shown += field->accessibleName() + ": " + field->text();
+        shown.sort();
+        QCOMPARE(shown,
+                 QStringList({"Calibration Byte: 5A", "Description (optional): Rev. B", "EEPROM: Read: d.eep",
+                              "EEPROM: Write: c.eep", "FLASH: Read: b.hex", "FLASH: Write: a.hex", "L ( lfuse ): E2",
+                              "Language: Русский", "MCU: ATtiny85", "Port: usb", "Profile name: Name",
+                              "Profiles: Board", "Programmer: Mine", "Speed ( New MCU -> 185kHz ): 1 kHz (-B 512)"}));
+    }
+
     void closingDuringARun()
     {
         const WorkFolder folder;
@@ -150,9 +173,8 @@ private slots:
             KorvelApp window;
             auto* avrdude = window.findChild<Avrdude*>();
             avrdude->settings().avrdude = STAND_IN;
-            avrdude->settings().eepromEnable = true;
             window.findChild<QTabWidget*>()->setCurrentIndex(2); // Profiles
-            QVERIFY(window.findChild<SelectView*>()->eeprom()->isEnabled());
+            QVERIFY(!window.findChild<SelectView*>()->eeprom()->isEnabled()); // there is no file
             avrdude->execute({}, [] { QFAIL("called back"); });
             QTRY_VERIFY(avrdude->logText().contains("busy"));
             QVERIFY(QApplication::overrideCursor());

@@ -1,6 +1,28 @@
 #include "support/Bench.h"
+#include "support/Rows.h"
 
 #include <QtTest>
+#include <QtWidgets>
+
+namespace {
+
+/// The boxes that tell of a failure, by the letters of the tests' tables.
+const QHash<QChar, QString> boxes {
+    {'-', ""},
+    {'N', "AVRDUDE: Programmer not found."},
+    {'U', "AVRDUDE: UsbAsp not found."},
+    {'D',
+     "AVRDUDE: Programmer did not detect the microcontroller\n\n"
+     "- Check connections and power supply\n- Set a lower speed (Port & Speed)"},
+    {'W', "AVRDUDE: Wrong microcontroller selected."},
+    {'V', "AVRDUDE: Verification error."},
+    {'F', "AVRDUDE: No such file or directory."},
+    {'I', "AVRDUDE: Invalid file format. Please choose another file."},
+    {'E', "AVRDUDE: Could not read contents\nDevice is either blank or read-protected (Lock Bits are set)."},
+    {'S', "AVRDUDE: See the message in the dialog box."},
+};
+
+} // namespace
 
 class tst_Avrdude : public QObject
 {
@@ -22,21 +44,6 @@ private slots:
 
     void everyVersion()
     {
-        const QString seeLog = "AVRDUDE: See the message in the dialog box.";
-        const QHash<QChar, QString> boxes {{'-', ""},
-                                           {'N', "AVRDUDE: Programmer not found."},
-                                           {'D',
-                                            "AVRDUDE: Programmer did not detect the microcontroller\n\n"
-                                            "- Check connections and power supply\n"
-                                            "- Set a lower speed (Port & Speed)"},
-                                           {'W', "AVRDUDE: Wrong microcontroller selected."},
-                                           {'V', "AVRDUDE: Verification error."},
-                                           {'F', "AVRDUDE: No such file or directory."},
-                                           {'I', "AVRDUDE: Invalid file format. Please choose another file."},
-                                           {'E',
-                                            "AVRDUDE: Could not read contents\nDevice is either blank or "
-                                            "read-protected (Lock Bits are set)."},
-                                           {'S', seeLog}};
         Bench bench;
         // A letter for each command, in the order of the recordings; the callback runs in '-' alone.
         for (const auto& [version, expected] : {std::pair("6.3", "--IIFIVW-E--SSNNNSND"),
@@ -55,40 +62,50 @@ private slots:
                          command + boxes.value(expected[i]));
             }
         }
-        // Words of the second table count with an exit code other than 0 alone, and that code with such a word alone.
-        for (const QByteArray& script : QByteArrayList {"err Error: retrying", "err Avrdude done.  Thank you.",
-                                                        "err was: no Error: at all\nexit 1"})
-            QVERIFY2(bench.run(script) == 1, script);
-        for (const auto& [line, letter] : {std::pair("\rWriting | ###\rError: cut off", 'S'),
-                                           {"Avrdude done.  Thank you.", 'S'},
-                                           {"avrdude: invalid file format 'a90' in update specifier", 'S'},
-                                           {"\"fuse9\" memory type not defined", 'S'},
-                                           {"Valid parts are:", 'S'},
-                                           {"Error: initialization failed  (rc = -1)", 'D'},
-                                           {"Error: program enable: target does not answer (0x01)", 'D'},
-                                           {"x: Yikes!  Invalid device signature.", 'D'},
-                                           {"x: Error: Could not find USBtiny device (0x1781/0xc9f)", 'N'},
-                                           {"x: Error: No matching USB device found", 'N'},
-                                           {"x: net_open(): Cannot connect: Connection", 'N'},
-                                           {"x: opening programmer \"usbtiny\" on port \"usb\" failed", 'N'},
-                                           {"x: jtag3_open_common(): Did not find any device matching VID", 'N'},
-                                           {"E avrftdi_open(706): Error -1 occurred: usb_find_busses() failed", 'N'}}) {
-            QVERIFY2(bench.run(QByteArray("err ") + line + "\nexit 1") == 0, line);
-            QCOMPARE(line + bench.boxes.wait().join('|'), line + boxes.value(letter));
-        }
     }
 
-    void verdict()
+    void lines_data()
     {
-        BoxAnswerer boxes;
-        QString told;
-        for (const QString output :
-             {"error: unable to open programmer", "\"usb\" failed", "cannot open port\nverification error",
-              "USBasp not found", "error: program enable: target does not answer",
-              "Device signature = 0xffffff use -F to override this check", "Invalid file format"})
-            told += Message().checkOutput("Hi\n" + output) ? boxes.take().value(0).section(' ', 1, 2) + '|' : "-|";
-        QCOMPARE(told,
-                 "Programmer not|Programmer not|Programmer not|UsbAsp not|Programmer did|Programmer did|Invalid file|");
+        columns<int, QChar>("exitCode", "box");
+        for (const auto& [line, exitCode, box] : {
+                 // Those of the first table count by themselves.
+                 std::tuple("cannot open port\nerr verification error", 0, 'N'), // the first row that matches
+                 {"Programmer: USBasp not found", 0, 'U'},
+                 {"error: program enable: target does not answer", 0, 'D'},
+                 {"Device signature = 0xffffff use -F to override this check", 0, 'D'},
+                 {"Invalid file format", 0, 'I'},
+                 {"ERROR: x", 0, 'S'},
+                 // Those of the second with an exit code other than 0 alone, and that code with such a word alone.
+                 {"Error: retrying", 0, '-'},
+                 {"Avrdude done.  Thank you.", 0, '-'},
+                 {"was: no Error: at all", 1, '-'},
+                 {"\rWriting | ###\rError: cut off", 1, 'S'},
+                 {"Avrdude done.  Thank you.", 1, 'S'},
+                 {"avrdude: invalid file format 'a90' in update specifier", 1, 'S'},
+                 {"\"fuse9\" memory type not defined", 1, 'S'},
+                 {"Valid parts are:", 1, 'S'},
+                 {"Error: initialization failed  (rc = -1)", 1, 'D'},
+                 {"Error: program enable: target does not answer (0x01)", 1, 'D'},
+                 {"x: Yikes!  Invalid device signature.", 1, 'D'},
+                 {"x: Error: Could not find USBtiny device (0x1781/0xc9f)", 1, 'N'},
+                 {"x: Error: No matching USB device found", 1, 'N'},
+                 {"x: net_open(): Cannot connect: Connection", 1, 'N'},
+                 {"x: opening programmer \"usbtiny\" on port \"usb\" failed", 2, 'N'},
+                 {"x: jtag3_open_common(): Did not find any device matching VID", 1, 'N'},
+                 {"E avrftdi_open(706): Error -1 occurred: usb_find_busses() failed", 1, 'N'},
+             })
+            row(line, exitCode, QChar(box));
+    }
+
+    void lines()
+    {
+        QFETCH(int, exitCode);
+        QFETCH(QChar, box);
+        Bench bench;
+        const QByteArray script =
+            QByteArray("err ") + QTest::currentDataTag() + "\nexit " + QByteArray::number(exitCode);
+        QCOMPARE(bench.run(script), box == '-' ? 1 : 0);
+        QCOMPARE(box == '-' ? QString() : bench.boxes.wait().join('|'), boxes.value(box));
     }
 
     void silentProgrammer()
@@ -155,6 +172,10 @@ private slots:
         bench.run("print line");
         QCOMPARE(bench.avrdude.logText().remove('\n').count("0xff,"), 200000);
         QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(bench.log.verticalScrollBar()->value() >= bench.log.verticalScrollBar()->maximum() - 1);
+        const QString before = bench.avrdude.logText();
+        QTest::keyClicks(&bench.log, "x");
+        QCOMPARE(bench.avrdude.logText(), before);
 
         // Characters that are split between two pieces of output stay whole.
         bench.run("err second\nout x" + QByteArray("я").repeated(40000));

@@ -13,13 +13,8 @@
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -196,8 +191,6 @@ private slots:
         using Row = std::array<const char*, 4>;
         for (const auto& [programmer, part, path, message] :
              {Row {"", "m328p", "fw.bin", "Wrong microcontroller selected."},
-              {"", "m16", "none.hex", "No such file or directory."},
-              {"", "m16", "garbage.hex", "See the message in the dialog box."},
               {"--silent", "m16", "fw.bin", "Programmer not found."},
 #ifndef Q_OS_WIN // where avrdude 7.1 reads on for ever from a connection that the other side has closed
               {"--unplug-after=50", "m16", "fw.bin", "Programmer not found."},
@@ -205,7 +198,6 @@ private slots:
               {"--flip=0x10", "m16", "fw.bin", "Verification error."}}) {
             Desk desk(programmer);
             desk.folder.write("fw.bin", QByteArray(100, 'x'));
-            desk.folder.write("garbage.hex", "this is no hex file\n");
             desk.avrdude->settings().mcuId = part;
             auto* flash = desk.window->findChild<FlashView*>();
             flash->writePath()->setText(path);

@@ -6,13 +6,10 @@
 #include "fuses/HexField.h"
 #include "mcu/BytesModel.h"
 #include "support/Bench.h"
+#include "support/Rows.h"
 
-#include <QAccessible>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QToolTip>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -29,10 +26,32 @@ FuseByte makeByte(const QString& id, quint32 value)
 /// Lays the files that tell about the microcontroller @p name into the working folder.
 void layDescription(const WorkFolder& folder, const QString& name)
 {
-    for (const QString& file :
-         {"mcu/" + name + ".json", QString("mcu/meanings/fields.json"), QString("mcu/meanings/words.json")})
-        folder.write(file, folder.read(DATA_FOLDER "/" + file));
+    folder.copy({"mcu/" + name + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
 }
+
+/// The tab over two bytes.
+struct Tab : Bench {
+    Tab()
+    {
+        bytes = {makeByte("lfuse", 0x62), makeByte("lock", 0xFF)};
+        tab.rebuild();
+    }
+
+    [[nodiscard]] HexField* field(int index) const { return tab.findChildren<FusesByteView*>()[index]->value(); }
+
+    /// The values shown, joined.
+    [[nodiscard]] QString shown() const
+    {
+        QString values;
+        for (const FusesByteView* editor : tab.findChildren<FusesByteView*>())
+            values += editor->parentWidget()->isHidden() ? "" : editor->value()->text();
+        return values;
+    }
+
+    FuseBytes& bytes = avrdude.settings().fusesBytes;
+    Fuses tab {avrdude, nullptr};
+    FusesButtonsView* buttons = tab.findChild<FusesButtonsView*>();
+};
 
 } // namespace
 
@@ -46,46 +65,86 @@ private slots:
         const FuseByte low = makeByte("lfuse", 0x62);
         const FuseByte high = makeByte("hfuse", 5);
         const FuseByte lock = makeByte("lock", 0xFF);
-        for (const FuseBytes& bytes : {FuseBytes {lock, low, high}, {low, high, lock}, {low, lock, high}})
+        for (const FuseBytes& bytes : {FuseBytes {lock, low, high}, {low, high, lock}, {low, lock, high}}) // lock last
             QCOMPARE(FuseRequests::write(bytes).join(' '), QString("-Ulfuse:w:0x62:m -Uhfuse:w:0x5:m -Ulock:w:0xff:m"));
+        QCOMPARE(FuseRequests::write({makeByte("lockbits", 1), low}),
+                 QStringList({"-Ulfuse:w:0x62:m", "-Ulockbits:w:0x1:m"}));
         QCOMPARE(FuseRequests::write({low}), QStringList({"-Ulfuse:w:0x62:m", ""}));
         QCOMPARE(FuseRequests::verify({lock, low}), QStringList({"-Ulock:v:0xff:m", "-Ulfuse:v:0x62:m"}));
     }
 
-    void editing()
+    void typing_data()
     {
+        columns<QString, QString, int, int>("keys", "text", "cursor", "value");
+        row("a digit too many", "F,3,9", "E3", 2, 0xE3);
+        row("a locked bit, and one that is not there", "F,F", "E7", 2, 0xE7);
+        row("a digit instead of a selection", "Shift+End,0", "02", 1, 0x02);
+        row("no pasting, no other keys, no selecting", "Ctrl+V,G,Space,Ctrl+C,Ctrl+A", "C2", 2, 0xC2);
+        row("deleting leaves the byte alone", "End,Backspace", "6", 1, 0x62);
+        row("the first digit deleted", "Home,Shift+End,Del,E,4", "E4", 2, 0xE4);
+        row("moving the cursor", "Del,A,Left,Right,7", "A7", 2, 0xA7);
+    }
+
+    void typing()
+    {
+        QFETCH(QString, keys);
+        const Tab tab;
         QApplication::clipboard()->setText("11");
-        // The text, where the cursor is, the byte, and the byte after a click on each of the bits.
-        for (const auto& [keys, result] : {std::pair("F,3,9", "E3 2 e3 14"), // one too many
-                                           {"Shift+End,0", "02 1 2 f5"}, // instead of a selection
-                                           {"Ctrl+V,G,Space,Ctrl+C,Ctrl+A", "C2 2 c2 35"},
-                                           {"End,Backspace", "6 1 62 95"}, // leaves the byte alone
-                                           {"Home,Shift+End,Del,E,4", "E4 2 e4 13"},
-                                           {"Del,A,Left,Right,7", "A7 2 a7 50"}}) {
-            Bench bench;
-            FuseBytes& bytes = bench.avrdude.settings().fusesBytes;
-            bytes = {makeByte("lfuse", 0x62)};
-            Fuses fuses(bench.avrdude, nullptr);
-            fuses.rebuild();
-            const auto* editor = fuses.findChild<FusesByteView*>();
-            for (const QString& key : QString(keys).split(','))
-                QTest::keySequence(editor->value(), QKeySequence(key));
-            const QString typed = QString("%1 %2 ").arg(editor->value()->text()).arg(editor->value()->cursorPosition());
-            const QString value = QString::number(bytes[0].currentValue, 16);
-            for (QCheckBox* box : editor->fusesBit())
-                box->click();
-            QCOMPARE(typed + value + ' ' + QString::number(bytes[0].currentValue, 16), QString(result));
-            QInputMethodEvent composed;
-            composed.setCommitString("c");
-            QCoreApplication::sendEvent(editor->value(), &composed);
-            QTest::mouseClick(editor->value(), Qt::LeftButton);
-            QCOMPARE(editor->value()->selectedText().size(), 2);
-            QTest::keyClick(editor->value(), Qt::Key_Delete);
-            QFocusEvent leaving(QEvent::FocusOut);
-            QCoreApplication::sendEvent(editor->value(), &leaving);
-            QCOMPARE(editor->value()->text(),
-                     QString::number(bytes[0].currentValue, 16).toUpper().rightJustified(2, '0'));
+        for (const QString& key : keys.split(','))
+            QTest::keySequence(tab.field(0), QKeySequence(key));
+        QTEST(tab.field(0)->text(), "text");
+        QTEST(tab.field(0)->cursorPosition(), "cursor");
+        QTEST(static_cast<int>(tab.bytes[0].currentValue), "value");
+    }
+
+    void clickingBits()
+    {
+        const Tab tab;
+        QList<quint32> values;
+        for (QCheckBox* box : tab.tab.findChild<FusesByteView*>()->fusesBit()) {
+            box->click();
+            values += tab.bytes[0].currentValue;
         }
+        QCOMPARE(values, QList<quint32>({0x63, 0x61, 0x65, 0x65, 0x75, 0x55, 0x15, 0x95})); // bit 3 is locked
+        QCOMPARE(tab.field(0)->text(), QString("95"));
+    }
+
+    void composingAndClickingInTheField()
+    {
+        const Tab tab;
+        HexField* field = tab.field(0);
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("ｃ")); // as wide as a Chinese character
+        QCoreApplication::sendEvent(field, &composed);
+        QCOMPARE(field->text(), QString("C2"));
+        QTest::mouseClick(field, Qt::LeftButton);
+        QCOMPARE(field->selectedText(), QString("C2"));
+        QTest::keyClick(field, Qt::Key_Delete);
+        QFocusEvent leaving(QEvent::FocusOut);
+        QCoreApplication::sendEvent(field, &leaving);
+        QCOMPARE(field->text(), QString("C2"));
+        QVERIFY(!field->acceptDrops());
+    }
+
+    void keysThatTheFieldLeavesToOthers()
+    {
+        Tab tab;
+        tab.tab.show();
+        QVERIFY(QTest::qWaitForWindowActive(&tab.tab));
+        tab.field(0)->setFocus();
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down}) { // they scroll
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            tab.field(0)->event(&press);
+            QVERIFY(!press.isAccepted());
+        }
+        QTest::keyClick(tab.field(0), Qt::Key_Tab);
+        QVERIFY(!tab.field(0)->hasFocus());
+        tab.tab.resize(400, 200);
+        auto* scrollBar = tab.tab.findChild<QScrollArea*>()->verticalScrollBar();
+        QTRY_VERIFY(scrollBar->maximum() > 0);
+        scrollBar->setValue(9);
+        tab.tab.rebuild(); // for another part, which begins at its top
+        QCOMPARE(scrollBar->value(), 0);
     }
 
     void everyChangeIsExplained()
@@ -127,67 +186,38 @@ private slots:
 
     void settingsAndWarnings_data()
     {
-        QTest::addColumn<QString>("mcu");
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("told"); // setting and warning
-        QTest::newRow("reset") << "ATmega328P"
-                               << "hfuse" << 0x59 << "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin";
-        QTest::newRow("reset, TPI") << "ATtiny10"
-                                    << "fuse" << 0xFE
-                                    << "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin";
-        QTest::newRow("reset, PDI") << "ATxmega128A1U"
-                                    << "fuse4" << 0xEE << "RSTDISBL = 0: no reset input";
-        QTest::newRow("reset, high voltage only") << "ATtiny11"
-                                                  << "fuse" << 0xF4 << "RSTDISBL = 0: ordinary pin";
-        QTest::newRow("debugWIRE") << "ATtiny85"
-                                   << "hfuse" << 0x9F << "DWEN = 0: on|The reset pin becomes the debugger's";
-        QTest::newRow("ISP") << "ATmega16"
-                             << "hfuse" << 0xB9 << "SPIEN = 1: off|A serial programmer";
-        QTest::newRow("JTAG") << "ATmega16"
-                              << "hfuse" << 0xD9 << "JTAGEN = 1: off|A JTAG programmer";
-        QTest::newRow("JTAG beside PDI") << "ATxmega128A1U"
-                                         << "fuse4" << 0xFF << "JTAGEN = 1: off|A JTAG programmer";
-        QTest::newRow("UPDI as input") << "ATtiny1614"
-                                       << "fuse5" << 0xF2 << "RSTPINCFG1..0 = 00: ordinary pin|The UPDI pin";
-        QTest::newRow("UPDI as reset") << "ATtiny1614"
-                                       << "fuse5" << 0xFA << "RSTPINCFG1..0 = 10: reset input|The UPDI pin";
-        QTest::newRow("UPDI, reserved") << "ATtiny1614"
-                                        << "fuse5" << 0xFE << "RSTPINCFG1..0 = 11: reserved|This setting";
-        QTest::newRow("UPDI alone") << "AVR64DD32"
-                                    << "fuse5" << 0xC0 << "UPDIPINCFG = 0: ordinary pin|The UPDI pin";
-        QTest::newRow("reset beside UPDI") << "AVR128DB48"
-                                           << "fuse5" << 0xC8 << "RSTPINCFG1..0 = 10: reset input";
-        QTest::newRow("crystal")
-            << "ATmega328P"
-            << "lfuse" << 0x7F
-            << "SUT1..0 CKSEL3..0 = 111111: crystal oscillator from 8 MHz; start-up 16K clocks, after a "
-               "reset 14 clocks + 65 ms|Without this clock";
-        QTest::newRow("crystal from the factory") << "AT90USB1287"
-                                                  << "lfuse" << 0xDE << "CKDIV8 = 1: not divided";
-        QTest::newRow("RC or clock") << "AT90S2343"
-                                     << "fuse" << 0xDF << "RCEN = 1: external clock|Without this clock";
-        QTest::newRow("slow")
-            << "ATmega328P"
-            << "lfuse" << 0x63
-            << "SUT1..0 CKSEL3..0 = 100011: internal oscillator 128 kHz; start-up 6 clocks, after a reset "
-               "14 clocks + 65 ms|So slow a chip";
-        QTest::newRow("lock bits") << "ATmega328P"
-                                   << "lock" << 0xFE
-                                   << "LB2..1 = 10: locked for writing|A programmer can no longer write";
-        QTest::newRow("key") << "ATtiny1614"
-                             << "lock" << 0xC4
-                             << "LB7..0 = 11000100: locked for writing and reading|A programmer can no longer read";
-        QTest::newRow("boot lock bits") << "ATmega328P"
-                                        << "lock" << 0xDF
-                                        << "BLB12..11 = 01: no program in the application section can read it";
-        QTest::newRow("missing bits in a field")
-            << "ATtiny88"
-            << "lfuse" << 0x6F
-            << "SUT1..0 CKSEL1..0 = 1011: internal oscillator 128 kHz; start-up 6 clocks, after a reset "
-               "14 clocks + 65 ms|So slow a chip";
-        QTest::newRow("number") << "ATtiny1614"
-                                << "fuse8" << 12 << "BOOTEND7..0 = 12";
+        columns<QString, QString, int, QString>("mcu", "id", "value", "told"); // setting and warning
+        row("reset", "ATmega328P", "hfuse", 0x59, "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin");
+        row("reset, TPI", "ATtiny10", "fuse", 0xFE, "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin");
+        row("reset, PDI", "ATxmega128A1U", "fuse4", 0xEE, "RSTDISBL = 0: no reset input");
+        row("reset, high voltage only", "ATtiny11", "fuse", 0xF4, "RSTDISBL = 0: ordinary pin");
+        row("debugWIRE", "ATtiny85", "hfuse", 0x9F, "DWEN = 0: on|The reset pin becomes the debugger's");
+        row("ISP", "ATmega16", "hfuse", 0xB9, "SPIEN = 1: off|A serial programmer");
+        row("JTAG", "ATmega16", "hfuse", 0xD9, "JTAGEN = 1: off|A JTAG programmer");
+        row("JTAG beside PDI", "ATxmega128A1U", "fuse4", 0xFF, "JTAGEN = 1: off|A JTAG programmer");
+        row("UPDI as input", "ATtiny1614", "fuse5", 0xF2, "RSTPINCFG1..0 = 00: ordinary pin|The UPDI pin");
+        row("UPDI as reset", "ATtiny1614", "fuse5", 0xFA, "RSTPINCFG1..0 = 10: reset input|The UPDI pin");
+        row("UPDI, reserved", "ATtiny1614", "fuse5", 0xFE, "RSTPINCFG1..0 = 11: reserved|This setting");
+        row("UPDI alone", "AVR64DD32", "fuse5", 0xC0, "UPDIPINCFG = 0: ordinary pin|The UPDI pin");
+        row("reset beside UPDI", "AVR128DB48", "fuse5", 0xC8, "RSTPINCFG1..0 = 10: reset input");
+        row("crystal", "ATmega328P", "lfuse", 0x7F,
+            "SUT1..0 CKSEL3..0 = 111111: crystal oscillator from 8 MHz; start-up 16K clocks, after a reset 14 clocks + "
+            "65 ms|Without this clock");
+        row("crystal from the factory", "AT90USB1287", "lfuse", 0xDE, "CKDIV8 = 1: not divided");
+        row("RC or clock", "AT90S2343", "fuse", 0xDF, "RCEN = 1: external clock|Without this clock");
+        row("slow", "ATmega328P", "lfuse", 0x63,
+            "SUT1..0 CKSEL3..0 = 100011: internal oscillator 128 kHz; start-up 6 clocks, after a reset 14 clocks + 65 "
+            "ms|So slow a chip");
+        row("lock bits", "ATmega328P", "lock", 0xFE,
+            "LB2..1 = 10: locked for writing|A programmer can no longer write");
+        row("key", "ATtiny1614", "lock", 0xC4,
+            "LB7..0 = 11000100: locked for writing and reading|A programmer can no longer read");
+        row("boot lock bits", "ATmega328P", "lock", 0xDF,
+            "BLB12..11 = 01: no program in the application section can read it");
+        row("missing bits in a field", "ATtiny88", "lfuse", 0x6F,
+            "SUT1..0 CKSEL1..0 = 1011: internal oscillator 128 kHz; start-up 6 clocks, after a reset 14 clocks + 65 "
+            "ms|So slow a chip");
+        row("number", "ATtiny1614", "fuse8", 12, "BOOTEND7..0 = 12");
     }
 
     void settingsAndWarnings()
@@ -217,40 +247,40 @@ private slots:
 
     void readingAndDefaults()
     {
-        Bench bench;
-        bench.avrdude.settings().fusesBytes = {makeByte("lfuse", 0x62), makeByte("lock", 0xFF)};
-        Fuses fuses(bench.avrdude, nullptr);
-        fuses.rebuild();
-        const auto* buttons = fuses.findChild<FusesButtonsView*>();
-        const auto shown = [&fuses] {
-            QString values;
-            for (const FusesByteView* editor : fuses.findChildren<FusesByteView*>())
-                values += editor->value()->text();
-            return values;
-        };
-        bench.folder.write("lfuse.hex", "\xFF"); // yesterday's
-        bench.folder.write("script", "make lock.hex 0D\nwait 100");
-        QTimer::singleShot(50, buttons->readButton(), &QPushButton::click); // takes nothing away
-        QCOMPARE(bench.click(buttons->readButton()),
+        Tab tab;
+        tab.folder.write("lfuse.hex", "\xFF"); // yesterday's
+        tab.folder.write("script", "make lock.hex 0D\nwait 100");
+        QTimer::singleShot(50, tab.buttons->readButton(), &QPushButton::click); // takes nothing away
+        QCOMPARE(tab.click(tab.buttons->readButton()),
                  QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"
                          "|-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
-        QCOMPARE(shown(), QString("6205"));
-        bench.click(buttons->defaultButton());
-        QCOMPARE(shown(), QString("62E7"));
+        QCOMPARE(tab.shown(), QString("6205"));
+        tab.click(tab.buttons->defaultButton());
+        QCOMPARE(tab.shown(), QString("62E7"));
 
-        bench.folder.write("script", "");
-        QCOMPARE(bench.click(buttons->readButton()).section('|', 0, 0),
+        tab.folder.write("script", "");
+        QCOMPARE(tab.click(tab.buttons->readButton()).section('|', 0, 0),
                  QString("FUSES: Not read: Name of lfuse, Name of lock"));
 
-        // A profile comes before a reading ends.
-        QVERIFY(bench.avrdude.settings().saveToFile("profile"));
-        bench.folder.write("script", "make lfuse.hex C0\nmake lock.hex C0\nwait 100");
-        buttons->readButton()->click();
-        QVERIFY(bench.avrdude.settings().loadFromFile("profile"));
-        QTRY_VERIFY(bench.isIdle());
-        QCOMPARE(shown() + bench.boxes.take().join(""), QString("62E7"));
-        QCOMPARE(bench.click(buttons->readButton()).section('|', 0, 0),
-                 QString("FUSES: Fuse bytes read successfully."));
+        // A profile of another part comes before a reading ends: it is not the chip that was read.
+        SettingsRecord profile;
+        profile.avrdude = STAND_IN;
+        profile.fusesBytes = {makeByte("fuse", 0x62)};
+        QVERIFY(profile.saveToFile("profile"));
+        tab.folder.write("script", "make lfuse.hex C0\nmake fuse.hex C0\nwait 100");
+        tab.buttons->readButton()->click();
+        QVERIFY(tab.avrdude.settings().loadFromFile("profile"));
+        QTRY_VERIFY(tab.isIdle());
+        QCOMPARE(tab.boxes.take(), QStringList());
+        tab.click(tab.buttons->defaultButton()); // before the new list is shown
+        QCOMPARE(tab.shown(), QString("62"));
+        QCOMPARE(tab.click(tab.buttons->readButton()),
+                 QString("FUSES: Fuse bytes read successfully.|-Ufuse:r:fuse.hex:r"));
+        QCOMPARE(tab.shown(), QString("C0"));
+        tab.bytes = {makeByte("efuse", 0)}; // another part is picked
+        tab.folder.write("script", "make efuse.hex E5");
+        tab.click(tab.buttons->readButton());
+        QCOMPARE(tab.shown(), QString("E5"));
     }
 };
 

@@ -1,11 +1,8 @@
 #include "i18n/JsonToQtTranslator.h"
 #include "i18n/Translator.h"
 #include "i18n/TsConverter.h"
-#include "support/LogCapture.h"
 #include "support/WorkFolder.h"
 
-#include <QDir>
-#include <QJsonDocument>
 #include <QtTest>
 
 class tst_I18n : public QObject
@@ -49,7 +46,6 @@ private slots:
             <context><message><source>Twice</source><translation>zwei</translation></message></context></TS>)";
         folder.write("whole.ts", source);
         folder.write("half.ts", source.left(source.indexOf("Open"))); // converted up to the fault
-        const LogCapture log;
         QString texts;
         for (const QString name : {"whole", "half", "missing"}) {
             texts += convertTsToJson(name + ".ts", name) ? "whole " : "failed ";
@@ -57,7 +53,6 @@ private slots:
         }
         QCOMPARE(texts.remove('"'),
                  QStringLiteral("whole {A && B:Ä,Empty:Empty,Open:Open,Twice:zwei}failed {A && B:Ä}failed "));
-        QCOMPARE(log.lines().constLast(), QString("Converter: Cannot open TS file: missing.ts"));
     }
 
 private:

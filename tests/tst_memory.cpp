@@ -3,13 +3,10 @@
 #include "memory/Flash.h"
 #include "memory/FlashView.h"
 #include "support/Bench.h"
+#include "support/Rows.h"
 
-#include <QClipboard>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -28,21 +25,50 @@ class tst_Memory : public QObject
     Q_OBJECT
 
 private slots:
-    void requests()
+    void formats_data()
     {
-        Panels panels;
-        for (const QString row : {"C:/fw/App.HEX|i|i", "app.eep|i|i", "my dir/app.v1.bin|r|r", "app.s19|m|m",
-                                  "app.srec|m|m", "app.elf|e|e", "app.a90|a90|a", "a.dir/fw%1%2|a|a"}) {
-            const QStringList parts = row.split('|'); // path, the flash's format, the EEPROM's
-            panels.flashView.writePath()->setText(parts[0]);
-            panels.eepromView.writePath()->setText(parts[0]);
-            QCOMPARE(panels.settings.cmdFlashWrite, QStringList({"-U", "flash:w:" + parts[0] + ":" + parts[1]}));
-            QCOMPARE(panels.settings.cmdEepromWrite, QStringList({"-U", "eeprom:w:" + parts[0] + ":" + parts[2]}));
-        }
-        panels.flashView.writePath()->clear();
-        QVERIFY(!panels.flashView.writeButton()->isEnabled() && !panels.flashView.writeVerifyButton()->isEnabled());
-        QVERIFY(!panels.settings.flashEnable && panels.settings.eepromEnable);
-        QVERIFY(!panels.eepromView.readButton()->isEnabled() && !panels.eepromView.readVerifyButton()->isEnabled());
+        columns<QString, QString, QString>("path", "flash", "eeprom");
+        row("Intel hex, capitals, colon", "C:/fw/App.HEX", "i", "i");
+        row("EEPROM", "app.eep", "i", "i");
+        row("raw", "my dir/app.v1.bin", "r", "r");
+        row("S-record", "app.s19", "m", "m");
+        row("ELF", "app.elf", "e", "e");
+        row("a90, of the flash alone", "app.a90", "a90", "a");
+        row("no suffix", "a.dir/fw%1%2", "a", "a");
+    }
+
+    void formats()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, flash);
+        QFETCH(QString, eeprom);
+        const Panels panels;
+        panels.flashView.writePath()->setText(path);
+        QCOMPARE(panels.settings.cmdFlashWrite, QStringList({"-U", "flash:w:" + path + ":" + flash}));
+        panels.eepromView.writePath()->setText(path);
+        QCOMPARE(panels.settings.cmdEepromWrite, QStringList({"-U", "eeprom:w:" + path + ":" + eeprom}));
+    }
+
+    void buttonsNeedAPath()
+    {
+        const Panels panels;
+        const auto enabled = [&view = panels.eepromView] {
+            QString buttons;
+            for (const QPushButton* button :
+                 {view.writeButton(), view.writeVerifyButton(), view.readButton(), view.readVerifyButton()})
+                buttons += button->isEnabled() ? "on " : "off ";
+            return buttons;
+        };
+        QCOMPARE(enabled(), QString("off off off off "));
+        panels.eepromView.writePath()->setText("a.eep");
+        QCOMPARE(enabled(), QString("on on off off "));
+        QVERIFY(panels.settings.eepromEnable && !panels.settings.flashEnable);
+        panels.eepromView.writePath()->clear();
+        panels.eepromView.readPath()->setText("b.eep");
+        QCOMPARE(enabled(), QString("off off on on "));
+        QVERIFY(!panels.settings.eepromEnable);
+        panels.eepromView.readPath()->clear();
+        QCOMPARE(enabled(), QString("off off off off "));
     }
 
     void filesThatDoNotFit()
@@ -87,6 +113,14 @@ private slots:
             panels.flashView.findChild<QPushButton*>()->click();
             seen += panels.settings.flashWrite;
         }
+        QCOMPARE(seen,
+                 QStringList({app.path(), app.fileName(), app.path(), hex.filePath(), hex.path(), hex.filePath()}));
+    }
+
+    void droppingAndHovering()
+    {
+        const Panels panels;
+        const QFileInfo app(QCoreApplication::applicationFilePath());
         QMimeData dragged;
         dragged.setUrls({QUrl::fromLocalFile(app.filePath())});
         QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
@@ -95,12 +129,21 @@ private slots:
         QCoreApplication::sendEvent(panels.flashView.writePath(), &drop);
         QCOMPARE(drop.dropAction(), Qt::CopyAction); // the file stays where it is
         QCOMPARE(panels.settings.flashWrite, app.fileName());
-        panels.flashView.writePath()->clear();
+        panels.flashView.writePath()->setText("<b>a  b</b>.hex");
+        QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3}); // tells the whole path, character by character
+        QCoreApplication::sendEvent(panels.flashView.writePath(), &hover);
+        QTextDocument shown;
+        shown.setHtml(panels.flashView.writePath()->toolTip());
+        QCOMPARE(shown.toPlainText(), QDir::current().absoluteFilePath("<b>a  b</b>.hex"));
+    }
+
+    void pasting()
+    {
+        const Panels panels;
+        QLineEdit* field = panels.flashView.writePath();
         QApplication::clipboard()->setText("  \"/my fw/a.hex\" \n");
-        QTest::keySequence(panels.flashView.writePath(), QKeySequence::Paste);
+        QTest::keySequence(field, QKeySequence::Paste);
         QCOMPARE(panels.settings.flashWrite, QString("/my fw/a.hex"));
-        QCOMPARE(seen,
-                 QStringList({app.path(), app.fileName(), app.path(), hex.filePath(), hex.path(), hex.filePath()}));
     }
 };
 

@@ -4,13 +4,9 @@
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "support/Bench.h"
-#include "support/LogCapture.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QLineEdit>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -36,9 +32,9 @@ private slots:
         Tab tab;
         tab.folder.write("profiles/notes.txt", "");
         QPushButton* add = tab.configuration->addButton();
-        QPushButton* remove = tab.configuration->removeButton();
+        QPushButton* removeButton = tab.configuration->removeButton();
         add->click(); // no name, no profile: nothing
-        remove->click();
+        removeButton->click();
         tab.configuration->name()->setText("Плата №1 ");
         tab.configuration->description()->setText("Rev. B ");
         tab.settings.mcuName = "ATtiny85 ";
@@ -46,41 +42,60 @@ private slots:
         tab.settings = {};
         tab.boxes.button = QMessageBox::No;
         add->click();
-        remove->click();
+        removeButton->click();
         emit tab.profiles->textActivated("Плата №1 ");
         QCOMPARE(tab.settings.mcuName + tab.settings.description + tab.settings.currentlyProfilesList,
                  QString("ATtiny85 Rev. B Плата №1 "));
         QCOMPARE(Profiles(tab.avrdude, nullptr).findChild<QComboBox*>()->count(), 1);
         tab.boxes.button = QMessageBox::Yes;
         add->click();
-        remove->click();
+        removeButton->click();
+        QCOMPARE(tab.settings.profile.name + tab.settings.description, QString());
         QCOMPARE(QDir("profiles").entryList(QDir::Files).join('|') + tab.profiles->currentText(), QString("notes.txt"));
         tab.configuration->name()->setText("no/folder"); // cannot be written, and only the log says so
-        const LogCapture log;
         add->click();
         emit tab.profiles->textActivated("gone");
-        QCOMPARE(log.lines().join(' '),
-                 QString("Profile not saved: ./profiles/no/folder.json "
-                         "Profile not loaded: ./profiles/gone.json"));
         QCOMPARE(tab.avrdude.logText(),
                  QString("Failed to save settings to file: ./profiles/no/folder.json\n"
                          "Failed to load settings from file: ./profiles/gone.json"));
-        QCOMPARE(tab.boxes.take().replaceInStrings(QRegularExpression("(?s)[ :].*"), "").join(' '),
-                 QString("Information Overwrite Delete Overwrite Information Delete Information"));
+        tab.settings.configurationList = QStringList {"A", "B"}; // of a file that somebody prepared
+        tab.settings.currentlyProfilesList = "B";
+        tab.tab.refresh();
+        QCOMPARE(tab.profiles->currentText(), QString("B"));
+        QStringList titles;
+        for (const QString& box : tab.boxes.take())
+            titles += box.section(':', 0, 0);
+        const QString overwrite = "Overwrite Confirmation, by default No";
+        QCOMPARE(titles.join('|'),
+                 "Information|" + overwrite + "|Delete|" + overwrite + "|Information|Delete|Information");
     }
 
     void areas()
     {
-        Tab tab;
-        tab.settings.flashCheck = tab.settings.eepromEnable = tab.settings.fusesEnable = true;
-        tab.settings.configurationList = QStringList {"A", "B"};
-        tab.settings.currentlyProfilesList = "B";
-        tab.tab.refresh();
-        QVERIFY(tab.areas[0]->isChecked() && tab.write->isEnabled() && tab.profiles->currentText() == "B");
-        tab.tab.updateAreas(); // what cannot be written is unticked
-        QVERIFY(!tab.areas[0]->isEnabled() && !tab.settings.flashCheck && !tab.write->isEnabled());
-        tab.areas[2]->click();
-        QVERIFY(tab.settings.fusesCheck && !tab.settings.eepromCheck && tab.write->isEnabled());
+        using Flag = bool SettingsRecord::*;
+        const std::array<std::pair<Flag, Flag>, 3> flags {{
+            {&SettingsRecord::flashEnable, &SettingsRecord::flashCheck},
+            {&SettingsRecord::eepromEnable, &SettingsRecord::eepromCheck},
+            {&SettingsRecord::fusesEnable, &SettingsRecord::fusesCheck},
+        }};
+        for (const bool isLoaded : {true, false}) // with a profile; otherwise the tab was chosen
+            for (std::size_t area = 0; area < flags.size(); ++area) { // each alone
+                Tab tab;
+                tab.settings.*flags[area].first = true;
+                const auto show = [&] { isLoaded ? tab.tab.refresh() : tab.tab.updateAreas(); };
+                show();
+                tab.areas[static_cast<int>(area)]->click();
+                QVERIFY(tab.write->isEnabled());
+                show();
+                for (std::size_t i = 0; i < flags.size(); ++i) {
+                    QCOMPARE(tab.settings.*flags[i].second, i == area);
+                    QCOMPARE(tab.areas[static_cast<int>(i)]->isEnabled(), i == area);
+                    QCOMPARE(tab.areas[static_cast<int>(i)]->isChecked(), i == area);
+                }
+                tab.settings.*flags[area].first = false;
+                tab.tab.updateAreas(); // what cannot be written is unticked
+                QVERIFY(!(tab.settings.*flags[area].second) && !tab.write->isEnabled());
+            }
     }
 
     void writing()
@@ -116,6 +131,7 @@ private slots:
         QCOMPARE(board.boxes.wait().join("").remove(" successfully."),
                  QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
         QCOMPARE(board.requests(), QStringList({"else", "for this", "-Ulock:w:0xfe:m"}));
+        QVERIFY(board.avrdude.logText().contains(QRegularExpression("(?s) for this\n.* -Ulock:w:0xfe:m\n")));
         QCOMPARE(board.folder.runs().constLast()[1], QString("m16"));
 
         // Nothing of a board is written when one of its files does not fit.
@@ -128,14 +144,6 @@ private slots:
         QCOMPARE(board.click(board.write), QString("EEPROM: The file has 5 bytes, the memory only 4."));
         board.folder.write("C:/a.bin", "1234567");
         QCOMPARE(board.click(board.write), QString("FLASH: The file has 7 bytes, the memory only 6."));
-
-        // One area, called without the button: it is the present board's.
-        board.settings.avrdude = STAND_IN;
-        board.folder.write("script", "");
-        board.tab.findChild<ProfilesPresenter*>()->writeFuses();
-        QCOMPARE(board.boxes.wait(),
-                 QStringList {"Profiles: Fuse bits write successfully.\nFuse bits verify successfully."});
-        QCOMPARE(board.folder.runs().constLast().mid(7), QStringList {""}); // it has no fuse bytes
     }
 };
 

@@ -1,8 +1,11 @@
 #include "Chip.h"
 #include "VirtualProgrammer.h"
-
+#include "avrdude/Avrdude.h"
+#include "mcu/BytesModel.h"
+#include "support/Rows.h"
 #include "support/WorkFolder.h"
 
+#include <QtNetwork>
 #include <QtTest>
 
 class tst_VirtualProgrammer : public QObject
@@ -10,91 +13,245 @@ class tst_VirtualProgrammer : public QObject
     Q_OBJECT
 
 private slots:
-    void answersAndStateFile()
+    void partsAgreeWithDescriptionsAndAvrdude()
+    {
+        QVERIFY(QDir::setCurrent(DATA_FOLDER));
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start("avrdude", {"-p", "*/St"});
+        QVERIFY(process.waitForFinished());
+        QHash<QString, QString> table; // "ATmega16 flash page_size", "128"
+        for (const QString& line : QString::fromUtf8(process.readAll()).split('\n'))
+            table[line.section('\t', 1, 3).replace('\t', ' ')] = line.section('\t', 4, 4);
+        for (const QString& name : Part::names()) {
+            const Part& part = *Part::find(name.toLower());
+            Avrdude avrdude(nullptr, nullptr);
+            BytesModel(avrdude).load(name);
+            QHash<QString, int> bits; // by name without number; the high fuse begins at bit 8, the extended at 16
+            for (const FuseByte& byte : avrdude.settings().fusesBytes) {
+                const bool isLock = byte.id == "lock";
+                const auto fuse = isLock ? 0 : static_cast<std::size_t>(QString("lhe").indexOf(byte.id[0]));
+                int used = 0;
+                for (std::size_t i = 0; i < 8; ++i) {
+                    used |= byte.fuseBits[i].isUsed() ? 1 << i : 0;
+                    bits[byte.fuseBits[i].name.section(QRegularExpression("\\d"), 0, 0)] |= 1 << (8 * fuse + i);
+                }
+                QVERIFY2(used == (isLock ? part.lockBits : part.fuseBits[fuse]), qPrintable(name + byte.id));
+                QVERIFY2(byte.defaultValue == (isLock ? 0xFF : part.factoryFuses[fuse]), qPrintable(name + byte.id));
+            }
+            const auto listed = [&](const char* cell) { return table[name + cell].toInt(nullptr, 0); };
+            const bool hasPages = table.contains(name + " eeprom loadpage_lo");
+            const QVector<int> sizes {part.flashSize, part.flashPageSize, part.eepromSize, part.eepromPageSize,
+                                      part.calibrationSize};
+            QCOMPARE(sizes,
+                     QVector<int>({listed(" flash size"), listed(" flash page_size"), listed(" eeprom size"),
+                                   hasPages ? listed(" eeprom page_size") : 0, listed(" calibration size")}));
+            QCOMPARE(part.spien.mask << 8 * part.spien.fuse, bits["SPIEN"]);
+            QCOMPARE(part.eesave.mask << 8 * part.eesave.fuse, bits["EESAVE"]);
+            QCOMPARE(part.resetPin << 8, bits["RSTDISBL"] | bits["DWEN"]);
+            QCOMPARE(int(part.ckdiv8), bits["CKDIV"]);
+            QCOMPARE(int(part.cksel), bits["CKSEL"]);
+            const QByteArray signature(reinterpret_cast<const char*>(part.signature.data()), 3);
+            QCOMPARE(QString(signature.toHex(' ')).toUpper(), avrdude.settings().signature);
+        }
+    }
+
+    void conversation_data()
+    {
+        // The commands of AVR061 in hexadecimal: 50 and 51 begin and end programming, 52 erases, 55 sets the address,
+        // 64 and 74 write and read a page, 56 has four bytes for the chip. Programming is begun already.
+        columns<QByteArray, QByteArray>("sent", "answered");
+        const auto add = [](const char* name, const QByteArray& sent, const QByteArray& answered) {
+            const bool isEnabled = !QByteArray(name).startsWith("before programming");
+            row(name, QByteArray::fromHex((isEnabled ? "5020" : "") + sent),
+                QByteArray::fromHex((isEnabled ? "1410" : "") + answered));
+        };
+        add("before programming: noise, an end mark missing", "9900 3031 3020", "15 15 15 1410");
+        add("before programming: name and parameters", "3120 418120 408905 20 418920",
+            "14 415652 2053544B 10 140110 1410 140510");
+        add("before programming: no pages, no erasing, no signature", "64000146AB20 7400014620 5220 7520",
+            "1413 1413 1413 1413");
+        add("signature", "7520 563000030020", "141E980110 14FF10");
+        add("calibration bytes", "563800000020 563800010020", "14A910 14FF10");
+        add("flash across a page end, above 128 KiB", "564D00010020 557F0020 640004461234567820 7400044620",
+            "140110 1410 1410 141234567810");
+        add("flash keeps its zeros until it is erased", "640001460F20 64000146F120 7400014620 5220 7400014620",
+            "1410 1410 140110 1410 14FF10");
+        add("one place above and below 128 KiB", "564D00010020 6400014612 20 564D00000020 7400014620",
+            "140110 1410 140010 14FF10");
+        add("extended address forgotten at the next start", "6400014612 20 564D00010020 5120 5020 7400014620",
+            "1410 140110 1410 1410 141210");
+        add("EEPROM page: loaded bytes alone", "56C10001AA20 56C200080020 55080020 7400034520",
+            "140110 140810 1410 14FFAAFF10");
+        add("EEPROM page: loaded for one writing", "56C10001AA20 56C200080020 56C200100020 55100020 7400034520",
+            "140110 140810 141010 1410 14FFFFFF10");
+        add("lock mode 2: nothing is written",
+            "56ACE000FE20 640001453420 6400014634 20 56ACA0006020 7400014520 7400014620 565000000020",
+            "140010 1410 1410 140010 14FF10 14FF10 146210");
+        add("lock mode 3: nothing is read", "640001451220 56ACE000FC20 55341220 7400024620 7400014520",
+            "1410 140010 1410 14343410 143410");
+        add("lock mode 3: lock bits are locked", "56ACE000FC20 56ACE000F020 565800000020", "140010 140010 14FC10");
+        add("an erased chip is unlocked", "6400024512 3420 56ACE000FC20 5220 7400024520 565800000020",
+            "1410 140010 1410 14FFFF10 14FF10");
+        add("a fuse that takes the clock away does so at the next start", "56ACA0006020 7520 5020 7520",
+            "140010 141E980110 1413 1413");
+        add("SPIEN is out of reach", "56ACA800F720 565808000020", "140010 14D710");
+        add("bits that do not exist read as 1", "56ACA4000020 565008000020", "140010 14F810");
+        add("EESAVE keeps the EEPROM", "56ACA800D120 640001455A20 5220 7400014520", "140010 1410 1410 145A10");
+    }
+
+    void conversation()
+    {
+        QFETCH(QByteArray, sent);
+        QFETCH(QByteArray, answered);
+        Chip chip(*Part::find("ATmega2560"));
+        Stk500 programmer(chip);
+        QByteArray answers;
+        for (const char byte : sent) // cut anywhere; avrdude sends whole commands
+            answers += programmer.receive(QByteArray(1, byte));
+        QCOMPARE(answers.toHex(), answered.toHex());
+    }
+
+    void stateIsKeptInAFile()
     {
         const WorkFolder folder;
+        Chip chip(*Part::find("ATmega2560"));
+        ChipState state = chip.state();
+        state.flash[262143] = state.eeprom[0] = 'x';
+        state.fuses = {0x12, 0x34, 0xFD};
+        state.lock = 0xFC;
         QString error;
-        for (const auto& [sent, received] :
-             // Noise, an end mark missing, too early for a page, an unknown memory, the signature.
-             {std::pair("9900 3031 3020 64000146AB20 5020 7400015820 7520", "15 15 15 1410 1413 1410 1411 141E980110"),
-              // Across a page above the first 128 KiB, again with other bits, read there; erased.
-              {"5020 564D00010020 557F0020 640004461234567820 640004463F3F3F3F20 7400044620 5220 7400044620",
-               "1410 140110 1410 1410 1410 141234163810 1410 14FFFFFFFF10"},
-              // The two bytes at one place above and below 128 KiB are two.
-              {"5020 564D00010020 640002461234 20 564D00000020 7400024620", "1410 140110 1410 140010 14FFFF10"},
-              // EEPROM written, in lock mode 2 not, and no fuse either; in mode 3 memories are not even read; erased.
-              {"5020 640001451220 56ACE000FE20 640001453420 7400014520 56ACA0006020 565000000020",
-               "1410 1410 140010 1410 141210 140010 146210"},
-              {"5020 56ACE000FC20 55341220 7400044620 7400014520 5220 7400044620",
-               "1410 140010 1410 143434353510 143410 1410 14FFFFFFFF10"},
-              // A fuse that takes the clock away does so at the next start.
-              {"5020 56ACA0006020 7520 565000000020 5020 7520", "1410 140010 141E980110 146010 1413 1413"},
-              // SPIEN is out of reach, missing bits are 1, EESAVE keeps what was written last.
-              {"5020 56ACA800F720 565808000020 56ACA4000020 565008000020 640001455A20 64000145A520 5220 7400014520",
-               "1410 140010 14D710 140010 14F810 1410 1410 1410 14A510"}}) {
-            Chip chip(*Part::find("ATmega2560"));
-            QCOMPARE(Stk500(chip).receive(QByteArray::fromHex(sent)).toHex(), QByteArray::fromHex(received).toHex());
+        QVERIFY(state.save("chip", chip.part(), error) && folder.read("chip").size() < 600); // no empty rows
+        QVERIFY(VirtualProgrammer(chip).setStateFile("chip", error) && chip.state() == state);
+    }
 
+    void aStateFileIsRefusedAndLeftAlone()
+    {
+        const WorkFolder folder;
+        Chip chip(*Part::find("ATmega2560"));
+        const QString damaged = "chip is damaged or holds no chip state.";
+        for (const auto& [text, instead, why] :
+             {std::tuple("ATmega2560", "ATmega16",
+                         QString("chip holds the state of part ATmega16, not of ATmega2560.")),
+              {"\"part\"", "\"Part\"", damaged},
+              {"0x62", "0x162", damaged}, // a fuse of three digits
+              {"\"flash\": {", R"("flash": {"0x3FFFF": "0000")", damaged}, // past the end
+              {"\"eeprom\": {", R"("eeprom": {"0x0": "000")", damaged}, // half a byte
+              {"eeprom", "EEPROM", damaged}}) {
+            QString error;
             QVERIFY(chip.state().save("chip", chip.part(), error));
-            QVERIFY(*ChipState::load("chip", chip.part(), error) == chip.state());
-            folder.write("chip", folder.read("chip").replace("low\": \"0x", "low\": \"0x1"));
-            QVERIFY(!VirtualProgrammer(chip).setStateFile("chip", error) && error.contains("chip"));
-            QVERIFY(folder.read("chip").contains("low\": \"0x1")); // refused, not overwritten
+            const QByteArray content = folder.read("chip").replace(text, instead);
+            folder.write("chip", content);
+            QVERIFY2(!VirtualProgrammer(chip).setStateFile("chip", error), text);
+            QCOMPARE(error, why);
+            QCOMPARE(folder.read("chip"), content);
         }
+    }
+
+    void lostAndRescued_data()
+    {
+        // Low and high fuse and lock byte; the shortest SCK_DURATION that the chip can follow, 256 if none.
+        columns<QString, QString, int, int>("part", "bytes", "crystal", "duration");
+        row("1 MHz inside the chip", "ATmega16", "E199FF", 0, 4);
+        row("8 MHz", "ATmega8", "E4D9FF", 0, 1);
+        row("128 kHz", "ATmega328P", "E3D9FF", 0, 29);
+        row("9.6 / 8 MHz", "ATtiny13A", "6AFFFF", 0, 4);
+        row("128 / 8 kHz", "ATtiny13A", "6BFFFF", 0, 231);
+        row("1.6 MHz", "ATtiny85", "E3DFFF", 0, 3);
+        row("4 / 8 MHz", "ATtiny2313A", "62DFFF", 0, 8);
+        row("no crystal", "ATmega2560", "7F99FE", 0, 256);
+        row("a crystal", "ATmega2560", "7F99FC", 14745600, 3);
+        row("too slow a crystal", "ATmega2560", "7F99FF", 16000, 256);
+        row("RSTDISBL", "ATmega8", "E159FF", 0, 256);
+        row("DWEN", "ATmega328P", "6299FF", 0, 256);
+        row("DWEN and lock bits", "ATtiny13A", "6AF7FE", 0, 256);
+        row("SPIEN", "ATmega16", "E1B9FF", 0, 256);
+        row("SPIEN in the low fuse", "ATtiny13A", "EAFFFC", 0, 256);
     }
 
     void lostAndRescued()
     {
-        struct Row {
-            const char* part;
-            quint8 low, high, lock;
-            int clock;
-            int duration; // the shortest SCK_DURATION that the chip can follow; 256: none
-        };
-        for (const Row& row : {
-                 // 1, 8, 0.128, 9.6 / 8, 0.128 / 8, 1.6 and 4 / 8 MHz inside the chip
-                 Row {"ATmega16", 0xE1, 0x99, 0xFF, 0, 4},
-                 {"ATmega8", 0xE4, 0xD9, 0xFF, 0, 1},
-                 {"ATmega328P", 0xE3, 0xD9, 0xFF, 0, 29},
-                 {"ATtiny13A", 0x6A, 0xFF, 0xFF, 0, 4},
-                 {"ATtiny13A", 0x6B, 0xFF, 0xFF, 0, 231},
-                 {"ATtiny85", 0xE3, 0xDF, 0xFF, 0, 3},
-                 {"ATtiny2313A", 0x62, 0xDF, 0xFF, 0, 8},
-                 // a crystal: none there, there, too slow
-                 {"ATmega2560", 0x7F, 0x99, 0xFE, 0, 256},
-                 {"ATmega2560", 0x7F, 0x99, 0xFC, 14745600, 3},
-                 {"ATmega2560", 0x7F, 0x99, 0xFF, 16000, 256},
-                 // RSTDISBL, DWEN, SPIEN
-                 {"ATmega8", 0xE1, 0x59, 0xFF, 0, 256},
-                 {"ATtiny13A", 0x6A, 0xFE, 0xFF, 0, 256},
-                 {"ATtiny2313A", 0x62, 0xDE, 0xFC, 0, 256},
-                 {"ATmega328P", 0x62, 0x99, 0xFF, 0, 256},
-                 {"ATtiny13A", 0x6A, 0xF7, 0xFE, 0, 256},
-                 {"ATtiny85", 0x62, 0x9F, 0xFF, 0, 256},
-                 {"ATmega16", 0xE1, 0xB9, 0xFF, 0, 256},
-                 {"ATtiny13A", 0xEA, 0xFF, 0xFC, 0, 256},
-             }) {
-            Chip chip(*Part::find(row.part));
-            ChipState state = chip.state();
-            state.flash[0] = 'x';
-            state.fuses = {row.low, row.high, 0xFF};
-            state.lock = row.lock;
-            chip.setState(state);
-            chip.setClockInput(row.clock);
+        QFETCH(QString, part);
+        QFETCH(QString, bytes);
+        QFETCH(int, crystal);
+        QFETCH(int, duration);
+        Chip chip(*Part::find(part));
+        ChipState state = chip.state();
+        state.flash[0] = 'x';
+        const QByteArray values = QByteArray::fromHex(bytes.toLatin1());
+        state.fuses = {static_cast<quint8>(values[0]), static_cast<quint8>(values[1]), 0xFF};
+        state.lock = static_cast<quint8>(values[2]);
+        chip.setState(state);
+        chip.setClockInput(crystal);
 
-            Stk500 programmer(chip);
-            const auto answers = [&programmer](int duration) {
-                const QByteArray number = QByteArray::number(0x100 + duration, 16).mid(1);
-                return programmer.receive(QByteArray::fromHex("4089" + number + "205020")).toHex() == "14101410";
-            };
-            int shortest = 1;
-            while (shortest < 256 && !answers(shortest))
-                ++shortest;
-            QCOMPARE(row.part + QString(" %1 %2: %3").arg(row.low).arg(row.high).arg(shortest),
-                     row.part + QString(" %1 %2: %3").arg(row.low).arg(row.high).arg(row.duration));
-            chip.rescue();
-            QVERIFY2(answers(8) && chip.state().flash[0] == (row.lock == 0xFF ? 'x' : '\xff'), row.part);
-        }
+        Stk500 programmer(chip);
+        const auto answers = [&programmer](int sckDuration) {
+            const QByteArray number = QByteArray::number(0x100 + sckDuration, 16).mid(1);
+            return programmer.receive(QByteArray::fromHex("4089" + number + "205020")).toHex() == "14101410";
+        };
+        int shortest = 1;
+        while (shortest < 256 && !answers(shortest))
+            ++shortest;
+        QCOMPARE(shortest, duration);
+        chip.rescue();
+        QVERIFY(answers(8) && chip.state().flash[0] == (state.lock == 0xFF ? 'x' : '\xff'));
+    }
+
+    void oneConnectionAfterAnother()
+    {
+        Chip chip(*Part::find("ATmega16"));
+        VirtualProgrammer programmer(chip);
+        programmer.setUnplugAfter(4);
+        QVERIFY(programmer.listen(0));
+        const auto connection = [&programmer] {
+            auto socket = std::make_unique<QTcpSocket>();
+            socket->connectToHost("127.0.0.1", programmer.port());
+            return socket->waitForConnected() ? std::move(socket) : nullptr;
+        };
+        const auto talk = [](QTcpSocket& socket, const char* sent) {
+            socket.write(QByteArray::fromHex(sent));
+            QTest::qWait(50);
+            return QString(socket.readAll().toHex());
+        };
+        const auto first = connection();
+        QCOMPARE(talk(*first, "5020 6400034612345620 30"), QString("14101410"));
+        const auto second = connection();
+        QCOMPARE(talk(*second, "3020 3020 3020"), QString()); // asked again and again while it waits
+        first->close();
+        QCOMPARE(talk(*second, ""), QString("1410"));
+        QVERIFY(!chip.isProgramming());
+        QCOMPARE(talk(*second, "5020 6400034612345620"), QString("14101410"));
+        talk(*second, "6400034612345620");
+        QCOMPARE(second->state(), QAbstractSocket::UnconnectedState); // more than four bytes on this connection
+    }
+
+    void options_data()
+    {
+        columns<QString, int, QString>("options", "exitCode", "said");
+        row("unknown part", "--part m16", 2, "Unknown part 'm16'. Known parts: ATmega16, ATmega8,");
+        row("part in lower case", "--part attiny85 --port 65536", 2, "'65536' is no port.");
+        row("flash address past the end", "--flip 0x4000", 2, "'0x4000' is no flash address of ATmega16.");
+        row("a zero in front", "--port 08 --clock 0", 2, "'0' is no clock frequency in Hz, from 1 to 20000000.");
+        row("last flash address", "--flip 0X3FFF --unplug-after 0", 2, "'0' is no number of bytes.");
+        row("state file that is a folder", "--state .", 1, "Cannot read .: ");
+        row("port in use", "--port %1", 1, "Cannot listen on 127.0.0.1:%1: ");
+    }
+
+    void options()
+    {
+        QFETCH(QString, options);
+        QFETCH(int, exitCode);
+        QFETCH(QString, said);
+        QTcpServer other;
+        QVERIFY(other.listen(QHostAddress::LocalHost));
+        const QString port = QString::number(other.serverPort());
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(VIRTUAL_PROGRAMMER, options.replace("%1", port).split(' '));
+        QVERIFY(process.waitForFinished(5000));
+        const QString output = process.readAll();
+        QVERIFY2(output.contains(said.replace("%1", port)), qPrintable(output));
+        QCOMPARE(process.exitCode(), exitCode);
     }
 };
 

@@ -2,8 +2,9 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QObject>
-#include <QStringList>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
 
 #include <utility>
 
@@ -23,14 +24,34 @@ public:
     /// True when a box has opened since the last take().
     [[nodiscard]] bool hasAnswered() const { return !m_boxes.isEmpty(); }
 
-    /// The boxes since the last call, oldest first, as "title: text".
+    /// The boxes since the last call, oldest first, as "title: text" or, where it was set which button the Enter key
+    /// presses, "title, by default No: text".
     QStringList take() { return std::exchange(m_boxes, {}); }
 
     /// Waits for a box, then a little for one too many, and takes them. Empty when none opens within @p timeout
     /// milliseconds.
-    QStringList wait(int timeout = 5000);
+    QStringList wait(int timeout = 5000)
+    {
+        if (QTest::qWaitFor([this] { return !m_boxes.isEmpty(); }, timeout))
+            QTest::qWait(delay + 30);
+        return take();
+    }
 
-    bool eventFilter(QObject* object, QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(object) : nullptr;
+        if (!box)
+            return false;
+        const QPushButton* chosen = box->buttons().size() > 1 ? box->defaultButton() : nullptr;
+        const QString byDefault =
+            chosen ? QStringLiteral(", by default ") + chosen->text().remove(QLatin1Char('&')) : QString();
+        m_boxes.append(box->windowTitle() + byDefault + QLatin1String(": ") + box->text());
+        QTimer::singleShot(delay, box, [this, box] {
+            QAbstractButton* widget = box->button(button);
+            widget ? widget->click() : box->accept();
+        });
+        return false;
+    }
 
 private:
     QStringList m_boxes;

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QVector>
@@ -14,13 +15,37 @@ public:
     ~WorkFolder() { QDir::setCurrent(m_previous); }
 
     /// Writes a file (and the folders above it) in the working directory.
-    void write(const QString& path, const QByteArray& content) const;
+    void write(const QString& path, const QByteArray& content) const
+    {
+        QFile file(path);
+        QDir().mkpath(QFileInfo(file).path());
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qPrintable(path));
+    }
 
     /// The file's content; null when there is no such file.
-    [[nodiscard]] QByteArray read(const QString& path) const;
+    [[nodiscard]] QByteArray read(const QString& path) const
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// Copies files that ship to the same place in the working directory.
+    void copy(const QStringList& files) const
+    {
+        for (const QString& file : files)
+            write(file, read(QStringLiteral(DATA_FOLDER "/") + file));
+    }
 
     /// The argument lists of the stand-in's runs so far.
-    [[nodiscard]] QVector<QStringList> runs() const;
+    [[nodiscard]] QVector<QStringList> runs() const
+    {
+        QVector<QStringList> runs;
+        const auto lines = QString::fromUtf8(read(QStringLiteral("runs"))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        for (const QString& line : lines)
+            runs.append(line.split(QLatin1Char('\t')));
+        return runs;
+    }
 
 private:
     QTemporaryDir m_folder;
