@@ -188,7 +188,6 @@ private slots:
     {
         columns<QString, QString, int, QString>("mcu", "id", "value", "told"); // setting and warning
         row("reset", "ATmega328P", "hfuse", 0x59, "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin");
-        row("reset, TPI", "ATtiny10", "fuse", 0xFE, "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin");
         row("reset, PDI", "ATxmega128A1U", "fuse4", 0xEE, "RSTDISBL = 0: no reset input");
         row("reset, high voltage only", "ATtiny11", "fuse", 0xF4, "RSTDISBL = 0: ordinary pin");
         row("debugWIRE", "ATtiny85", "hfuse", 0x9F, "DWEN = 0: on|The reset pin becomes the debugger's");
@@ -196,7 +195,6 @@ private slots:
         row("JTAG", "ATmega16", "hfuse", 0xD9, "JTAGEN = 1: off|A JTAG programmer");
         row("JTAG beside PDI", "ATxmega128A1U", "fuse4", 0xFF, "JTAGEN = 1: off|A JTAG programmer");
         row("UPDI as input", "ATtiny1614", "fuse5", 0xF2, "RSTPINCFG1..0 = 00: ordinary pin|The UPDI pin");
-        row("UPDI as reset", "ATtiny1614", "fuse5", 0xFA, "RSTPINCFG1..0 = 10: reset input|The UPDI pin");
         row("UPDI, reserved", "ATtiny1614", "fuse5", 0xFE, "RSTPINCFG1..0 = 11: reserved|This setting");
         row("UPDI alone", "AVR64DD32", "fuse5", 0xC0, "UPDIPINCFG = 0: ordinary pin|The UPDI pin");
         row("reset beside UPDI", "AVR128DB48", "fuse5", 0xC8, "RSTPINCFG1..0 = 10: reset input");
@@ -205,9 +203,6 @@ private slots:
             "65 ms|Without this clock");
         row("crystal from the factory", "AT90USB1287", "lfuse", 0xDE, "CKDIV8 = 1: not divided");
         row("RC or clock", "AT90S2343", "fuse", 0xDF, "RCEN = 1: external clock|Without this clock");
-        row("slow", "ATmega328P", "lfuse", 0x63,
-            "SUT1..0 CKSEL3..0 = 100011: internal oscillator 128 kHz; start-up 6 clocks, after a reset 14 clocks + 65 "
-            "ms|So slow a chip");
         row("lock bits", "ATmega328P", "lock", 0xFE,
             "LB2..1 = 10: locked for writing|A programmer can no longer write");
         row("key", "ATtiny1614", "lock", 0xC4,
