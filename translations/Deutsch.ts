@@ -105,7 +105,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>Ein so langsamer Chip antwortet nur bei einem Tempo unter einem Viertel seines Taktes.
+        <translation>Ein so langsamer Chip antwortet nur bei einem Tempo unter einem Viertel seiner Taktfrequenz.
 Der Weg zurück: ein niedrigeres Tempo wählen.</translation>
     </message>
     <message>

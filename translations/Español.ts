@@ -96,8 +96,8 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Añadir»: guarda los ajustes actuales.
-«Quitar»: quita el perfil elegido.</translation>
+        <translation>«Añadir»: guarda los ajustes como perfil.
+«Quitar»: borra el perfil elegido.</translation>
     </message>
 </context>
 <context>

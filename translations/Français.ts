@@ -96,7 +96,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«&#xa0;Ajouter&#xa0;»&#xa0;: enregistre les réglages.
+        <translation>«&#xa0;Ajouter&#xa0;»&#xa0;: enregistre dans un profil.
 «&#xa0;Retirer&#xa0;»&#xa0;: supprime le profil choisi.</translation>
     </message>
 </context>

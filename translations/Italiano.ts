@@ -96,7 +96,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Aggiungi»: salva le impostazioni attuali.
+        <translation>«Aggiungi»: salva tutto come profilo.
 «Rimuovi»: rimuove il profilo scelto.</translation>
     </message>
 </context>

@@ -96,7 +96,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>„Dodaj” – zapisuje bieżące ustawienia.
+        <translation>„Dodaj” – zapisuje ustawienia jako profil.
 „Usuń” – usuwa wybrany profil.</translation>
     </message>
 </context>

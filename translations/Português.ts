@@ -96,7 +96,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>“Adicionar”: salva as configurações atuais.
+        <translation>“Adicionar”: salva tudo como perfil.
 “Remover”: remove o perfil escolhido.</translation>
     </message>
 </context>
@@ -112,7 +112,7 @@ Para recuperá-lo: escolha uma velocidade menor.</translation>
         <source>Without this clock on its pins the chip does not answer.
 The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
         <translation>Sem este clock nos seus pinos o chip não responde.
-Para recuperá-lo: ligue um clock ou um cristal, ou use um gravador de alta tensão.</translation>
+Para recuperá-lo: conecte um clock ou um cristal, ou use um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>Factory setting</source>

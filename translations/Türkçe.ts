@@ -163,7 +163,7 @@ Kurtarmak için: yüksek gerilimli bir programlayıcı.</translation>
     <message>
         <source>A programmer can no longer read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Programlayıcı artık çipi ne okuyabilir ne de yazabilir.
+        <translation>Programlayıcı artık çipi okuyamaz ve çipe yazamaz.
 Kurtarmak için: tümünü silin.</translation>
     </message>
 </context>
@@ -297,7 +297,7 @@ Kurtarmak için: tümünü silin.</translation>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>İçerik okunamadı
-Çip boş ya da okumaya karşı korumalı (kilit bitleri ayarlı).</translation>
+Çip boş ya da okumaya karşı korumalı (kilit bitleri etkin).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>

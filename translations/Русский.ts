@@ -96,7 +96,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Добавить» — сохранить настройки.
+        <translation>«Добавить» — сохранить как профиль.
 «Удалить» — удалить выбранный профиль.</translation>
     </message>
 </context>
@@ -232,7 +232,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>The file is kept as %1.</source>
-        <translation>Файл сохранён как %1.</translation>
+        <translation>Файл оставлен как %1.</translation>
     </message>
 </context>
 <context>

@@ -96,7 +96,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Додати» — зберегти налаштування.
+        <translation>«Додати» — зберегти як профіль.
 «Видалити» — видалити вибраний профіль.</translation>
     </message>
 </context>
@@ -232,7 +232,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>The file is kept as %1.</source>
-        <translation>Файл збережено як %1.</translation>
+        <translation>Файл залишено як %1.</translation>
     </message>
 </context>
 <context>

@@ -104,7 +104,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>时钟这么慢的芯片只有在速度低于其时钟的四分之一时才会应答。
+        <translation>时钟这么慢的芯片只有在速度低于其时钟频率的四分之一时才会应答。
 恢复方法：选择更低的速度。</translation>
     </message>
     <message>

@@ -95,7 +95,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>「追加」：現在の設定を保存します。
+        <translation>「追加」：設定をプロファイルに保存します。
 「削除」：選択したプロファイルを削除します。</translation>
     </message>
 </context>
@@ -104,7 +104,7 @@
     <message>
         <source>So slow a chip answers only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>これほど遅いチップは、クロックの 4 分の 1 より低い速度でしか応答しません。
+        <translation>これほど遅いチップは、クロック周波数の 4 分の 1 より低い速度でしか応答しません。
 元に戻すには：より低い速度を選びます。</translation>
     </message>
     <message>
