@@ -19,9 +19,9 @@ private slots:
         QProcess process;
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start("avrdude", {"-p", "*/St"});
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(-1)); // half a minute may not do
         QHash<QString, QString> table; // "ATmega16 flash page_size", "128"
-        for (const QString& line : QString::fromUtf8(process.readAll()).split('\n'))
+        for (const QString& line : QString::fromUtf8(process.readAll()).remove('\r').split('\n'))
             table[line.section('\t', 1, 3).replace('\t', ' ')] = line.section('\t', 4, 4);
         for (const QString& name : Part::names()) {
             const Part& part = *Part::find(name.toLower());
