@@ -29,12 +29,12 @@ private slots:
     {
         columns<QString, QString, QString>("path", "flash", "eeprom");
         row("Intel hex, capitals, colon", "C:/fw/App.HEX", "i", "i");
-        row("EEPROM", "app.eep", "i", "i");
-        row("raw", "my dir/app.v1.bin", "r", "r");
-        row("S-record", "app.s19", "m", "m");
+        row("Intel hex of an EEPROM", "app.eep", "i", "i");
+        row("raw, a blank, two dots", "my dir/app.v1.bin", "r", "r");
+        row("S-record, which avrdude refuses", "app.s19", "m", "m");
         row("ELF", "app.elf", "e", "e");
-        row("a90, of the flash alone", "app.a90", "a90", "a");
-        row("no suffix", "a.dir/fw%1%2", "a", "a");
+        row("a90, a format of its own in the flash panel alone", "app.a90", "a90", "a");
+        row("no suffix, a dot in the folder, percent signs: avrdude detects", "a.dir/fw%1%2", "a", "a");
     }
 
     void formats()
@@ -62,7 +62,7 @@ private slots:
         QCOMPARE(enabled(), QString("off off off off "));
         panels.eepromView.writePath()->setText("a.eep");
         QCOMPARE(enabled(), QString("on on off off "));
-        QVERIFY(panels.settings.eepromEnable && !panels.settings.flashEnable);
+        QVERIFY(panels.settings.eepromEnable && !panels.settings.flashEnable); // what a profile may write
         panels.eepromView.writePath()->clear();
         panels.eepromView.readPath()->setText("b.eep");
         QCOMPARE(enabled(), QString("off off on on "));
@@ -75,15 +75,16 @@ private slots:
     {
         Panels panels;
         panels.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 4})"); // and no word of the EEPROM's size
-        for (const char* file : {"fits.bin", "large.bin", "large.hex"})
-            panels.folder.write(file, QByteArray(*file == 'f' ? 4 : 5, 'x'));
+        panels.folder.write("fits.bin", "1234");
+        panels.folder.write("large.bin", "12345");
+        panels.folder.write("large.hex", "12345"); // holds addresses: avrdude has the say
         const QString box = "FLASH: The file has 5 bytes, the memory only 4.";
         const QString done = "FLASH: FLASH %1 successfully.|-U flash:%2";
         for (const auto& [file, written, verified] :
              {std::array {QString("fits.bin"), done.arg("written", "w:fits.bin:r"),
                           done.arg("verified", "v:fits.bin:r")},
               {"large.hex", done.arg("written", "w:large.hex:i"), done.arg("verified", "v:large.hex:i")},
-              {"large.bin", box, box}}) {
+              {"large.bin", box, box}}) { // and avrdude is not started
             panels.flashView.writePath()->setText(file);
             QCOMPARE(panels.click(panels.flashView.writeButton()), written);
             QCOMPARE(panels.click(panels.flashView.writeVerifyButton()), verified);
@@ -103,7 +104,7 @@ private slots:
         const QFileInfo app(QCoreApplication::applicationFilePath()); // as good as a firmware beside the application
         const QFileInfo hex(DATA_FOLDER "/demo/blink.hex");
         QStringList seen; // the folder that the dialog opens in, and what the field holds after it
-        for (const QString& chosen : {app.filePath(), hex.filePath(), QString()}) {
+        for (const QString& chosen : {app.filePath(), hex.filePath(), QString()}) { // the last is cancelled
             QTimer::singleShot(0, this, [&seen, chosen] {
                 auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
                 seen += dialog->directory().path();
@@ -124,13 +125,13 @@ private slots:
         QMimeData dragged;
         dragged.setUrls({QUrl::fromLocalFile(app.filePath())});
         QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(panels.flashView.writePath(), &enter);
+        QCoreApplication::sendEvent(panels.flashView.writePath(), &enter); // refused, no drop would follow
         QDropEvent drop(QPointF(3, 3), Qt::MoveAction | Qt::CopyAction, &dragged, Qt::LeftButton, Qt::ShiftModifier);
         QCoreApplication::sendEvent(panels.flashView.writePath(), &drop);
         QCOMPARE(drop.dropAction(), Qt::CopyAction); // the file stays where it is
         QCOMPARE(panels.settings.flashWrite, app.fileName());
         panels.flashView.writePath()->setText("<b>a  b</b>.hex");
-        QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3}); // tells the whole path, character by character
+        QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3}); // the whole path: no markup, every blank
         QCoreApplication::sendEvent(panels.flashView.writePath(), &hover);
         QTextDocument shown;
         shown.setHtml(panels.flashView.writePath()->toolTip());
