@@ -16,14 +16,14 @@ private slots:
     void partsAgreeWithDescriptionsAndAvrdude()
     {
         QVERIFY(QDir::setCurrent(DATA_FOLDER));
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start("avrdude", {"-p", "*/St"});
-        QVERIFY(process.waitForFinished(-1)); // half a minute may not do
-        QHash<QString, QString> table; // "ATmega16 flash page_size", "128"
-        for (const QString& line : QString::fromUtf8(process.readAll()).remove('\r').split('\n'))
-            table[line.section('\t', 1, 3).replace('\t', ' ')] = line.section('\t', 4, 4);
         for (const QString& name : Part::names()) {
+            QProcess process;
+            process.setProcessChannelMode(QProcess::MergedChannels);
+            process.start("avrdude", {"-p", name + "/St"});
+            QVERIFY(process.waitForFinished());
+            QHash<QString, QString> table; // "ATmega16 flash page_size", "128"
+            for (const QString& line : QString::fromUtf8(process.readAll()).remove('\r').split('\n'))
+                table[line.section('\t', 1, 3).replace('\t', ' ')] = line.section('\t', 4, 4);
             const Part& part = *Part::find(name.toLower());
             Avrdude avrdude(nullptr, nullptr);
             BytesModel(avrdude).load(name);
