@@ -30,9 +30,9 @@ fetch_source() {
     ls "$folder"/*.orig.tar.*
 }
 
-# Unpacks a source into the folder "work" of the cache and prints where it lies; a folder is taken as it is.
+# Unpacks a source into the folder "scratch" of the cache and prints where it lies; a folder is taken as it is.
 unpack() {
-    local source=$1 folder=$KORVEL_WINDOWS_CACHE/work/$2
+    local source=$1 folder=$KORVEL_WINDOWS_CACHE/scratch/$2
     if [ -d "$source" ]; then
         cp -r "$source" "$folder"
     else
@@ -59,13 +59,13 @@ credit() {
 version_of() { basename "$1" | sed -E 's/^[^_]*_(.*)\.orig\.tar\..*/\1/'; }
 
 make_qt() {
-    local archive source build=$KORVEL_WINDOWS_CACHE/work/qt-build name
+    local archive source build=$KORVEL_WINDOWS_CACHE/scratch/qt-build name
     archive=$(fetch_source qtbase-opensource-src)
     source=$(unpack "$archive" qt)
     # The linker wants these two in this spelling.
-    mkdir -p "$KORVEL_WINDOWS_CACHE/work/spelling" "$build"
+    mkdir -p "$KORVEL_WINDOWS_CACHE/scratch/spelling" "$build"
     for name in Secur32 Crypt32; do
-        ln -sf "/usr/$windows_target/lib/lib${name,}.a" "$KORVEL_WINDOWS_CACHE/work/spelling/lib$name.a"
+        ln -sf "/usr/$windows_target/lib/lib${name,}.a" "$KORVEL_WINDOWS_CACHE/scratch/spelling/lib$name.a"
     done
     rm -rf "$KORVEL_WINDOWS_CACHE/qt"
     # The prefix is baked into the libraries; it is none of this machine's paths.
@@ -74,7 +74,7 @@ make_qt() {
         -device-option CROSS_COMPILE=$windows_target- -prefix /qt -extprefix "$KORVEL_WINDOWS_CACHE/qt" \
         -release -shared -no-opengl -no-dbus -no-icu -schannel -no-openssl -qt-zlib -qt-pcre -qt-libpng -qt-libjpeg \
         -qt-freetype -qt-harfbuzz -nomake examples -nomake tests -no-feature-sql -no-feature-printer \
-        -no-feature-tabletevent -no-feature-concurrent -no-pch -L "$KORVEL_WINDOWS_CACHE/work/spelling" \
+        -no-feature-tabletevent -no-feature-concurrent -no-pch -L "$KORVEL_WINDOWS_CACHE/scratch/spelling" \
         QMAKE_CXXFLAGS+="-ffile-prefix-map=$source=qt"
     make -j"$(nproc)"
     make install
@@ -101,11 +101,11 @@ make_qtserialport() {
     fi
     source=$(unpack "$archive" qtserialport)
     version=$(sed -n 's/^MODULE_VERSION *= *//p' "$source/.qmake.conf")
-    mkdir -p "$KORVEL_WINDOWS_CACHE/work/qtserialport-build"
+    mkdir -p "$KORVEL_WINDOWS_CACHE/scratch/qtserialport-build"
     # Headers that are made for releases, and are not in what comes from the repository.
     [ -d "$source/include" ] ||
         perl "$KORVEL_WINDOWS_CACHE/qt/bin/syncqt.pl" -version "$version" -outdir "$source" "$source"
-    cd "$KORVEL_WINDOWS_CACHE/work/qtserialport-build"
+    cd "$KORVEL_WINDOWS_CACHE/scratch/qtserialport-build"
     "$KORVEL_WINDOWS_CACHE/qt/bin/qmake" "$source"
     make -j"$(nproc)"
     make install
@@ -181,15 +181,15 @@ make_once() {
     now=$(declare -f "$recipe" | sha256sum)
     [ ! -e "$mark" ] || [ "$(cat "$mark")" != "$now" ] || return 0
     echo "== ${recipe/_/ }: the log is $KORVEL_WINDOWS_CACHE/$recipe.log"
-    rm -rf "$KORVEL_WINDOWS_CACHE/work"
-    mkdir -p "$KORVEL_WINDOWS_CACHE/work"
+    rm -rf "$KORVEL_WINDOWS_CACHE/scratch"
+    mkdir -p "$KORVEL_WINDOWS_CACHE/scratch"
     "$recipe" >"$KORVEL_WINDOWS_CACHE/$recipe.log" 2>&1 & # in a condition it would go on after an error
     if ! wait $!; then
         tail -n 20 "$KORVEL_WINDOWS_CACHE/$recipe.log" >&2
         echo "$recipe failed" >&2
         return 1
     fi
-    rm -r "$KORVEL_WINDOWS_CACHE/work"
+    rm -r "$KORVEL_WINDOWS_CACHE/scratch"
     echo "$now" >"$mark"
 }
 
