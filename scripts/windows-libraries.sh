@@ -15,12 +15,12 @@ fetch_source() {
     local package=$1 folder=$KORVEL_WINDOWS_CACHE/sources/$1 lists=$KORVEL_WINDOWS_CACHE/apt file
     if [ ! -e "$folder/fetched" ]; then
         rm -rf "$lists"
-        mkdir -p "$folder" "$lists"/{parts,lists/partial,cache/archives/partial}
+        mkdir -p "$folder" "$lists"/{sources.list.d,lists/partial,cache/archives/partial}
         for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.{list,sources}; do
             [ ! -e "$file" ] || sed -E 's/^deb( |\t)/deb-src\1/; s/^Types:.*/Types: deb-src/' "$file" \
-                >"$lists/parts/$(basename "$file")"
+                >"$lists/${file#/etc/apt/}"
         done
-        local apt=(apt-get -q -q -o "Dir::Etc::SourceList=/dev/null" -o "Dir::Etc::SourceParts=$lists/parts"
+        local apt=(apt-get -q -q -o "Dir::Etc::SourceList=$lists/sources.list" -o "Dir::Etc::SourceParts=$lists/sources.list.d"
             -o "Dir::State::Lists=$lists/lists" -o "Dir::Cache=$lists/cache" -o APT::Sandbox::User=)
         "${apt[@]}" update >&2
         (cd "$folder" && "${apt[@]}" source --only-source --tar-only "$package" >&2) || return 1
