@@ -1,8 +1,4 @@
 #include "support/Bench.h"
-#include "support/Rows.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 namespace {
 

@@ -1,22 +1,14 @@
 // The real window, the real avrdude and the virtual programmer: what a person with a chip on the bench would see.
 
 #include "app/KorvelApp.h"
-#include "avrdude/Avrdude.h"
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
-#include "fuses/FusesByteView.h"
-#include "fuses/HexField.h"
 #include "mcu/AttributesView.h"
 #include "memory/FlashView.h"
 #include "profiles/ProgrammingView.h"
 #include "settings/SettingsView.h"
-#include "support/BoxAnswerer.h"
-#include "support/WorkFolder.h"
-
-#include <QtTest>
-#include <QtWidgets>
-
-#include <memory>
+#include "support/Bench.h"
+#include "support/ShownFuses.h"
 
 namespace {
 
@@ -62,15 +54,6 @@ struct Desk {
         return told.isEmpty()
             ? "no box; the log says: " + avrdude->logText()
             : busy + told.join(" | ") + (QApplication::overrideCursor() ? ", pointer still busy" : "");
-    }
-
-    /// The values in the Fuses tab, joined; editors on their way out do not count.
-    QString fuses() const
-    {
-        QString values;
-        for (const FusesByteView* view : window->findChild<Fuses*>()->findChildren<FusesByteView*>())
-            values += view->parentWidget()->isHidden() ? "" : view->value()->text();
-        return values;
     }
 
     WorkFolder folder;
@@ -137,7 +120,7 @@ private slots:
         QCOMPARE(desk.runAvrdude({"-Ulfuse:w:0xd1:m", "-Uhfuse:w:0x91:m"}), 0);
         QCOMPARE(desk.boxAfter(buttons->verifyButton()), QString("AVRDUDE: Verification error."));
         QCOMPARE(desk.boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
-        QCOMPARE(desk.fuses(), QString("D191FF"));
+        QCOMPARE(shownFuses(*desk.window), QString("D191FF"));
         QCOMPARE(desk.boxAfter(attributes->readButton()),
                  QString("Calibration Byte: Calibration byte read successfully."));
         QCOMPARE(attributes->calibrationByte()->text(), QString("A9 A4 A2 9F"));
@@ -149,7 +132,7 @@ private slots:
         const auto* view = desk.window->findChild<ProgrammingView*>();
         emit view->profiles()->textActivated("Blink complete");
         QCOMPARE(desk.window->findChild<FlashView*>()->writePath()->text(), QString("demo/blink.hex"));
-        QCOMPARE(desk.fuses(), QString("E1D9FF"));
+        QCOMPARE(shownFuses(*desk.window), QString("E1D9FF"));
         for (const QString board : {"one", "the next"}) {
             QCOMPARE(desk.runAvrdude({"-e", "-Ulfuse:w:0x62:m", "-Uhfuse:w:0x99:m"}), 0); // nothing on it yet
             QCOMPARE(board + ": " + desk.boxAfter(view->writeButton()),
@@ -182,7 +165,7 @@ private slots:
             desk.startProgrammer(bench);
             QCOMPARE(bench + desk.boxAfter(buttons->readButton()), bench + box);
             QCOMPARE(desk.avrdude->logText().contains("error: no device"), box == lost);
-            QCOMPARE(desk.fuses(), QString(fuses));
+            QCOMPARE(shownFuses(*desk.window), QString(fuses));
         }
     }
 

@@ -2,14 +2,9 @@
 #include "fuses/FuseRequests.h"
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
-#include "fuses/FusesByteView.h"
-#include "fuses/HexField.h"
 #include "mcu/BytesModel.h"
 #include "support/Bench.h"
-#include "support/Rows.h"
-
-#include <QtTest>
-#include <QtWidgets>
+#include "support/ShownFuses.h"
 
 namespace {
 
@@ -37,16 +32,7 @@ struct Tab : Bench {
         tab.rebuild();
     }
 
-    [[nodiscard]] HexField* field(int index) const { return tab.findChildren<FusesByteView*>()[index]->value(); }
-
-    /// The values shown, joined.
-    [[nodiscard]] QString shown() const
-    {
-        QString values;
-        for (const FusesByteView* editor : tab.findChildren<FusesByteView*>())
-            values += editor->parentWidget()->isHidden() ? "" : editor->value()->text();
-        return values;
-    }
+    [[nodiscard]] HexField* field() const { return tab.findChild<FusesByteView*>()->value(); } // of the first byte
 
     FuseBytes& bytes = avrdude.settings().fusesBytes;
     Fuses tab {avrdude, nullptr};
@@ -91,9 +77,9 @@ private slots:
         const Tab tab;
         QApplication::clipboard()->setText("11");
         for (const QString& key : keys.split(','))
-            QTest::keySequence(tab.field(0), QKeySequence(key));
-        QTEST(tab.field(0)->text(), "text");
-        QTEST(tab.field(0)->cursorPosition(), "cursor");
+            QTest::keySequence(tab.field(), QKeySequence(key));
+        QTEST(tab.field()->text(), "text");
+        QTEST(tab.field()->cursorPosition(), "cursor");
         QTEST(static_cast<int>(tab.bytes[0].currentValue), "value");
     }
 
@@ -106,45 +92,30 @@ private slots:
             values += tab.bytes[0].currentValue;
         }
         QCOMPARE(values, QList<quint32>({0x63, 0x61, 0x65, 0x65, 0x75, 0x55, 0x15, 0x95})); // bit 3 is locked
-        QCOMPARE(tab.field(0)->text(), QString("95"));
+        QCOMPARE(tab.field()->text(), QString("95"));
     }
 
-    void composingAndClickingInTheField()
-    {
-        const Tab tab;
-        HexField* field = tab.field(0);
-        QInputMethodEvent composed;
-        composed.setCommitString(QStringLiteral("ｃ")); // as wide as a Chinese character
-        QCoreApplication::sendEvent(field, &composed);
-        QCOMPARE(field->text(), QString("C2"));
-        QTest::mouseClick(field, Qt::LeftButton);
-        QCOMPARE(field->selectedText(), QString("C2"));
-        QTest::keyClick(field, Qt::Key_Delete);
-        QFocusEvent leaving(QEvent::FocusOut);
-        QCoreApplication::sendEvent(field, &leaving);
-        QCOMPARE(field->text(), QString("C2"));
-        QVERIFY(!field->acceptDrops());
-    }
-
-    void keysThatTheFieldLeavesToOthers()
+    void workingInTheField()
     {
         Tab tab;
         tab.tab.show();
         QVERIFY(QTest::qWaitForWindowActive(&tab.tab));
-        tab.field(0)->setFocus();
-        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down}) { // they scroll
+        HexField* field = tab.field();
+        QVERIFY(!field->acceptDrops());
+        QInputMethodEvent composed;
+        composed.setCommitString(QStringLiteral("ｃ")); // as wide as a Chinese character
+        QCoreApplication::sendEvent(field, &composed);
+        QTest::mouseClick(field, Qt::LeftButton);
+        QCOMPARE(field->selectedText(), QString("C2"));
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down}) {
             QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-            tab.field(0)->event(&press);
-            QVERIFY(!press.isAccepted());
+            field->event(&press);
+            QVERIFY(!press.isAccepted()); // so the page scrolls
         }
-        QTest::keyClick(tab.field(0), Qt::Key_Tab);
-        QVERIFY(!tab.field(0)->hasFocus());
-        tab.tab.resize(400, 200);
-        auto* scrollBar = tab.tab.findChild<QScrollArea*>()->verticalScrollBar();
-        QTRY_VERIFY(scrollBar->maximum() > 0);
-        scrollBar->setValue(9);
-        tab.tab.rebuild(); // for another part, which begins at its top
-        QCOMPARE(scrollBar->value(), 0);
+        QTest::keyClick(field, Qt::Key_Delete);
+        QTest::keyClick(field, Qt::Key_Tab);
+        QVERIFY(!field->hasFocus());
+        QCOMPARE(field->text(), QString("C2")); // again
     }
 
     void everyChangeIsExplained()
@@ -155,11 +126,9 @@ private slots:
         fuses.loadMcu("ATmega328P");
         fuses.rebuild();
         const auto* low = fuses.findChild<FusesByteView*>();
-        const auto heard = [](QWidget* widget) {
-            return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Description);
-        };
         const QString factory = "100010: internal oscillator 8 MHz; start-up 6 clocks, after a reset 14 clocks + 65 ms";
-        QCOMPARE(heard(low->fusesBit()[5]), "Clock source and start-up time\n    SUT1..0 CKSEL3..0 = " + factory);
+        QCOMPARE(low->fusesBit()[5]->accessibleDescription(),
+                 "Clock source and start-up time\n    SUT1..0 CKSEL3..0 = " + factory);
         const QSize plainSize = low->fusesBit()[5]->sizeHint();
         low->fusesBit()[5]->click();
         const QString changed =
@@ -168,15 +137,12 @@ private slots:
             "14 clocks\n    Factory setting = "
             + factory;
         QCOMPARE(low->fusesBit()[0]->toolTip(), changed);
-        QCOMPARE(heard(low->value()),
+        QCOMPARE(low->value()->accessibleDescription(),
                  "Division of the clock at the start\n    CKDIV8 = 0: divided by 8\nClock output\n    CKOUT = 1: off\n"
                      + changed);
         QCOMPARE(low->fusesBit()[5]->sizeHint(), plainSize);
         QVERIFY(low->fusesBit()[5]->font().bold() && !low->fusesBit()[0]->font().bold());
-        low->value()->setAttribute(Qt::WA_UnderMouse);
-        QToolTip::showText({}, low->value()->toolTip(), low->value());
         QTest::keyClicks(low->value(), "62");
-        QCOMPARE(QToolTip::text(), low->value()->toolTip());
         QVERIFY(low->fusesBit()[0]->toolTip().endsWith(" = " + factory) && !low->fusesBit()[5]->font().bold());
 
         bench.avrdude.settings().mcuId = "another";
@@ -186,10 +152,10 @@ private slots:
 
     void settingsAndWarnings_data()
     {
-        columns<QString, QString, int, QString>("mcu", "id", "value", "told"); // setting and warning
+        columns<QString, QString, int, QString>("mcu", "id", "value", "told"); // setting|warning
         row("reset", "ATmega328P", "hfuse", 0x59, "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin");
-        row("reset, PDI", "ATxmega128A1U", "fuse4", 0xEE, "RSTDISBL = 0: no reset input");
-        row("reset, high voltage only", "ATtiny11", "fuse", 0xF4, "RSTDISBL = 0: ordinary pin");
+        row("reset, PDI", "ATxmega128A1U", "fuse4", 0xEE, "RSTDISBL = 0: no reset input|");
+        row("reset, high voltage only", "ATtiny11", "fuse", 0xF4, "RSTDISBL = 0: ordinary pin|");
         row("debugWIRE", "ATtiny85", "hfuse", 0x9F, "DWEN = 0: on|The reset pin becomes the debugger's");
         row("ISP", "ATmega16", "hfuse", 0xB9, "SPIEN = 1: off|A serial programmer");
         row("JTAG", "ATmega16", "hfuse", 0xD9, "JTAGEN = 1: off|A JTAG programmer");
@@ -197,22 +163,22 @@ private slots:
         row("UPDI as input", "ATtiny1614", "fuse5", 0xF2, "RSTPINCFG1..0 = 00: ordinary pin|The UPDI pin");
         row("UPDI, reserved", "ATtiny1614", "fuse5", 0xFE, "RSTPINCFG1..0 = 11: reserved|This setting");
         row("UPDI alone", "AVR64DD32", "fuse5", 0xC0, "UPDIPINCFG = 0: ordinary pin|The UPDI pin");
-        row("reset beside UPDI", "AVR128DB48", "fuse5", 0xC8, "RSTPINCFG1..0 = 10: reset input");
+        row("reset beside UPDI", "AVR128DB48", "fuse5", 0xC8, "RSTPINCFG1..0 = 10: reset input|");
         row("crystal", "ATmega328P", "lfuse", 0x7F,
             "SUT1..0 CKSEL3..0 = 111111: crystal oscillator from 8 MHz; start-up 16K clocks, after a reset 14 clocks + "
             "65 ms|Without this clock");
-        row("crystal from the factory", "AT90USB1287", "lfuse", 0xDE, "CKDIV8 = 1: not divided");
+        row("crystal from the factory", "AT90USB1287", "lfuse", 0xDE, "CKDIV8 = 1: not divided|");
         row("RC or clock", "AT90S2343", "fuse", 0xDF, "RCEN = 1: external clock|Without this clock");
         row("lock bits", "ATmega328P", "lock", 0xFE,
             "LB2..1 = 10: locked for writing|A programmer can no longer write");
         row("key", "ATtiny1614", "lock", 0xC4,
             "LB7..0 = 11000100: locked for writing and reading|A programmer can no longer read");
         row("boot lock bits", "ATmega328P", "lock", 0xDF,
-            "BLB12..11 = 01: no program in the application section can read it");
+            "BLB12..11 = 01: no program in the application section can read it|");
         row("missing bits in a field", "ATtiny88", "lfuse", 0x6F,
             "SUT1..0 CKSEL1..0 = 1011: internal oscillator 128 kHz; start-up 6 clocks, after a reset 14 clocks + 65 "
             "ms|So slow a chip");
-        row("number", "ATtiny1614", "fuse8", 12, "BOOTEND7..0 = 12");
+        row("number", "ATtiny1614", "fuse8", 12, "BOOTEND7..0 = 12|");
     }
 
     void settingsAndWarnings()
@@ -226,18 +192,17 @@ private slots:
         BytesModel(bench.avrdude).load(mcu);
         FuseMeanings meanings;
         meanings.load(bench.avrdude.settings());
-        QStringList changes; // of what the bits mean, with the line of the warning where there is one
+        QString changes;
         for (FuseByte byte : bench.avrdude.settings().fusesBytes) {
             if (byte.id == id)
                 byte.currentValue = static_cast<quint32>(value);
             for (const FuseMeanings::Text& about : meanings.of(byte)) {
-                const QStringList lines = about.text.split("\n    ");
-                if (lines.size() > 2)
-                    changes += lines.size() > 3 ? lines[1] + '|' + lines[3] : lines[1];
+                const QStringList lines = about.text.split("\n    "); // title, setting, factory setting, warning
+                changes += lines.size() > 2 ? lines[1] + '|' + lines.value(3) : QString();
             }
         }
-        QCOMPARE(changes.join(" and ").left(told.size()), told);
-        QCOMPARE(changes.join(" and ").contains('|'), told.contains('|'));
+        QCOMPARE(changes.left(told.size()), told);
+        QCOMPARE(changes.endsWith('|'), told.endsWith('|')); // no warning
     }
 
     void readingAndDefaults()
@@ -249,9 +214,9 @@ private slots:
         QCOMPARE(tab.click(tab.buttons->readButton()),
                  QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"
                          "|-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
-        QCOMPARE(tab.shown(), QString("6205"));
+        QCOMPARE(shownFuses(tab.tab), QString("6205"));
         tab.click(tab.buttons->defaultButton());
-        QCOMPARE(tab.shown(), QString("62E7"));
+        QCOMPARE(shownFuses(tab.tab), QString("62E7"));
 
         tab.folder.write("script", "");
         QCOMPARE(tab.click(tab.buttons->readButton()).section('|', 0, 0),
@@ -268,14 +233,14 @@ private slots:
         QTRY_VERIFY(tab.isIdle());
         QCOMPARE(tab.boxes.take(), QStringList());
         tab.click(tab.buttons->defaultButton()); // before the new list is shown
-        QCOMPARE(tab.shown(), QString("62"));
+        QCOMPARE(shownFuses(tab.tab), QString("62"));
         QCOMPARE(tab.click(tab.buttons->readButton()),
                  QString("FUSES: Fuse bytes read successfully.|-Ufuse:r:fuse.hex:r"));
-        QCOMPARE(tab.shown(), QString("C0"));
+        QCOMPARE(shownFuses(tab.tab), QString("C0"));
         tab.bytes = {makeByte("efuse", 0)}; // another part is picked
         tab.folder.write("script", "make efuse.hex E5");
         tab.click(tab.buttons->readButton());
-        QCOMPARE(tab.shown(), QString("E5"));
+        QCOMPARE(shownFuses(tab.tab), QString("E5"));
     }
 };
 

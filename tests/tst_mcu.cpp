@@ -1,13 +1,39 @@
 #include "fuses/Fuses.h"
-#include "fuses/FusesByteView.h"
-#include "fuses/HexField.h"
 #include "mcu/AttributesView.h"
 #include "mcu/BytesModel.h"
 #include "mcu/Program.h"
 #include "support/Bench.h"
+#include "support/ShownFuses.h"
 
-#include <QtTest>
-#include <QtWidgets>
+namespace {
+
+const QString box = "MCU: MCU selected: %1.\nFuse bytes set to datasheet default values.";
+
+struct Descriptions : Bench {
+    Descriptions()
+    {
+        folder.copy({"mcu/ATmega2560.json", "mcu/ATmega16.json"});
+        folder.write("mcu/AT90.old.json", "{}"); // listed up to the first dot
+    }
+};
+
+/// The Programming tab over them, with the Fuses tab beside it.
+struct Tab : Descriptions {
+    Tab()
+    {
+        program.refresh();
+        fuses.resize(400, 100); // has to scroll
+        fuses.show();
+    }
+
+    Fuses fuses {avrdude, nullptr};
+    Program program {avrdude, fuses, nullptr};
+    const AttributesView* view = program.findChild<AttributesView*>();
+    QComboBox* list = view->mcuList();
+    const SettingsRecord& settings = avrdude.settings();
+};
+
+} // namespace
 
 class tst_Mcu : public QObject
 {
@@ -38,63 +64,54 @@ private slots:
                          "X|x1|1E 00 01|lfuse 81 81|B7 1 1| 0 0|B0 1 1|lock 0 0|L 0 0|NOT USED 0 0|NOT USED 0 0"));
     }
 
-    void pickingAndReading()
+    void picking()
     {
-        Bench bench;
-        bench.folder.copy({"mcu/ATmega2560.json", "mcu/ATmega16.json"});
-        bench.folder.write("mcu/AT90.old.json", "{}"); // listed up to the first dot
-        Fuses fuses(bench.avrdude, nullptr);
-        Program program(bench.avrdude, fuses, nullptr);
-        program.refresh();
-        fuses.show();
-        const auto* view = program.findChild<AttributesView*>();
-        QComboBox* list = view->mcuList();
-        const SettingsRecord& settings = bench.avrdude.settings();
-        QCOMPARE(list->itemText(0) + list->itemText(1) + list->itemText(2), QString("AT90ATmega16ATmega2560"));
-        QCOMPARE(list->currentText(), QString("ATmega16"));
-        const QString box = "MCU: MCU selected: %1.\nFuse bytes set to datasheet default values.";
-        bench.boxes.delay = 50;
+        Tab tab;
+        QCOMPARE(tab.list->itemText(0) + tab.list->itemText(1) + tab.list->itemText(2),
+                 QString("AT90ATmega16ATmega2560"));
+        QCOMPARE(tab.list->currentText(), QString("ATmega16"));
+        auto* scrollBar = tab.fuses.findChild<QScrollArea*>()->verticalScrollBar();
+        tab.boxes.delay = 50;
         for (const auto& [part, values] :
              {std::pair("ATmega2560", "6299FFFF"), {"ATmega16", "E199FF"}, {"ATmega16", "E199FF"}}) {
+            scrollBar->setValue(9);
             QString shown; // while the box is open, however long it takes to open
-            QTimer::singleShot(0, this, [&] {
-                QTimer::singleShot(20, this, [&] {
-                    for (const FusesByteView* editor : fuses.findChildren<FusesByteView*>())
-                        shown += editor->isVisible() ? editor->value()->text() : "";
-                });
-            });
-            emit list->textActivated(part);
+            QTimer::singleShot(0, this, [&] { QTimer::singleShot(20, this, [&] { shown = shownFuses(tab.fuses); }); });
+            emit tab.list->textActivated(part);
             // No trace of the part before, and none of what was typed.
-            QCOMPARE(shown + bench.boxes.take().join('|'), values + box.arg(part));
-            QVERIFY(settings.mcuName == part && settings.fusesEnable);
-            QTest::keyClicks(fuses.findChild<FusesByteView*>()->value(), "00");
-            QCOMPARE(settings.fusesBytes[0].currentValue, 0U);
+            QCOMPARE(shown + tab.boxes.take().join('|'), values + box.arg(part));
+            QVERIFY(tab.settings.mcuName == part && tab.settings.fusesEnable && scrollBar->value() == 0);
+            QTest::keyClicks(tab.fuses.findChild<FusesByteView*>()->value(), "00");
+            QCOMPARE(tab.settings.fusesBytes[0].currentValue, 0U);
         }
-        emit list->textActivated("Missing");
-        QCOMPARE(bench.boxes.take().size(), 2); // that it is missing, and that it was selected
+        emit tab.list->textActivated("Missing");
+        QCOMPARE(tab.boxes.take().size(), 2); // that it is missing, and that it was selected
+        tab.program.refresh(); // the list has no entry for the name, and shows none
+        QCOMPARE(tab.settings.mcuName + '|' + tab.settings.mcuId + '|' + tab.list->currentText(),
+                 QString("Missing|m16|"));
+    }
 
+    void readingTheCalibrationByte()
+    {
+        Tab tab;
         const QString read = "Calibration Byte: Calibration byte read successfully.";
         for (const auto& [script, told, shown] :
              {std::array<QString, 3> {"make calibration.hex 0D0A9F\nwait 100", read, "0D 0A 9F"},
               {"wait 100\nerr verification error", "AVRDUDE: Verification error.", ""},
               {"wait 100", read, ""}}) { // as for a microcontroller that has none
-            bench.folder.write("calibration.hex", "another chip's");
-            bench.folder.write("script", script.toUtf8());
-            QTimer::singleShot(50, view->readButton(), &QPushButton::click); // pressed again in the middle
-            QCOMPARE(bench.click(view->readButton()), told + "|-U calibration:r:calibration.hex:r");
-            QCOMPARE(view->calibrationByte()->text(), shown);
+            tab.folder.write("calibration.hex", "another chip's");
+            tab.folder.write("script", script.toUtf8());
+            QTimer::singleShot(50, tab.view->readButton(), &QPushButton::click); // pressed again in the middle
+            QCOMPARE(tab.click(tab.view->readButton()), told + "|-U calibration:r:calibration.hex:r");
+            QCOMPARE(tab.view->calibrationByte()->text(), shown);
         }
-        bench.folder.write("script", "make calibration.hex 11\nwait 100");
-        view->readButton()->click();
-        emit list->textActivated("ATmega16"); // another part than was read
-        QTRY_VERIFY(bench.isIdle());
-        QCOMPARE(bench.boxes.take(), QStringList {box.arg("ATmega16")});
-        emit list->textActivated("Missing");
-        bench.boxes.take();
-        program.refresh(); // the list has no entry for the name, and shows none; the byte read last is remembered
-        const QStringList state {settings.mcuName, settings.mcuId, list->currentText(),
-                                 view->calibrationByte()->text()};
-        QCOMPARE(state.join('|'), QString("Missing|m16||0D 0A 9F"));
+        tab.folder.write("script", "make calibration.hex 11\nwait 100");
+        tab.view->readButton()->click();
+        emit tab.list->textActivated("ATmega2560"); // another part than was read
+        QTRY_VERIFY(tab.isIdle());
+        QCOMPARE(tab.boxes.take(), QStringList {box.arg("ATmega2560")});
+        tab.program.refresh();
+        QCOMPARE(tab.view->calibrationByte()->text(), QString("0D 0A 9F")); // what was read last
     }
 };
 

@@ -3,10 +3,6 @@
 #include "memory/Flash.h"
 #include "memory/FlashView.h"
 #include "support/Bench.h"
-#include "support/Rows.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 namespace {
 
@@ -52,23 +48,21 @@ private slots:
     void buttonsNeedAPath()
     {
         const Panels panels;
-        const auto enabled = [&view = panels.eepromView] {
-            QString buttons;
-            for (const QPushButton* button :
-                 {view.writeButton(), view.writeVerifyButton(), view.readButton(), view.readVerifyButton()})
-                buttons += button->isEnabled() ? "on " : "off ";
-            return buttons;
-        };
-        QCOMPARE(enabled(), QString("off off off off "));
-        panels.eepromView.writePath()->setText("a.eep");
-        QCOMPARE(enabled(), QString("on on off off "));
-        QVERIFY(panels.settings.eepromEnable && !panels.settings.flashEnable); // what a profile may write
-        panels.eepromView.writePath()->clear();
-        panels.eepromView.readPath()->setText("b.eep");
-        QCOMPARE(enabled(), QString("off off on on "));
-        QVERIFY(!panels.settings.eepromEnable);
-        panels.eepromView.readPath()->clear();
-        QCOMPARE(enabled(), QString("off off off off "));
+        const EepromView& view = panels.eepromView;
+        const QString none = "off off off off, profiles off off";
+        for (const auto& [written, read, expected] : {std::tuple("", "", none),
+                                                      {"a.eep", "", QString("on on off off, profiles on off")},
+                                                      {"", "b.eep", QString("off off on on, profiles off off")},
+                                                      {"", "", none}}) {
+            view.writePath()->setText(written);
+            view.readPath()->setText(read);
+            QString enabled = "%1 %2 %3 %4, profiles %5 %6"; // may write the EEPROM, may write the flash
+            for (const bool is : {view.writeButton()->isEnabled(), view.writeVerifyButton()->isEnabled(),
+                                  view.readButton()->isEnabled(), view.readVerifyButton()->isEnabled(),
+                                  panels.settings.eepromEnable, panels.settings.flashEnable})
+                enabled = enabled.arg(is ? "on" : "off");
+            QCOMPARE(enabled, expected);
+        }
     }
 
     void filesThatDoNotFit()

@@ -5,9 +5,6 @@
 #include "profiles/SelectView.h"
 #include "support/Bench.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 namespace {
 
 /// The tab over a folder without profiles.

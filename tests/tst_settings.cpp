@@ -3,10 +3,6 @@
 #include "settings/SettingsPresenter.h"
 #include "settings/SettingsView.h"
 #include "support/Bench.h"
-#include "support/Rows.h"
-
-#include <QtTest>
-#include <QtWidgets>
 
 namespace {
 
@@ -97,10 +93,6 @@ private slots:
         QHelpEvent hover(QEvent::ToolTip, inside, inside);
         QCoreApplication::sendEvent(&list, &hover);
         QCOMPARE(list.toolTip(), QString("first")); // a long one is not shown whole
-        list.setCurrentIndex(-1);
-        const QImage without = list.grab().toImage();
-        list.setPlaceholderText("Select...");
-        QVERIFY(list.grab().toImage() != without); // Qt 5.15 alone would not draw it
         QTest::keyClick(&list, Qt::Key_Space);
         QVERIFY(list.view()->isVisible());
         QTest::keyClick(list.view(), Qt::Key_3); // begins a search too
@@ -147,6 +139,7 @@ private slots:
             panel.folder.write("package/Languages/Deutsch.json", content.toUtf8());
             panel.presenter->setLanguage("Deutsch");
         }
+        qunsetenv("APPIMAGE");
         panel.view.language()->setCurrentText("New"); // listed from the working folder, looked for beside the package
         QCOMPARE(panel.boxes.take().join('|').replace(english, "*"),
                  QString("Korvel: Neu starten.|Korvel: *|Korvel: *|Korvel: *"));

@@ -1,12 +1,9 @@
 #include "about/AboutView.h"
 #include "about/SocialLinksWidget.h"
 #include "support/BoxAnswerer.h"
-#include "support/LogCapture.h"
 #include "update/UpdateChecker.h"
 
 #include <QtNetwork>
-#include <QtTest>
-#include <QtWidgets>
 
 class tst_Update : public QObject
 {
@@ -63,13 +60,13 @@ private slots:
             BoxAnswerer boxes;
             boxes.button = told.contains("5.6.1") ? QMessageBox::No : QMessageBox::Yes;
             m_opened.clear();
-            const LogCapture log;
+            if (source.startsWith("http"))
+                QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^Update check error: ")); // has to come
             UpdateChecker checker(QString(source).replace('\'', '"'));
             checker.checkForUpdates();
             QVERIFY(checker.findChild<QNetworkReply*>());
             QTRY_VERIFY(!checker.findChild<QNetworkReply*>()); // released in every case
             QCOMPARE(boxes.take().join('|') + m_opened.join('|'), told + page);
-            QCOMPARE(log.lines().filter("Update check error: ").size(), source.startsWith("http") ? 1 : 0);
         }
     }
 

@@ -3,10 +3,8 @@
 #include "app/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "support/BoxAnswerer.h"
+#include "support/Rows.h"
 #include "support/WorkFolder.h"
-
-#include <QPushButton>
-#include <QTest>
 
 /// A runner in a fresh working folder, with the stand-in for avrdude.
 struct Bench {
