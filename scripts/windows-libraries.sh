@@ -7,7 +7,7 @@ windows_toolchain=$PWD/cmake/windows-x86_64.cmake
 windows_manifest=$PWD/packaging/windows # that of avrdude
 
 windows_packages=(g++ make perl cmake ninja-build g++-mingw-w64-x86-64-posix flex bison cmark-gfm ca-certificates xz-utils
-    bzip2 fonts-dejavu-core wine wine64)
+    bzip2 fonts-dejavu-core python3 wine wine64)
 
 # Prints the path of the upstream archive of a Debian source package. The lists of sources lie in the cache: the
 # system's own are left alone, and need not name any.
