@@ -6,7 +6,7 @@ source "$(dirname "$0")/common.sh"
 source scripts/windows-libraries.sh
 export LC_ALL=C.UTF-8
 
-need_packages avrdude xvfb xauth xdotool openbox imagemagick fonts-dejavu-core fonts-wine unzip python3
+need_packages "${windows_packages[@]}" avrdude xvfb xauth xdotool openbox imagemagick fonts-wine unzip
 if (exec 3<>/dev/tcp/127.0.0.1/7016) 2>/dev/null; then
     echo "Something listens on port 7016, which the virtual programmer needs. End it and start again." >&2
     exit 1
