@@ -1,6 +1,7 @@
 #include "memory/PathField.h"
 
 #include "base/BoxText.h"
+#include "base/JsonFile.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -58,7 +59,7 @@ void PathField::setFile(const QString& chosen)
 bool PathField::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(text().isEmpty() ? QString() : boxText(QDir::current().absoluteFilePath(text())));
+        setToolTip(text().isEmpty() ? QString() : boxText(fullPath(text())));
     return QLineEdit::event(event);
 }
 
