@@ -1,7 +1,6 @@
 // The real window, the real avrdude and the virtual programmer: what a person with a chip on the bench would see.
 
 #include "app/KorvelApp.h"
-#include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
 #include "mcu/AttributesView.h"
 #include "memory/FlashView.h"
@@ -49,11 +48,9 @@ struct Desk {
     QString boxAfter(QPushButton* button)
     {
         QTest::mouseClick(button, Qt::LeftButton);
-        const QString busy = QApplication::overrideCursor() ? "" : "pointer not busy, ";
         const QStringList told = boxes.wait(30000);
-        return told.isEmpty()
-            ? "no box; the log says: " + avrdude->logText()
-            : busy + told.join(" | ") + (QApplication::overrideCursor() ? ", pointer still busy" : "");
+        return told.isEmpty() ? "no box; the log says: " + avrdude->logText()
+                              : told.join(" | ") + (QApplication::overrideCursor() ? ", pointer still busy" : "");
     }
 
     WorkFolder folder;
@@ -109,7 +106,7 @@ private slots:
             const auto state = QJsonDocument::fromJson(desk.folder.read("chip")).object();
             return state["fuses"]["low"].toString() + state["fuses"]["high"].toString() + state["lock"].toString();
         };
-        const auto editors = desk.window->findChild<Fuses*>()->findChildren<FusesByteView*>();
+        const auto editors = desk.window->findChildren<FusesByteView*>();
         QTest::keyClicks(editors[0]->value(), "e4");
         editors[2]->fusesBit()[0]->click(); // LB1
         QCOMPARE(desk.boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
@@ -121,9 +118,6 @@ private slots:
         QCOMPARE(desk.boxAfter(buttons->verifyButton()), QString("AVRDUDE: Verification error."));
         QCOMPARE(desk.boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
         QCOMPARE(shownFuses(*desk.window), QString("D191FF"));
-        QCOMPARE(desk.boxAfter(attributes->readButton()),
-                 QString("Calibration Byte: Calibration byte read successfully."));
-        QCOMPARE(attributes->calibrationByte()->text(), QString("A9 A4 A2 9F"));
     }
 
     void profiles()
@@ -135,11 +129,10 @@ private slots:
         QCOMPARE(shownFuses(*desk.window), QString("E1D9FF"));
         for (const QString board : {"one", "the next"}) {
             QCOMPARE(desk.runAvrdude({"-e", "-Ulfuse:w:0x62:m", "-Uhfuse:w:0x99:m"}), 0); // nothing on it yet
-            QCOMPARE(board + ": " + desk.boxAfter(view->writeButton()),
+            QCOMPARE(board + desk.boxAfter(view->writeButton()).remove(" successfully."),
                      board
-                         + ": Profiles: Flash write successfully.\nFlash verify successfully.\n"
-                           "Eeprom write successfully.\nEeprom verify successfully.\n"
-                           "Fuse bits write successfully.\nFuse bits verify successfully.");
+                         + "Profiles: Flash write\nFlash verify\nEeprom write\nEeprom verify\n"
+                           "Fuse bits write\nFuse bits verify");
             QCOMPARE(desk.runAvrdude({"-Uflash:v:demo/blink.hex:i", "-Ueeprom:v:demo/greeting.eep:i",
                                       "-Ulfuse:v:0xe1:m", "-Uhfuse:v:0xd9:m", "-Ulock:v:0xff:m"}),
                      0);
@@ -171,20 +164,18 @@ private slots:
 
     void failures()
     {
-        using Row = std::array<const char*, 4>;
-        for (const auto& [programmer, part, path, message] :
-             {Row {"", "m328p", "fw.bin", "Wrong microcontroller selected."},
-              {"--silent", "m16", "fw.bin", "Programmer not found."},
+        for (const auto& [options, part, message] : {std::tuple("", "m328p", "Wrong microcontroller selected."),
+                                                     {"--silent", "m16", "Programmer not found."},
 #ifndef Q_OS_WIN // where avrdude 7.1 reads on for ever from a connection that the other side has closed
-              {"--unplug-after=50", "m16", "fw.bin", "Programmer not found."},
+                                                     {"--unplug-after=50", "m16", "Programmer not found."},
 #endif
-              {"--flip=0x10", "m16", "fw.bin", "Verification error."}}) {
-            Desk desk(programmer);
+                                                     {"--flip=0x10", "m16", "Verification error."}}) {
+            Desk desk(options);
             desk.folder.write("fw.bin", QByteArray(100, 'x'));
             desk.avrdude->settings().mcuId = part;
             auto* flash = desk.window->findChild<FlashView*>();
-            flash->writePath()->setText(path);
-            QCOMPARE(path + desk.boxAfter(flash->writeButton()), path + QString("AVRDUDE: ") + message);
+            flash->writePath()->setText("fw.bin");
+            QCOMPARE(options + desk.boxAfter(flash->writeButton()), options + QString("AVRDUDE: ") + message);
         }
     }
 };

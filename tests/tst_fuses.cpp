@@ -18,12 +18,6 @@ FuseByte makeByte(const QString& id, quint32 value)
     return byte;
 }
 
-/// Lays the files that tell about the microcontroller @p name into the working folder.
-void layDescription(const WorkFolder& folder, const QString& name)
-{
-    folder.copy({"mcu/" + name + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
-}
-
 /// The tab over two bytes.
 struct Tab : Bench {
     Tab()
@@ -98,6 +92,7 @@ private slots:
     void workingInTheField()
     {
         Tab tab;
+        tab.tab.resize(400, 100); // has to scroll
         tab.tab.show();
         QVERIFY(QTest::qWaitForWindowActive(&tab.tab));
         HexField* field = tab.field();
@@ -107,11 +102,11 @@ private slots:
         QCoreApplication::sendEvent(field, &composed);
         QTest::mouseClick(field, Qt::LeftButton);
         QCOMPARE(field->selectedText(), QString("C2"));
-        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down}) {
-            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-            field->event(&press);
-            QVERIFY(!press.isAccepted()); // so the page scrolls
-        }
+        const auto* scrollBar = tab.tab.findChild<QScrollArea*>()->verticalScrollBar();
+        QTest::keyClick(field, Qt::Key_Down);
+        QVERIFY(scrollBar->value() > 0);
+        QTest::keyClick(field, Qt::Key_Up);
+        QCOMPARE(scrollBar->value(), 0);
         QTest::keyClick(field, Qt::Key_Delete);
         QTest::keyClick(field, Qt::Key_Tab);
         QVERIFY(!field->hasFocus());
@@ -121,7 +116,7 @@ private slots:
     void everyChangeIsExplained()
     {
         Bench bench;
-        layDescription(bench.folder, "ATmega328P");
+        bench.folder.copy({"mcu/ATmega328P.json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
         Fuses fuses(bench.avrdude, nullptr);
         fuses.loadMcu("ATmega328P");
         fuses.rebuild();
@@ -137,9 +132,7 @@ private slots:
             "14 clocks\n    Factory setting = "
             + factory;
         QCOMPARE(low->fusesBit()[0]->toolTip(), changed);
-        QCOMPARE(low->value()->accessibleDescription(),
-                 "Division of the clock at the start\n    CKDIV8 = 0: divided by 8\nClock output\n    CKOUT = 1: off\n"
-                     + changed);
+        QVERIFY(low->value()->accessibleDescription().endsWith("\n    CKOUT = 1: off\n" + changed));
         QCOMPARE(low->fusesBit()[5]->sizeHint(), plainSize);
         QVERIFY(low->fusesBit()[5]->font().bold() && !low->fusesBit()[0]->font().bold());
         QTest::keyClicks(low->value(), "62");
@@ -152,33 +145,25 @@ private slots:
 
     void settingsAndWarnings_data()
     {
-        columns<QString, QString, int, QString>("mcu", "id", "value", "told"); // setting|warning
-        row("reset", "ATmega328P", "hfuse", 0x59, "RSTDISBL = 0: ordinary pin|The reset pin becomes an ordinary pin");
-        row("reset, PDI", "ATxmega128A1U", "fuse4", 0xEE, "RSTDISBL = 0: no reset input|");
-        row("reset, high voltage only", "ATtiny11", "fuse", 0xF4, "RSTDISBL = 0: ordinary pin|");
-        row("debugWIRE", "ATtiny85", "hfuse", 0x9F, "DWEN = 0: on|The reset pin becomes the debugger's");
-        row("ISP", "ATmega16", "hfuse", 0xB9, "SPIEN = 1: off|A serial programmer");
-        row("JTAG", "ATmega16", "hfuse", 0xD9, "JTAGEN = 1: off|A JTAG programmer");
-        row("JTAG beside PDI", "ATxmega128A1U", "fuse4", 0xFF, "JTAGEN = 1: off|A JTAG programmer");
-        row("UPDI as input", "ATtiny1614", "fuse5", 0xF2, "RSTPINCFG1..0 = 00: ordinary pin|The UPDI pin");
-        row("UPDI, reserved", "ATtiny1614", "fuse5", 0xFE, "RSTPINCFG1..0 = 11: reserved|This setting");
-        row("UPDI alone", "AVR64DD32", "fuse5", 0xC0, "UPDIPINCFG = 0: ordinary pin|The UPDI pin");
-        row("reset beside UPDI", "AVR128DB48", "fuse5", 0xC8, "RSTPINCFG1..0 = 10: reset input|");
-        row("crystal", "ATmega328P", "lfuse", 0x7F,
-            "SUT1..0 CKSEL3..0 = 111111: crystal oscillator from 8 MHz; start-up 16K clocks, after a reset 14 clocks + "
-            "65 ms|Without this clock");
-        row("crystal from the factory", "AT90USB1287", "lfuse", 0xDE, "CKDIV8 = 1: not divided|");
-        row("RC or clock", "AT90S2343", "fuse", 0xDF, "RCEN = 1: external clock|Without this clock");
-        row("lock bits", "ATmega328P", "lock", 0xFE,
-            "LB2..1 = 10: locked for writing|A programmer can no longer write");
-        row("key", "ATtiny1614", "lock", 0xC4,
-            "LB7..0 = 11000100: locked for writing and reading|A programmer can no longer read");
-        row("boot lock bits", "ATmega328P", "lock", 0xDF,
-            "BLB12..11 = 01: no program in the application section can read it|");
-        row("missing bits in a field", "ATtiny88", "lfuse", 0x6F,
-            "SUT1..0 CKSEL1..0 = 1011: internal oscillator 128 kHz; start-up 6 clocks, after a reset 14 clocks + 65 "
-            "ms|So slow a chip");
-        row("number", "ATtiny1614", "fuse8", 12, "BOOTEND7..0 = 12|");
+        columns<QString, QString, int, QString, QString>("mcu", "id", "value", "setting", "warning"); // how these begin
+        row("reset", "ATmega328P", "hfuse", 0x59, "RSTDISBL = 0: ordinary pin", "The reset pin becomes an");
+        row("reset, PDI", "ATxmega128A1U", "fuse4", 0xEE, "RSTDISBL = 0: no reset input", "");
+        row("reset, high voltage only", "ATtiny11", "fuse", 0xF4, "RSTDISBL = 0: ordinary pin", "");
+        row("debugWIRE", "ATtiny85", "hfuse", 0x9F, "DWEN = 0: on", "The reset pin becomes the debugger's");
+        row("ISP", "ATmega16", "hfuse", 0xB9, "SPIEN = 1: off", "A serial programmer");
+        row("JTAG", "ATmega16", "hfuse", 0xD9, "JTAGEN = 1: off", "A JTAG programmer");
+        row("UPDI as input", "ATtiny1614", "fuse5", 0xF2, "RSTPINCFG1..0 = 00: ordinary pin", "The UPDI pin");
+        row("UPDI, reserved", "ATtiny1614", "fuse5", 0xFE, "RSTPINCFG1..0 = 11: reserved", "This setting");
+        row("UPDI alone", "AVR64DD32", "fuse5", 0xC0, "UPDIPINCFG = 0: ordinary pin", "The UPDI pin");
+        row("reset beside UPDI", "AVR128DB48", "fuse5", 0xC8, "RSTPINCFG1..0 = 10: reset input", "");
+        row("crystal", "ATmega328P", "lfuse", 0x7F, "SUT1..0 CKSEL3..0 = 111111: crystal", "Without this clock");
+        row("RC or clock", "AT90S2343", "fuse", 0xDF, "RCEN = 1: external clock", "Without this clock");
+        row("lock bits", "ATmega328P", "lock", 0xFE, "LB2..1 = 10: locked", "A programmer can no longer write");
+        row("key", "ATtiny1614", "lock", 0xC4, "LB7..0 = 11000100: locked for", "A programmer can no longer read");
+        row("boot lock bits", "ATmega328P", "lock", 0xDF, "BLB12..11 = 01: no program in the application", "");
+        row("32 kHz", "ATtiny841", "lfuse", 0x44, "SUT CKSEL3..0 = 00100: internal", "So slow a chip");
+        row("missing bits in a field", "ATtiny88", "lfuse", 0x6F, "SUT1..0 CKSEL1..0 = 1011: ", "So slow a chip");
+        row("number", "ATtiny1614", "fuse8", 12, "BOOTEND7..0 = 12", "");
     }
 
     void settingsAndWarnings()
@@ -186,23 +171,23 @@ private slots:
         QFETCH(QString, mcu);
         QFETCH(QString, id);
         QFETCH(int, value);
-        QFETCH(QString, told);
+        QFETCH(QString, setting);
+        QFETCH(QString, warning);
         Bench bench;
-        layDescription(bench.folder, mcu);
+        bench.folder.copy({"mcu/" + mcu + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
         BytesModel(bench.avrdude).load(mcu);
         FuseMeanings meanings;
         meanings.load(bench.avrdude.settings());
-        QString changes;
+        QStringList changed; // title, setting, factory setting, warning
         for (FuseByte byte : bench.avrdude.settings().fusesBytes) {
             if (byte.id == id)
                 byte.currentValue = static_cast<quint32>(value);
-            for (const FuseMeanings::Text& about : meanings.of(byte)) {
-                const QStringList lines = about.text.split("\n    "); // title, setting, factory setting, warning
-                changes += lines.size() > 2 ? lines[1] + '|' + lines.value(3) : QString();
-            }
+            for (const FuseMeanings::Text& about : meanings.of(byte))
+                changed += about.text.contains("Factory setting") ? about.text.split("\n    ") : QStringList();
         }
-        QCOMPARE(changes.left(told.size()), told);
-        QCOMPARE(changes.endsWith('|'), told.endsWith('|')); // no warning
+        QCOMPARE(changed.value(1).left(setting.size()), setting);
+        QCOMPARE(changed.value(3).left(warning.size()), warning);
+        QCOMPARE(changed.value(3).isEmpty(), warning.isEmpty());
     }
 
     void readingAndDefaults()
@@ -223,8 +208,7 @@ private slots:
                  QString("FUSES: Not read: Name of lfuse, Name of lock"));
 
         // A profile of another part comes before a reading ends: it is not the chip that was read.
-        SettingsRecord profile;
-        profile.avrdude = STAND_IN;
+        SettingsRecord profile = tab.avrdude.settings();
         profile.fusesBytes = {makeByte("fuse", 0x62)};
         QVERIFY(profile.saveToFile("profile"));
         tab.folder.write("script", "make lfuse.hex C0\nmake fuse.hex C0\nwait 100");
@@ -241,6 +225,8 @@ private slots:
         tab.folder.write("script", "make efuse.hex E5");
         tab.click(tab.buttons->readButton());
         QCOMPARE(shownFuses(tab.tab), QString("E5"));
+        tab.bytes = {}; // as of parts that serial programming does not reach
+        QCOMPARE(tab.click(tab.buttons->readButton()), QString("FUSES: Fuse bytes read successfully.|"));
     }
 };
 

@@ -1,6 +1,5 @@
 #include "profiles/ConfigurationView.h"
 #include "profiles/Profiles.h"
-#include "profiles/ProfilesPresenter.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "support/Bench.h"
@@ -69,29 +68,26 @@ private slots:
 
     void areas()
     {
-        using Flag = bool SettingsRecord::*;
-        const std::array<std::pair<Flag, Flag>, 3> flags {{
-            {&SettingsRecord::flashEnable, &SettingsRecord::flashCheck},
-            {&SettingsRecord::eepromEnable, &SettingsRecord::eepromCheck},
-            {&SettingsRecord::fusesEnable, &SettingsRecord::fusesCheck},
-        }};
+        using Record = SettingsRecord;
+        const std::array enabled {&Record::flashEnable, &Record::eepromEnable, &Record::fusesEnable};
+        const std::array ticked {&Record::flashCheck, &Record::eepromCheck, &Record::fusesCheck};
         for (const bool isLoaded : {true, false}) // with a profile; otherwise the tab was chosen
-            for (std::size_t area = 0; area < flags.size(); ++area) { // each alone
+            for (std::size_t area = 0; area < enabled.size(); ++area) { // each alone
                 Tab tab;
-                tab.settings.*flags[area].first = true;
+                tab.settings.*enabled[area] = true;
                 const auto show = [&] { isLoaded ? tab.tab.refresh() : tab.tab.updateAreas(); };
                 show();
                 tab.areas[static_cast<int>(area)]->click();
                 QVERIFY(tab.write->isEnabled());
                 show();
-                for (std::size_t i = 0; i < flags.size(); ++i) {
-                    QCOMPARE(tab.settings.*flags[i].second, i == area);
+                for (std::size_t i = 0; i < enabled.size(); ++i) {
+                    QCOMPARE(tab.settings.*ticked[i], i == area);
                     QCOMPARE(tab.areas[static_cast<int>(i)]->isEnabled(), i == area);
                     QCOMPARE(tab.areas[static_cast<int>(i)]->isChecked(), i == area);
                 }
-                tab.settings.*flags[area].first = false;
+                tab.settings.*enabled[area] = false;
                 tab.tab.updateAreas(); // what cannot be written is unticked
-                QVERIFY(!(tab.settings.*flags[area].second) && !tab.write->isEnabled());
+                QVERIFY(!(tab.settings.*ticked[area]) && !tab.write->isEnabled());
             }
     }
 
@@ -129,7 +125,7 @@ private slots:
                  QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
         QCOMPARE(board.requests(), QStringList({"else", "for this", "-Ulock:w:0xfe:m"}));
         QVERIFY(board.avrdude.logText().contains(QRegularExpression("(?s) for this\n.* -Ulock:w:0xfe:m\n")));
-        QCOMPARE(board.folder.runs().constLast()[1], QString("m16"));
+        QCOMPARE(board.folder.runs().last().section('\t', 1, 1), QString("m16"));
 
         // Nothing of a board is written when one of its files does not fit.
         board.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 6, "eeprom": 4})");

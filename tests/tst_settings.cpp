@@ -120,9 +120,8 @@ private slots:
         Panel panel;
         QCOMPARE(panel.view.programmer()->count(), 4); // without "Loud"
         for (const auto& [programmer, expected] :
-             {std::pair("Serial", "Serial|stk500v1||*|"), // * stands for the first port, stored and shown
-              {"USBasp", "USBasp|usbasp|-F|usb|usb, fixed|"},
-              {"Serial", "Serial|stk500v1||*|"}, // "-F" is gone
+             {std::pair("USBasp", "USBasp|usbasp|-F|usb|usb, fixed|"),
+              {"Serial", "Serial|stk500v1||*|"}, // "-F" is gone; * stands for the first port, stored and shown
               {"none", "Serial|stk500v1||*|JSON FILE NOT FOUND: JSON FILE NOT FOUND"}, // all but the box stays
               {"Broken", "Serial|stk500v1||*|JSON FILE ERROR: JSON FILE ERROR"}}) {
             panel.view.programmer()->setCurrentText(programmer);
@@ -159,8 +158,7 @@ private slots:
               {"Serial", "ttyUSB0", "Serial|Serial|/dev/ttyUSB0|ttyUSB0 (FT232R)"}, // found by its name
 #endif
               {"Sold", "/dev/ttyUSB0", "|Sold|/dev/ttyUSB0|"}, // not in the catalogue: is offered no ports
-              {"USBasp", "COM1", "USBasp|USBasp|usb|usb"},
-              {"Sold", "usb", "|Sold|usb|"}}) {
+              {"USBasp", "COM1", "USBasp|USBasp|usb|usb"}}) {
             panel.settings.programmer.name = programmer;
             panel.settings.port = stored;
             panel.presenter->refreshFromSettings();

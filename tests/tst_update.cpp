@@ -54,7 +54,6 @@ private slots:
                  {"data:,{'version': '5.7', 'url': ''}", "Error: Download URL is missing in server response.", ""},
                  {"data:,{'version': '5.6', 'url': 'https://a'}", "", ""},
                  {"data:,{'version': '5.5.9', 'url': 'https://a'}", "", ""},
-                 {"data:,{'version': 'next', 'url': 'https://a'}", "", ""},
                  {"http://127.0.0.1:1/", "", ""}, // nobody listens
              }) {
             BoxAnswerer boxes;

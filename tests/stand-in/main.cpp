@@ -7,9 +7,7 @@
 //   await FILE           sleep until there is such a file
 //   exit CODE, crash     end; without either it ends with 0 after the last line
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QThread>
+#include <QtCore>
 
 #include <cstdio>
 #include <cstdlib>
@@ -38,8 +36,7 @@ int main(int argc, char* argv[])
         } else if (word == "print") {
             QFile file(QString::fromUtf8(operand));
             file.open(QIODevice::ReadOnly);
-            const QByteArray content = file.readAll();
-            std::fwrite(content.constData(), 1, static_cast<std::size_t>(content.size()), stderr);
+            std::fputs(file.readAll().constData(), stderr);
         } else if (word == "make") {
             QFile file(QString::fromUtf8(operand.split(' ').first()));
             file.open(QIODevice::WriteOnly);

@@ -25,8 +25,8 @@ struct Bench {
     [[nodiscard]] QStringList requests() const
     {
         QStringList requests;
-        for (const QStringList& run : folder.runs())
-            requests += run.mid(7).join(' ');
+        for (const QString& run : folder.runs())
+            requests += run.section('\t', 7).replace('\t', ' ');
         return requests;
     }
 

@@ -40,8 +40,7 @@ public:
         if (!box)
             return false;
         const QPushButton* chosen = box->buttons().size() > 1 ? box->defaultButton() : nullptr;
-        const QString byDefault =
-            chosen ? QStringLiteral(", by default ") + chosen->text().remove(QLatin1Char('&')) : QString();
+        const QString byDefault = chosen ? ", by default " + chosen->text().remove('&') : QString();
         m_boxes.append(box->windowTitle() + byDefault + QLatin1String(": ") + box->text());
         QTimer::singleShot(delay, box, [this, box] {
             QAbstractButton* widget = box->button(button);

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <QByteArray>
-#include <QDir>
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <QVector>
+#include <QtCore>
 
 /// A fresh temporary folder that is the working directory for as long as the object lives.
 class WorkFolder
@@ -37,14 +32,10 @@ public:
             write(file, read(QStringLiteral(DATA_FOLDER "/") + file));
     }
 
-    /// The argument lists of the stand-in's runs so far.
-    [[nodiscard]] QVector<QStringList> runs() const
+    /// The stand-in's runs so far, each with tabs between its arguments.
+    [[nodiscard]] QStringList runs() const
     {
-        QVector<QStringList> runs;
-        const auto lines = QString::fromUtf8(read(QStringLiteral("runs"))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        for (const QString& line : lines)
-            runs.append(line.split(QLatin1Char('\t')));
-        return runs;
+        return QString::fromUtf8(read(QStringLiteral("runs"))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     }
 
 private:
