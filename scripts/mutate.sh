@@ -2,7 +2,7 @@
 # Tells how good the tests are: puts the faults of scripts/mutations.txt into a copy of the sources, one at a time,
 # builds, and runs the tests. mutate.sh [NUMBER...] tries these faults only; mutate.sh --list tells their numbers. Fails
 # when fewer than 90 % are noticed, or when a fault does not fit the sources any more. Two faults at a time on two cores;
-# all of them take an hour. Not part of CI.
+# all of them take forty minutes. Not part of CI.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the language files
 

@@ -70,6 +70,7 @@ private slots:
         row("after programming: no pages, no erasing, no signature", "5120 64000146AB20 7400014620 5220 7520",
             "1410 1413 1413 1413 1413");
         row("signature, and nothing behind it", "7520 563000030020", "141E980110 14FF10");
+        row("never busy", "56F000000020", "140010");
         row("calibration bytes, and nothing behind them", "563800000020 563800010020", "14A910 14FF10");
         row("flash across a page end, above 128 KiB", "564D00010020 557F0020 640004461234567820 7400044620",
             "140110 1410 1410 141234567810");
