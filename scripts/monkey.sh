@@ -4,6 +4,7 @@
 # the program and starts it again, which must bring back every setting as it was left. A finding and what led to it stay
 # in build/monkey. SEED=NUMBER repeats the same moves. Not part of CI.
 source "$(dirname "$0")/common.sh"
+export LC_ALL=C.UTF-8 # for what is typed, and the names of the language files
 
 seconds=${1:-600}
 RANDOM=${SEED:=$RANDOM}
