@@ -11,25 +11,10 @@
 #include <sys/stat.h>
 #endif
 
-namespace {
-
 const QString file = QStringLiteral("save.json");
 
-/// Every key holds something else than any default or fallback, but for the flags.
-const QByteArray full =
-    QByteArray(R"json({
-    "avrdude": "/opt/avrdude", "mcuName": "ATtiny85", "mcuId": "t85", "signature": "1E 93 0B", "callByte": "5A",
-    "language": "Русский", "arguments": "-v", "fileNamesReading": ["lfuse.hex", "lock.hex"], "files": {
-        "flashWrite": "a.hex", "flashRead": "b.hex", "eepromWrite": "c.eep", "eepromRead": "d.eep",
-        "cmdFlashWrite": ["-U", "flash:w:a.hex:i"], "cmdEepromWrite": ["-U", "eeprom:w:c.eep:i"], "cmdFuses": ["-Ux"]},
-    "programmer": {"name": "Mine", "id": "stk500v1", "port": "/dev/none", "speed": "1 kHz (-B 512)"},
-    "fusesBytes": [{"name": "L", "id": "lfuse", "defaultValue": 98, "currentValue": 226, "fuseBits": [@,@,@,@,@,@,@,@]}],
-    "profiles": {"name": "Name", "description": "Rev. B", "configurationList": ["1"], "currentlyProfilesList": "Board",
-                 "flashCheck": false, "eepromCheck": false, "fusesCheck": false,
-                 "flashEnable": false, "eepromEnable": false, "fusesEnable": false}})json")
-        .replace("@", R"({"bitNumber": 5, "enabled": true, "name": "B", "defaultBitValue": 1, "currentBitValue": 2})");
-
-} // namespace
+/// Every key holds something else than any default or fallback, but for the flags, which are all false.
+const QByteArray full = WorkFolder::read(TEST_FOLDER "/data/settings.json");
 
 class tst_App : public QObject
 {
@@ -99,7 +84,8 @@ private slots:
         const QString empty = "Nothing found in the folder mcu.\nNothing found in the folder programmer.\n";
         const QString kept = failed.mid(8) + " (%2)\nThe file is kept as save.damaged-%1.json.\n";
         QCOMPARE(log,
-                 empty + kept.arg(1).arg("illegal value") + empty + kept.arg(2).arg("no JSON object") + empty + empty);
+                 empty + kept.arg(1).arg("unterminated object") + empty + kept.arg(2).arg("no JSON object") + empty
+                     + empty);
         // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
         for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
             QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(full)[key]);

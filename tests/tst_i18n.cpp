@@ -38,12 +38,7 @@ private slots:
     void converter()
     {
         const WorkFolder folder;
-        const QByteArray source = R"(<TS><context>
-            <message><source>A &amp;&amp; B</source><translation>Ä</translation></message>
-            <message><source>Open</source><translation type="unfinished">Auf?</translation></message>
-            <message><source>Empty</source><translation></translation></message>
-            <message><source>Twice</source><translation>eins</translation></message></context>
-            <context><message><source>Twice</source><translation>zwei</translation></message></context></TS>)";
+        const QByteArray source = folder.read(TEST_FOLDER "/data/sample.ts");
         folder.write("whole.ts", source);
         folder.write("half.ts", source.left(source.indexOf("Open"))); // converted up to the fault
         QString texts;

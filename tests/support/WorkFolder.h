@@ -19,7 +19,7 @@ public:
     }
 
     /// The file's content; null when there is no such file.
-    [[nodiscard]] QByteArray read(const QString& path) const
+    [[nodiscard]] static QByteArray read(const QString& path)
     {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
