@@ -1,7 +1,5 @@
 #include "support/Bench.h"
 
-namespace {
-
 /// The boxes that tell of a failure, by the letters of the tests' tables.
 const QHash<QChar, QString> boxes {
     {'N', "AVRDUDE: Programmer not found."},
@@ -16,8 +14,6 @@ const QHash<QChar, QString> boxes {
     {'E', "AVRDUDE: Could not read contents\nDevice is either blank or read-protected (Lock Bits are set)."},
     {'S', "AVRDUDE: See the message in the dialog box."},
 };
-
-} // namespace
 
 class tst_Avrdude : public QObject
 {
@@ -46,7 +42,7 @@ private slots:
                                                 {"7.1", "--SSFSVW-----SSNNNNS"},
                                                 {"7.3", "--SSFSVW----SSSSNSNS"},
                                                 {"8.2", "--IIFIVW----SSNSNNND"}}) {
-            const QString path = QString(DATA_FOLDER "/../tests/recordings/avrdude-%1.txt").arg(version);
+            const QString path = QString(TEST_FOLDER "/recordings/avrdude-%1.txt").arg(version);
             const QStringList commands = QString('\n' + bench.folder.read(path)).split("\n### -").mid(1);
             QCOMPARE(commands.size(), static_cast<int>(qstrlen(expected)));
             for (int i = 0; i < commands.size(); ++i) {
@@ -59,39 +55,16 @@ private slots:
         }
     }
 
-    void lines_data()
-    {
-        columns<int, char>("exitCode", "box");
-        // Those of the first table count by themselves.
-        row("Programmer: USBasp not found", 0, 'U');
-        row("error: program enable: target does not answer", 0, 'D');
-        row("Device signature = 0xffffff use -F to override this check", 0, 'D');
-        row("Invalid file format", 0, 'I');
-        row("ERROR: x", 0, 'S');
-        // Those of the second with an exit code other than 0 alone, and that code with such a word alone.
-        row("Error: retrying", 0, '-');
-        row("was: no Error: at all", 1, '-');
-        row("\rWriting | ###\rError: cut off", 1, 'S');
-        row("Avrdude done.  Thank you.", 1, 'S');
-        row("avrdude: invalid file format 'a90' in update specifier", 1, 'S');
-        row("Error: initialization failed  (rc = -1)", 1, 'D');
-        row("Error: program enable: target does not answer (0x01)", 1, 'D');
-        row("x: Yikes!  Invalid device signature.", 1, 'D');
-        row("x: Error: Could not find USBtiny device (0x1781/0xc9f)", 1, 'N');
-        row("x: Error: No matching USB device found", 1, 'N');
-        row("x: opening programmer \"usbtiny\" on port \"usb\" failed", 2, 'N');
-        row("x: jtag3_open_common(): Did not find any device matching VID", 1, 'N');
-        row("E avrftdi_open(706): Error -1 occurred: usb_find_busses() failed", 1, 'N');
-    }
+    void lines_data() { casesFrom("lines.txt", {"line", "exitCode", "box"}); }
 
     void lines()
     {
-        QFETCH(int, exitCode);
-        QFETCH(char, box);
+        QFETCH(QString, line);
+        QFETCH(QString, exitCode);
+        QFETCH(QString, box);
         Bench bench;
-        const QString script = QString("err %1\nexit %2").arg(QTest::currentDataTag()).arg(exitCode);
-        QCOMPARE(bench.run(script.toUtf8()), box == '-' ? 1 : 0);
-        QCOMPARE(box == '-' ? QString() : bench.boxes.wait().join('|'), boxes.value(box));
+        QCOMPARE(bench.run(QString("err %1\nexit %2").arg(line, exitCode).toUtf8()), box == "-" ? 1 : 0);
+        QCOMPARE(box == "-" ? QString() : bench.boxes.wait().join('|'), boxes.value(box[0]));
     }
 
     void silentProgrammer()

@@ -21,17 +21,7 @@ class tst_Memory : public QObject
     Q_OBJECT
 
 private slots:
-    void formats_data()
-    {
-        columns<QString, QString, QString>("path", "flash", "eeprom");
-        row("Intel hex, capitals, colon", "C:/fw/App.HEX", "i", "i");
-        row("Intel hex of an EEPROM", "app.eep", "i", "i");
-        row("raw, a blank, two dots", "my dir/app.v1.bin", "r", "r");
-        row("S-record, which avrdude refuses", "app.s19", "m", "m");
-        row("ELF", "app.elf", "e", "e");
-        row("a90, a format of its own in the flash panel alone", "app.a90", "a90", "a");
-        row("no suffix, a dot in the folder, percent signs: avrdude detects", "a.dir/fw%1%2", "a", "a");
-    }
+    void formats_data() { casesFrom("formats.txt", {"path", "flash", "eeprom"}); }
 
     void formats()
     {
