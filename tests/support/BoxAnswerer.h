@@ -18,9 +18,6 @@ public:
     /// How long each box stays open, in milliseconds.
     int delay = 0;
 
-    /// True when a box has opened since the last take().
-    [[nodiscard]] bool hasAnswered() const { return !m_boxes.isEmpty(); }
-
     /// The boxes since the last call, oldest first, as "title: text" or, where it was set which button the Enter key
     /// presses, "title, by default No: text".
     QStringList take() { return std::exchange(m_boxes, {}); }
