@@ -31,9 +31,8 @@ struct Desk {
     {
         programmer.kill();
         programmer.waitForFinished();
-        programmer.start(VIRTUAL_PROGRAMMER,
-                         QStringList {"--port", port.isEmpty() ? "0" : port.mid(1), "--state", "chip"}
-                             + options.split(' ', Qt::SkipEmptyParts));
+        const QString samePort = port.isEmpty() ? "0" : port.mid(1);
+        programmer.start(VIRTUAL_PROGRAMMER, ("--state=chip --port=" + samePort + ' ' + options).trimmed().split(' '));
         programmer.waitForReadyRead();
     }
 

@@ -26,7 +26,7 @@ private slots:
     void addLoadRemove()
     {
         Tab tab;
-        tab.folder.write("profiles/notes.txt", "");
+        tab.folder.write("profiles/notes.JSON", "");
         QPushButton* add = tab.configuration->addButton();
         QPushButton* removeButton = tab.configuration->removeButton();
         add->click(); // no name, no profile: nothing
@@ -47,7 +47,8 @@ private slots:
         add->click();
         removeButton->click();
         QCOMPARE(tab.settings.profile.name + tab.settings.description, QString());
-        QCOMPARE(QDir("profiles").entryList(QDir::Files).join('|') + tab.profiles->currentText(), QString("notes.txt"));
+        QCOMPARE(QDir("profiles").entryList(QDir::Files).join('|') + tab.profiles->currentText(),
+                 QString("notes.JSON"));
         tab.configuration->name()->setText("no/folder"); // cannot be written, and only the log says so
         add->click();
         emit tab.profiles->textActivated("gone");
@@ -58,11 +59,8 @@ private slots:
         tab.settings.currentlyProfilesList = "B";
         tab.tab.refresh();
         QCOMPARE(tab.profiles->currentText(), QString("B"));
-        QStringList titles;
-        for (const QString& box : tab.boxes.take())
-            titles += box.section(':', 0, 0);
         const QString overwrite = "Overwrite Confirmation, by default No";
-        QCOMPARE(titles.join('|'),
+        QCOMPARE(tab.boxes.take().replaceInStrings(QRegularExpression("(?s):.*"), "").join('|'),
                  "Information|" + overwrite + "|Delete|" + overwrite + "|Information|Delete|Information");
     }
 
@@ -91,17 +89,29 @@ private slots:
             }
     }
 
-    void writing()
+    void boardsThatCannotBeWritten()
     {
         Tab tab;
-        tab.settings.cmdFlashWrite = QStringList {"-U", "flash:w:a.bin:r"};
-        tab.settings.fusesBytes = {FuseByte {"", "lock", {}, 0, 0}};
-        for (QCheckBox* area : tab.areas)
-            area->click();
-        tab.folder.write("script", "err verification error"); // a step that fails ends it
-        QCOMPARE(tab.click(tab.write), QString("AVRDUDE: Verification error.|-U flash:w:a.bin:r"));
-        // Pressed while something else runs, nothing starts. Pressed again in the middle, the new first step is dropped
-        // and the old run's end goes on with the new ones, all of them with what was set at first.
+        tab.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 6, "eeprom": 4})");
+        tab.settings.cmdFlashWrite = QStringList {"-U", "flash:w:C:/a.bin:r"};
+        tab.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:C:/a.bin:r"};
+        tab.areas[0]->click();
+        tab.areas[1]->click();
+        tab.folder.write("script", "err verification error");
+        for (const auto& [file, told] : {
+                 std::pair("12345", "EEPROM: The file has 5 bytes, the memory only 4."), // nothing is written
+                 {"1234567", "FLASH: The file has 7 bytes, the memory only 6."},
+                 {"1234", "AVRDUDE: Verification error.|-U flash:w:C:/a.bin:r"}, // nothing after the step that failed
+             }) {
+            tab.folder.write("C:/a.bin", file);
+            QCOMPARE(tab.click(tab.write), QString(told));
+        }
+    }
+
+    void writingPressedInARun()
+    {
+        // While something else runs, nothing starts. Pressed again in the middle, the new first step is dropped and the
+        // old run's end goes on with the new ones, all of them with what was set at first.
         Tab board;
         board.folder.write("script", "wait 200");
         board.settings.fusesEnable = true;
@@ -126,17 +136,6 @@ private slots:
         QCOMPARE(board.requests(), QStringList({"else", "for this", "-Ulock:w:0xfe:m"}));
         QVERIFY(board.avrdude.logText().contains(QRegularExpression("(?s) for this\n.* -Ulock:w:0xfe:m\n")));
         QCOMPARE(board.folder.runs().last().section('\t', 1, 1), QString("m16"));
-
-        // Nothing of a board is written when one of its files does not fit.
-        board.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 6, "eeprom": 4})");
-        board.folder.write("C:/a.bin", "12345");
-        board.settings = {};
-        board.settings.flashCheck = board.settings.eepromCheck = true;
-        board.settings.cmdFlashWrite = QStringList {"-U", "flash:w:C:/a.bin:r"};
-        board.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:C:/a.bin:r"};
-        QCOMPARE(board.click(board.write), QString("EEPROM: The file has 5 bytes, the memory only 4."));
-        board.folder.write("C:/a.bin", "1234567");
-        QCOMPARE(board.click(board.write), QString("FLASH: The file has 7 bytes, the memory only 6."));
     }
 };
 
