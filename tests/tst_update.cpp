@@ -21,7 +21,7 @@ private slots:
             QDesktopServices::setUrlHandler(scheme, this, "open");
     }
 
-    void addresses()
+    void aboutTabAndAddresses()
     {
         m_opened.clear();
         SocialLinksWidget corner;
