@@ -48,6 +48,7 @@ private slots:
         }
         QCOMPARE(texts.remove('"'),
                  QStringLiteral("whole {A && B:Ä,Empty:Empty,Open:Open,Twice:zwei}failed {A && B:Ä}failed "));
+        QCOMPARE(QProcess::execute(CONVERTER, {"missing.ts", "missing"}), 1); // a build has to stop there
     }
 
 private:
