@@ -13,9 +13,6 @@
 
 const QString file = QStringLiteral("save.json");
 
-/// Every key holds something else than any default or fallback, but for the flags, which are all false.
-const QByteArray full = WorkFolder::read(TEST_FOLDER "/data/settings.json");
-
 class tst_App : public QObject
 {
     Q_OBJECT
@@ -25,8 +22,8 @@ private slots:
     {
         const WorkFolder folder;
         SettingsRecord record;
-        for (auto flag = full.indexOf("false"); flag > 0; flag = full.indexOf("false", flag + 1)) {
-            const QByteArray expected = QByteArray(full).replace(flag, 5, "true");
+        for (auto flag = m_full.indexOf("false"); flag > 0; flag = m_full.indexOf("false", flag + 1)) {
+            const QByteArray expected = QByteArray(m_full).replace(flag, 5, "true");
             // The extra names come in under another key than they go out by.
             folder.write(file, QByteArray(expected).replace("configurationList", "profilesList"));
             QVERIFY(record.loadFromFile(file) && record.saveToFile(file));
@@ -49,7 +46,7 @@ private slots:
     void settingsFallbacks()
     {
         const WorkFolder folder;
-        folder.write("full.json", full);
+        folder.write("full.json", m_full);
         SettingsRecord record;
         record.mcuName = record.language = QString();
         QVERIFY(record.saveToFile("fallbacks.json") && folder.read("fallbacks.json").contains("\"speed\": \"-B 4\""));
@@ -68,7 +65,7 @@ private slots:
         BoxAnswerer boxes;
         QStringList told {Startup::language()};
         QString log;
-        for (const QByteArray& content : {full.chopped(2), QByteArray("[1]"), QByteArray("{\"language\": 5}"), full}) {
+        for (const QByteArray& content : QByteArrayList {m_full.chopped(4), "[1]", "{\"language\": 5}", m_full}) {
             folder.write(file, content);
             told += Startup::language();
             KorvelApp window;
@@ -80,7 +77,7 @@ private slots:
         const QString failed = "Korvel: Failed to load settings from file: save.json";
         QCOMPARE(told, QStringList({"English", "English", failed, "English", failed, "", "Русский"}));
         // What could not be read is kept, each under a name of its own.
-        QCOMPARE(folder.read("save.damaged-1.json") + folder.read("save.damaged-2.json"), full.chopped(2) + "[1]");
+        QCOMPARE(folder.read("save.damaged-1.json") + folder.read("save.damaged-2.json"), m_full.chopped(4) + "[1]");
         const QString empty = "Nothing found in the folder mcu.\nNothing found in the folder programmer.\n";
         const QString kept = failed.mid(8) + " (%2)\nThe file is kept as save.damaged-%1.json.\n";
         QCOMPARE(log,
@@ -88,7 +85,7 @@ private slots:
                      + empty);
         // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
         for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
-            QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(full)[key]);
+            QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(m_full)[key]);
 #ifdef Q_OS_LINUX
         QVERIFY(QFile::remove(file) && ::mkfifo("save.json", 0600) == 0); // nobody ever writes into it
         KorvelApp();
@@ -103,7 +100,7 @@ private slots:
         folder.write("programmer/USBasp.json", R"({"id": "usbasp", "arguments": "-F", "port": "usb"})"); // edited
         folder.write("programmer/Mine.json", R"({"id": "avrisp", "port": "com"})");
         QStringList seen;
-        for (const QByteArray& settings : {QByteArray(), QByteArray("{}"), full}) {
+        for (const QByteArray& settings : {QByteArray(), QByteArray("{}"), m_full}) {
             if (!settings.isEmpty())
                 folder.write(file, settings);
             const KorvelApp window;
@@ -123,7 +120,7 @@ private slots:
         folder.write("programmer/Mine.json", R"({"id": "avrisp", "port": "usb"})");
         for (const QString list : {"mcu/ATtiny85.json", "Languages/Русский.json"})
             folder.write(list, "{}");
-        const QByteArray board = QByteArray(full).replace("/dev/none", "usb");
+        const QByteArray board = QByteArray(m_full).replace("/dev/none", "usb");
         folder.write("profiles/Board.json", board);
         folder.write("profiles/Other.json", QByteArray(board).replace("\"L\"", "\"Other\""));
         const KorvelApp window;
@@ -170,6 +167,10 @@ private slots:
         }
         QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to save settings to file: save.json"});
     }
+
+private:
+    /// Every key holds something else than any default or fallback, but for profiles' flags, which are all false.
+    const QByteArray m_full = WorkFolder::read(TEST_FOLDER "/data/settings.json");
 };
 
 QTEST_MAIN(tst_App)

@@ -1,4 +1,5 @@
 #include "support/Bench.h"
+#include "support/Table.h"
 
 /// The boxes that tell of a failure, by the letters of the tests' tables.
 const QHash<QChar, QString> failures {
@@ -25,7 +26,7 @@ private slots:
         Bench bench;
         bench.avrdude.settings().arguments = "  -v   -F ";
         // Never called back: the log is searched whole, with the command line that it begins with, and the file's name
-        // there is "error:".
+        // there holds "error:".
         for (const auto& [speed, option] : {std::pair("375 kHz (-B 2)", "-B 2"), {"-B 0.5", "-B 0.5"}, {"", ""}}) {
             bench.avrdude.settings().speed = speed;
             QCOMPARE(bench.run("", {"-U", "flash:w:my error:.hex:i", ""}), 0);
@@ -80,7 +81,7 @@ private slots:
             QVERIFY2(bench.run("err " + said + "\nwait 60000") == 0, said);
             QCOMPARE(bench.boxes.wait(), QStringList {"AVRDUDE: Programmer not found."});
         }
-        // Without the phrases in these very letters, or on the other channel, it is a success.
+        // In other letter case, or on standard output, the phrases mean nothing.
         QCOMPARE(bench.run("out stk500_getsync() attempt\nerr Not In Sync, Verification Error, Error: x"), 1);
     }
 

@@ -32,7 +32,8 @@ struct Desk {
         programmer.kill();
         programmer.waitForFinished();
         const QString samePort = port.isEmpty() ? "0" : port.mid(1);
-        programmer.start(VIRTUAL_PROGRAMMER, ("--state=chip --port=" + samePort + ' ' + options).trimmed().split(' '));
+        programmer.start(VIRTUAL_PROGRAMMER,
+                         QStringList {"--state=chip", "--port=" + samePort} + options.split(' ', Qt::SkipEmptyParts));
         programmer.waitForReadyRead();
     }
 

@@ -5,6 +5,7 @@
 #include "mcu/BytesModel.h"
 #include "support/Bench.h"
 #include "support/ShownFuses.h"
+#include "support/Table.h"
 
 namespace {
 
@@ -163,12 +164,14 @@ private slots:
     {
         Tab tab;
         tab.folder.write("lfuse.hex", "\xFF"); // yesterday's
-        tab.folder.write("script", "make lock.hex 0D\nwait 100");
-        QTimer::singleShot(50, tab.buttons->readButton(), &QPushButton::click); // deletes nothing that was read
-        QCOMPARE(tab.click(tab.buttons->readButton()),
-                 QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"
-                         "|-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
-        QCOMPARE(shownFuses(tab.tab), QString("6205")); // of 0D, with the bit that is locked
+        tab.folder.write("script", "make lock.hex 0D\nawait go");
+        tab.buttons->readButton()->click();
+        QTRY_VERIFY(QFile::exists("lock.hex"));
+        tab.folder.write("go", "");
+        QCOMPARE(tab.click(tab.buttons->readButton()), // again, and nothing that was read is lost
+                 QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"));
+        QCOMPARE(tab.requests().join('|'), QString("-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
+        QCOMPARE(shownFuses(tab.tab), QString("6205")); // 0D without bit 3, which is locked
         tab.click(tab.buttons->defaultButton());
         QCOMPARE(shownFuses(tab.tab), QString("62E7"));
 
@@ -180,7 +183,7 @@ private slots:
         SettingsRecord profile = tab.avrdude.settings();
         profile.fusesBytes = {makeByte("fuse", 0x62)};
         QVERIFY(profile.saveToFile("profile"));
-        tab.folder.write("script", "make lfuse.hex C0\nmake fuse.hex C0\nwait 100");
+        tab.folder.write("script", "make lfuse.hex 11\nmake fuse.hex C0\nwait 100");
         tab.buttons->readButton()->click();
         QVERIFY(tab.avrdude.settings().loadFromFile("profile"));
         QTRY_VERIFY(tab.isIdle());

@@ -92,12 +92,11 @@ private slots:
     void readingTheCalibrationByte()
     {
         Tab tab;
+        const QString told = "Calibration Byte: Calibration byte read successfully."; // whatever came
         for (const auto& [script, shown] : {std::pair("make calibration.hex 0D0A9F", "0D 0A 9F"), {"", ""}}) {
             tab.folder.write("calibration.hex", "another chip's");
             tab.folder.write("script", script);
-            QCOMPARE(
-                tab.click(tab.view->readButton()), // says so whatever came
-                QString("Calibration Byte: Calibration byte read successfully.|-U calibration:r:calibration.hex:r"));
+            QCOMPARE(tab.click(tab.view->readButton()), told + "|-U calibration:r:calibration.hex:r");
             QCOMPARE(tab.view->calibrationByte()->text(), QString(shown));
         }
         // A part is picked while the reading runs: what comes is not its byte.

@@ -3,6 +3,7 @@
 #include "memory/Flash.h"
 #include "memory/FlashView.h"
 #include "support/Bench.h"
+#include "support/Table.h"
 
 namespace {
 

@@ -108,7 +108,7 @@ private slots:
         }
     }
 
-    void writingPressedInARun()
+    void writePressedDuringARun()
     {
         // While something else runs, nothing starts. Pressed again in the middle, the new first step is dropped and the
         // old run's end goes on with the new ones, all of them with what was set at first.

@@ -3,6 +3,7 @@
 #include "settings/SettingsPresenter.h"
 #include "settings/SettingsView.h"
 #include "support/Bench.h"
+#include "support/Table.h"
 
 namespace {
 
@@ -99,7 +100,7 @@ private slots:
             panel.view.speed()->setCurrentIndex(i);
             const double option = 0.5 * (1 << i);
             const QStringList words = panel.settings.speed.split(' '); // of "375 kHz (-B 2)"
-            // The divisor times the clock, in kHz, is about 750 for each.
+            // Its period in microseconds times its frequency in kHz is 512 to 750 for all of them.
             const double product = option * words[0].toDouble() * (words[1] == "MHz" ? 1000 : 1);
             QCOMPARE(words.mid(2), QStringList({"(-B", QString::number(option) + ')'}));
             QVERIFY2(product > 500 && product < 760, qPrintable(words.join(' '))); // a neighbour's: half or twice that

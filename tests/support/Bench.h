@@ -3,7 +3,6 @@
 #include "app/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "support/BoxAnswerer.h"
-#include "support/Table.h"
 #include "support/WorkFolder.h"
 
 /// A runner in a fresh working folder, with the stand-in for avrdude.
