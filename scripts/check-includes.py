@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Checks what the files in src include against docs/parts.svg.
 
-The picture's boxes name the folders and files that make up each part, its arrows which part may include which. The
-ground, base, may be included by all and includes nothing of ours. Views include other views, fields and the ground alone.
-Prints what is wrong; the status is 1 if anything is.
+Each box of the picture is a folder of src, by its path, and its arrows say which folder may include from which. Arrows
+only lead down, so there is no circle. The ground, base, may be included by all and includes nothing of ours. Views
+include other views, fields and the ground alone. Prints what is wrong; the status is 1 if anything is. The picture is
+drawn from docs/parts.dot, which says how.
 """
 
 import pathlib
@@ -12,29 +13,31 @@ import sys
 import xml.etree.ElementTree as ElementTree
 
 GROUND = "base"
+SVG = "{http://www.w3.org/2000/svg}"
 
 
 def main():
-    picture = ElementTree.parse("docs/parts.svg").getroot()
-    parts = {}  # folder or file without suffix: part
+    heights = {}  # of the boxes, by folder
     arrows = set()
-    for element in picture.iter():
-        for file in element.get("data-files", "").split():
-            parts[file] = element.get("id")
-        if element.get("data-from"):
-            arrows.add((element.get("data-from"), element.get("data-to")))
+    for element in ElementTree.parse("docs/parts.svg").getroot().iter(SVG + "g"):
+        title = element.findtext(SVG + "title")
+        if element.get("class") == "node":
+            heights[title] = float(re.search(r"M[-\d.]+,([-\d.]+)", element.find(SVG + "path").get("d"))[1])
+        elif element.get("class") == "edge":
+            arrows.add(tuple(title.split("->")))
 
-    def part_of(file):
-        return parts.get(file.rpartition(".")[0]) or parts.get(file.partition("/")[0])
-
-    wrong = []
+    wrong = [f"docs/parts.svg: the arrow from {here} to {there} leads up"
+             for here, there in sorted(arrows) if heights[here] >= heights[there]]
+    folders = set()
     used = set()
-    for path in sorted(pathlib.Path("src").glob("*/*")):
-        file = str(path.relative_to("src"))
-        if not part_of(file):
-            wrong.append(f"{file}: is in no box")
+    for path in sorted(pathlib.Path("src").glob("**/*")):
+        if path.suffix not in (".h", ".cpp"):
+            continue
+        file = path.relative_to("src").as_posix()
+        folder = file.rpartition("/")[0]
+        folders.add(folder)
         for included in re.findall(r'^#include "(.+?)"', path.read_text(encoding="utf-8"), re.MULTILINE):
-            arrow = (part_of(file), part_of(included))
+            arrow = (folder, included.rpartition("/")[0])
             if arrow[0] == arrow[1] or arrow[1] == GROUND:
                 pass
             elif arrow in arrows:
@@ -43,9 +46,11 @@ def main():
                 wrong.append(f"{file}: no arrow leads to {included}")
             if path.stem.endswith("View") and not re.match(rf"{GROUND}/|.+(View|Field)\.h$", included):
                 wrong.append(f"{file}: a view includes {included}")
+    wrong += [f"src/{folder}: is a folder or a box in docs/parts.svg, but not both"
+              for folder in sorted(folders ^ set(heights))]
     wrong += [f"docs/parts.svg: nothing includes along the arrow from {arrow[0]} to {arrow[1]}"
               for arrow in sorted(arrows - used)]
-    print("\n".join(wrong) if wrong else f"includes: {len(used)} arrows, all drawn")
+    print("\n".join(wrong) if wrong else f"includes: {len(folders)} folders, {len(used)} arrows, all drawn")
     return bool(wrong)
 
 

@@ -2,7 +2,7 @@
 #include "fuses/FuseRequests.h"
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 #include "support/Bench.h"
 #include "support/ShownFuses.h"
 #include "support/Table.h"

@@ -1,6 +1,6 @@
 #include "fuses/Fuses.h"
 #include "mcu/AttributesView.h"
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 #include "mcu/Program.h"
 #include "support/Bench.h"
 #include "support/ShownFuses.h"

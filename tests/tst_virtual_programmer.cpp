@@ -1,7 +1,7 @@
 #include "Chip.h"
 #include "VirtualProgrammer.h"
 #include "avrdude/Avrdude.h"
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 #include "support/Table.h"
 #include "support/WorkFolder.h"
 

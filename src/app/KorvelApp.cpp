@@ -2,7 +2,7 @@
 
 #include "about/AboutView.h"
 #include "about/SocialLinksWidget.h"
-#include "app/AvrdudeMessage.h"
+#include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"

@@ -1,6 +1,6 @@
 #include "avrdude/Avrdude.h"
 
-#include "app/AvrdudeMessage.h"
+#include "app/log/AvrdudeMessage.h"
 #include "base/ProductInfo.h"
 
 #include <QApplication>

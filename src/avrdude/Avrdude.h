@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/SettingsRecord.h"
+#include "app/record/SettingsRecord.h"
 #include "avrdude/Message.h"
 #include "base/Toolkit.h"
 

@@ -1,7 +1,7 @@
 #include "fuses/FuseMeanings.h"
 
 #include "base/JsonFile.h"
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/FuseByte.h"
+#include "app/record/FuseByte.h"
 
 #include <QStringList>
 

@@ -7,7 +7,7 @@
 #include "fuses/FusesBytes.h"
 #include "fuses/FusesBytesView.h"
 #include "fuses/FusesTextView.h"
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 
 #include <QMessageBox>
 #include <QPushButton>

@@ -3,8 +3,8 @@
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
 #include "mcu/AttributesView.h"
-#include "mcu/BytesModel.h"
-#include "mcu/SignatureIndex.h"
+#include "mcu/description/BytesModel.h"
+#include "mcu/description/SignatureIndex.h"
 
 #include <QComboBox>
 #include <QLineEdit>

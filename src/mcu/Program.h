@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mcu/SignatureIndex.h"
+#include "mcu/description/SignatureIndex.h"
 
 #include <QWidget>
 

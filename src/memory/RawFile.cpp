@@ -1,7 +1,7 @@
 #include "memory/RawFile.h"
 
-#include "app/SettingsRecord.h"
-#include "mcu/BytesModel.h"
+#include "app/record/SettingsRecord.h"
+#include "mcu/description/BytesModel.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 // Harnesses for what reads more than plain texts out of what comes from outside: READER names the function that gets
 // the input.
 
-#include "app/AvrdudeMessage.h"
-#include "app/SettingsRecord.h"
+#include "app/log/AvrdudeMessage.h"
+#include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "avrdude/ReadFile.h"
 #include "base/JsonFile.h"
@@ -10,8 +10,8 @@
 #include "fuses/FusesByteModel.h"
 #include "i18n/LanguageFiles.h"
 #include "i18n/TsConverter.h"
-#include "mcu/BytesModel.h"
-#include "mcu/SignatureIndex.h"
+#include "mcu/description/BytesModel.h"
+#include "mcu/description/SignatureIndex.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 #include "update/UpdateChecker.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AvrdudeMessage.h"
+#include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"

@@ -1,7 +1,7 @@
-#include "mcu/SignatureIndex.h"
+#include "mcu/description/SignatureIndex.h"
 
 #include "base/JsonFile.h"
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 
 #include <QJsonObject>
 

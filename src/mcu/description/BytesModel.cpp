@@ -1,4 +1,4 @@
-#include "mcu/BytesModel.h"
+#include "mcu/description/BytesModel.h"
 
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"

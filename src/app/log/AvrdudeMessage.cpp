@@ -1,4 +1,4 @@
-#include "app/AvrdudeMessage.h"
+#include "app/log/AvrdudeMessage.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

@@ -1,4 +1,4 @@
-#include "app/SettingsRecord.h"
+#include "app/record/SettingsRecord.h"
 
 #include "base/JsonFile.h"
 
