@@ -4,150 +4,193 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QMap>
 #include <QVariant>
 
 namespace {
 
-QJsonArray toJson(const QStringList& list)
+// The keys of the settings file, once for the reader and the writer: "visit" is either, and is told of every member the
+// object that its key stands in (none: the file's own), the key, the member, and what a missing text becomes.
+
+template <class Bit, class Visitor> void visitBit(Bit& bit, Visitor& visit)
 {
-    return QJsonArray::fromStringList(list);
+    visit("", "bitNumber", bit.bitNumber);
+    visit("", "enabled", bit.enabled);
+    visit("", "name", bit.name, FuseBit().name);
+    visit("", "defaultBitValue", bit.defaultBitValue);
+    visit("", "currentBitValue", bit.currentBitValue);
 }
 
-QJsonObject toJson(const FuseBit& bit)
+template <class Byte, class Visitor> void visitByte(Byte& byte, Visitor& visit)
 {
-    return {
-        {QStringLiteral("bitNumber"), bit.bitNumber},
-        {QStringLiteral("enabled"), bit.enabled},
-        {QStringLiteral("name"), bit.name},
-        {QStringLiteral("defaultBitValue"), static_cast<int>(bit.defaultBitValue)},
-        {QStringLiteral("currentBitValue"), static_cast<int>(bit.currentBitValue)},
-    };
+    visit("", "name", byte.name);
+    visit("", "id", byte.id);
+    visit("", "defaultValue", byte.defaultValue);
+    visit("", "currentValue", byte.currentValue);
+    visit("", "fuseBits", byte.fuseBits);
 }
 
-QJsonObject toJson(const FuseByte& byte)
+template <class Record, class Visitor> void visitRecord(Record& record, Visitor& visit)
 {
-    QJsonArray bits;
-    for (const FuseBit& bit : byte.fuseBits)
-        bits.append(toJson(bit));
-    return {
-        {QStringLiteral("name"), byte.name},
-        {QStringLiteral("id"), byte.id},
-        {QStringLiteral("defaultValue"), static_cast<int>(byte.defaultValue)},
-        {QStringLiteral("currentValue"), static_cast<int>(byte.currentValue)},
-        {QStringLiteral("fuseBits"), bits},
-    };
+    const SettingsRecord defaults;
+    visit("", "avrdude", record.avrdude, defaults.avrdude);
+    visit("", "mcuName", record.mcuName);
+    visit("", "mcuId", record.mcuId, defaults.mcuId);
+    visit("", "signature", record.signature);
+    visit("", "callByte", record.callByte);
+    visit("", "language", record.language);
+    visit("", "arguments", record.arguments);
+    visit("", "fileNamesReading", record.fileNamesReading);
+    visit("", "fusesBytes", record.fusesBytes);
+
+    visit("files", "flashWrite", record.flashWrite);
+    visit("files", "flashRead", record.flashRead);
+    visit("files", "eepromWrite", record.eepromWrite);
+    visit("files", "eepromRead", record.eepromRead);
+    visit("files", "cmdFlashWrite", record.cmdFlashWrite);
+    visit("files", "cmdEepromWrite", record.cmdEepromWrite);
+    visit("files", "cmdFuses", record.cmdFuses);
+
+    visit("programmer", "name", record.programmer.name, defaults.programmer.name);
+    visit("programmer", "id", record.programmer.id, defaults.programmer.id);
+    visit("programmer", "port", record.port, defaults.port);
+    visit("programmer", "speed", record.speed, defaults.speed);
+
+    visit("profiles", "flashCheck", record.flashCheck);
+    visit("profiles", "eepromCheck", record.eepromCheck);
+    visit("profiles", "fusesCheck", record.fusesCheck);
+    visit("profiles", "flashEnable", record.flashEnable);
+    visit("profiles", "eepromEnable", record.eepromEnable);
+    visit("profiles", "fusesEnable", record.fusesEnable);
+    visit("profiles", "name", record.profile.name);
+    visit("profiles", "description", record.description);
+    visit("profiles", Visitor::profileListKey, record.configurationList);
+    visit("profiles", "currentlyProfilesList", record.currentlyProfilesList);
 }
 
-QJsonArray toJson(const FuseBytes& bytes)
+class Writer
 {
-    QJsonArray array;
-    for (const FuseByte& byte : bytes)
-        array.append(toJson(byte));
-    return array;
-}
+public:
+    // Deliberate: written under this key and read under another, so that only a file that somebody prepared by hand
+    // brings extra names, and saving does not make them stay.
+    static constexpr char profileListKey[] = "configurationList";
 
-/// Reads an object's members with the fallbacks of the settings file.
+    template <class Value> void operator()(const char* group, const char* key, const Value& value, const QString& = {})
+    {
+        m_groups[QLatin1String(group)].insert(QLatin1String(key), json(value));
+    }
+
+    [[nodiscard]] QJsonObject object() const
+    {
+        QJsonObject object = m_groups.value({});
+        for (auto group = m_groups.begin(); group != m_groups.end(); ++group) {
+            if (!group.key().isEmpty())
+                object.insert(group.key(), group.value());
+        }
+        return object;
+    }
+
+private:
+    static QJsonValue json(const QString& text) { return text; }
+    static QJsonValue json(bool flag) { return flag; }
+    static QJsonValue json(int number) { return number; }
+    static QJsonValue json(quint32 number) { return static_cast<int>(number); }
+    static QJsonValue json(const QStringList& list) { return QJsonArray::fromStringList(list); }
+
+    static QJsonValue json(const FuseBit& bit)
+    {
+        Writer writer;
+        visitBit(bit, writer);
+        return writer.object();
+    }
+
+    static QJsonValue json(const FuseByte& byte)
+    {
+        Writer writer;
+        visitByte(byte, writer);
+        return writer.object();
+    }
+
+    template <class List> static QJsonValue json(const List& list)
+    {
+        QJsonArray array;
+        for (const auto& element : list)
+            array.append(json(element));
+        return array;
+    }
+
+    QMap<QString, QJsonObject> m_groups; ///< by name; the file's own has none
+};
+
 class Reader
 {
 public:
+    static constexpr char profileListKey[] = "profilesList";
+
     explicit Reader(const QJsonValue& value)
         : m_object(value.toObject())
     {
     }
 
-    [[nodiscard]] QJsonValue value(const char* key) const { return m_object.value(QLatin1String(key)); }
-    [[nodiscard]] bool flag(const char* key) const { return value(key).toBool(); }
-    [[nodiscard]] int number(const char* key) const { return value(key).toInt(); }
-    [[nodiscard]] quint32 byteValue(const char* key) const { return static_cast<quint32>(number(key)); }
-    [[nodiscard]] QJsonArray array(const char* key) const { return value(key).toArray(); }
-
-    [[nodiscard]] QString text(const char* key, const QString& fallback = {}) const
+    template <class Value>
+    void operator()(const char* group, const char* key, Value& value, const QString& fallback = {}) const
     {
-        return value(key).toString(fallback);
-    }
-
-    [[nodiscard]] QStringList list(const char* key) const
-    {
-        return QVariant(array(key).toVariantList()).toStringList();
+        const QJsonObject& object = *group == '\0' ? m_object : m_object.value(QLatin1String(group)).toObject();
+        read(object.value(QLatin1String(key)), value, fallback);
     }
 
 private:
+    static void read(const QJsonValue& json, QString& text, const QString& fallback) { text = json.toString(fallback); }
+    static void read(const QJsonValue& json, bool& flag, const QString&) { flag = json.toBool(); }
+    static void read(const QJsonValue& json, int& number, const QString&) { number = json.toInt(); }
+
+    static void read(const QJsonValue& json, quint32& number, const QString&)
+    {
+        number = static_cast<quint32>(json.toInt());
+    }
+
+    static void read(const QJsonValue& json, QStringList& list, const QString&)
+    {
+        list = QVariant(json.toArray().toVariantList()).toStringList();
+    }
+
+    static void read(const QJsonValue& json, std::array<FuseBit, 8>& bits, const QString&)
+    {
+        const QJsonArray array = json.toArray();
+        int number = 0;
+        for (FuseBit& bit : bits) {
+            Reader reader(array.at(number++)); // past the end there is nothing, which reads as a fresh bit
+            visitBit(bit, reader);
+            bit.defaultBitValue = bit.defaultBitValue == 0 ? 0 : 1;
+            bit.currentBitValue = bit.currentBitValue == 0 ? 0 : 1;
+        }
+    }
+
+    static void read(const QJsonValue& json, FuseBytes& bytes, const QString&)
+    {
+        constexpr quint32 highest = 0xFF;
+        bytes.clear();
+        const QJsonArray array = json.toArray();
+        for (const QJsonValue& element : array) {
+            FuseByte byte;
+            Reader reader(element);
+            visitByte(byte, reader);
+            byte.defaultValue &= highest;
+            byte.currentValue &= highest;
+            bytes.append(byte);
+        }
+    }
+
     const QJsonObject m_object;
 };
-
-FuseBit readFuseBit(const Reader& in)
-{
-    FuseBit bit;
-    bit.bitNumber = in.number("bitNumber");
-    bit.enabled = in.flag("enabled");
-    bit.name = in.text("name", bit.name);
-    bit.defaultBitValue = in.byteValue("defaultBitValue");
-    bit.currentBitValue = in.byteValue("currentBitValue");
-    return bit;
-}
-
-FuseByte readFuseByte(const Reader& in)
-{
-    FuseByte byte;
-    byte.name = in.text("name");
-    byte.id = in.text("id");
-    byte.defaultValue = in.byteValue("defaultValue");
-    byte.currentValue = in.byteValue("currentValue");
-    const QJsonArray bits = in.array("fuseBits");
-    int number = 0;
-    for (FuseBit& bit : byte.fuseBits)
-        bit = readFuseBit(Reader(bits.at(number++))); // past the end there is nothing, which reads as a fresh bit
-    return byte;
-}
 
 } // namespace
 
 bool SettingsRecord::saveToFile(const QString& path) const
 {
-    const QJsonObject files {
-        {QStringLiteral("flashWrite"), flashWrite},
-        {QStringLiteral("flashRead"), flashRead},
-        {QStringLiteral("eepromWrite"), eepromWrite},
-        {QStringLiteral("eepromRead"), eepromRead},
-        {QStringLiteral("cmdFlashWrite"), toJson(cmdFlashWrite)},
-        {QStringLiteral("cmdEepromWrite"), toJson(cmdEepromWrite)},
-        {QStringLiteral("cmdFuses"), toJson(cmdFuses)},
-    };
-    const QJsonObject programmerObject {
-        {QStringLiteral("name"), programmer.name},
-        {QStringLiteral("id"), programmer.id},
-        {QStringLiteral("port"), port},
-        {QStringLiteral("speed"), speed},
-    };
-    const QJsonObject profiles {
-        {QStringLiteral("flashCheck"), flashCheck},
-        {QStringLiteral("eepromCheck"), eepromCheck},
-        {QStringLiteral("fusesCheck"), fusesCheck},
-        {QStringLiteral("flashEnable"), flashEnable},
-        {QStringLiteral("eepromEnable"), eepromEnable},
-        {QStringLiteral("fusesEnable"), fusesEnable},
-        {QStringLiteral("name"), profile.name},
-        {QStringLiteral("description"), description},
-        // Deliberate: written under this key and read from "profilesList", so that only a file that somebody prepared
-        // by hand brings extra names, and saving does not make them stay.
-        {QStringLiteral("configurationList"), toJson(configurationList)},
-        {QStringLiteral("currentlyProfilesList"), currentlyProfilesList},
-    };
-    const QJsonObject root {
-        {QStringLiteral("avrdude"), avrdude},
-        {QStringLiteral("mcuName"), mcuName},
-        {QStringLiteral("mcuId"), mcuId},
-        {QStringLiteral("signature"), signature},
-        {QStringLiteral("callByte"), callByte},
-        {QStringLiteral("language"), language},
-        {QStringLiteral("files"), files},
-        {QStringLiteral("programmer"), programmerObject},
-        {QStringLiteral("fusesBytes"), toJson(fusesBytes)},
-        {QStringLiteral("arguments"), arguments},
-        {QStringLiteral("fileNamesReading"), toJson(fileNamesReading)},
-        {QStringLiteral("profiles"), profiles},
-    };
-    return writeFile(path, QJsonDocument(root).toJson(QJsonDocument::Indented));
+    Writer writer;
+    visitRecord(*this, writer);
+    return writeFile(path, QJsonDocument(writer.object()).toJson(QJsonDocument::Indented));
 }
 
 bool SettingsRecord::loadFromFile(const QString& path)
@@ -155,49 +198,8 @@ bool SettingsRecord::loadFromFile(const QString& path)
     const JsonFile file = JsonFile::read(path);
     if (!file.isObject())
         return false;
-
     ++generation;
-    const SettingsRecord defaults;
-    const Reader root(file.document.object());
-    avrdude = root.text("avrdude", defaults.avrdude);
-    mcuName = root.text("mcuName");
-    mcuId = root.text("mcuId", defaults.mcuId);
-    signature = root.text("signature");
-    callByte = root.text("callByte");
-    language = root.text("language");
-    arguments = root.text("arguments");
-    fileNamesReading = root.list("fileNamesReading");
-
-    const Reader files(root.value("files"));
-    flashWrite = files.text("flashWrite");
-    flashRead = files.text("flashRead");
-    eepromWrite = files.text("eepromWrite");
-    eepromRead = files.text("eepromRead");
-    cmdFlashWrite = files.list("cmdFlashWrite");
-    cmdEepromWrite = files.list("cmdEepromWrite");
-    cmdFuses = files.list("cmdFuses");
-
-    const Reader programmerObject(root.value("programmer"));
-    programmer.name = programmerObject.text("name", defaults.programmer.name);
-    programmer.id = programmerObject.text("id", defaults.programmer.id);
-    port = programmerObject.text("port", defaults.port);
-    speed = programmerObject.text("speed", defaults.speed);
-
-    fusesBytes.clear();
-    const QJsonArray bytes = root.array("fusesBytes");
-    for (const QJsonValue& byte : bytes)
-        fusesBytes.append(readFuseByte(Reader(byte)));
-
-    const Reader profiles(root.value("profiles"));
-    flashCheck = profiles.flag("flashCheck");
-    eepromCheck = profiles.flag("eepromCheck");
-    fusesCheck = profiles.flag("fusesCheck");
-    flashEnable = profiles.flag("flashEnable");
-    eepromEnable = profiles.flag("eepromEnable");
-    fusesEnable = profiles.flag("fusesEnable");
-    profile.name = profiles.text("name");
-    description = profiles.text("description");
-    configurationList = profiles.list("profilesList");
-    currentlyProfilesList = profiles.text("currentlyProfilesList");
+    Reader reader(file.document.object());
+    visitRecord(*this, reader);
     return true;
 }
