@@ -2,7 +2,8 @@
 
 #include <QWidget>
 
-/// The buttons in the corner of the tab bar that open the project's pages in the system's browser.
+/// The buttons in the corner of the tab bar that open the project's pages in the system's browser. Belongs to the main
+/// window.
 class SocialLinksWidget : public QWidget
 {
     Q_OBJECT

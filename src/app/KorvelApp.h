@@ -12,7 +12,8 @@ class QTabWidget;
 class Settings;
 
 /// The one top-level window: the tabs, the connection settings and the log under them, and the runner that all of
-/// them share. Reads the settings file when it is built and writes it when it is closed.
+/// them share. Reads the settings file when it is built and writes it when it is closed. Lives in main() for as long as
+/// the program runs, shown or not.
 class KorvelApp : public QMainWindow
 {
     Q_OBJECT

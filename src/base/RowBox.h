@@ -6,7 +6,8 @@
 
 class QHBoxLayout;
 
-/// A titled box with widgets in one row.
+/// A box around widgets in one row, which are read out to who cannot see them by its title. Owned, with them, by the
+/// view that it stands in.
 class RowBox : public QGroupBox
 {
 public:

@@ -7,7 +7,8 @@ class BytesModel;
 class FusesBytes;
 class QScrollArea;
 
-/// The Fuses tab: an editor for each fuse byte of the microcontroller, and what is done with all of them.
+/// The Fuses tab: an editor for each fuse byte of the microcontroller, and what is done with all of them. Made by the
+/// main window, which owns it; picking a microcontroller in the Programming tab fills it anew.
 class Fuses : public QWidget
 {
     Q_OBJECT

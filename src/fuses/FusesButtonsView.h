@@ -4,7 +4,7 @@
 
 class QPushButton;
 
-/// The row of buttons under the fuse bytes.
+/// The row of buttons for all fuse bytes at once, below them. Owned by the Fuses tab.
 class FusesButtonsView : public QWidget
 {
     Q_OBJECT

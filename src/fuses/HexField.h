@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 /// The field of a byte in two hexadecimal digits. Digits come in as keys alone: whatever else could bring text would
-/// stand in the field and not in the byte.
+/// stand in the field and not in the byte. Owned by the view of its byte.
 class HexField : public QLineEdit
 {
     Q_OBJECT

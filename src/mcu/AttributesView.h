@@ -8,7 +8,8 @@ class QComboBox;
 class QLineEdit;
 class QPushButton;
 
-/// The microcontroller panel: which one it is, what acts on the chip as a whole, and the calibration byte.
+/// The microcontroller panel: which one it is, what acts on the chip as a whole, and the calibration byte. Owned by the
+/// Programming tab.
 class AttributesView : public QWidget
 {
     Q_OBJECT

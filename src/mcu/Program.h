@@ -11,7 +11,8 @@ class Eeprom;
 class Flash;
 class Fuses;
 
-/// The Programming tab: the microcontroller panel and the panels of the two memories.
+/// The Programming tab: the microcontroller panel and the panels of the two memories, with their logic. Made by the
+/// main window, which owns it, as it does the Fuses tab and the runner; both outlive it.
 class Program : public QWidget
 {
     Q_OBJECT

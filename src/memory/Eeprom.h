@@ -4,7 +4,7 @@
 
 class EepromView;
 
-/// Writes, verifies and reads the EEPROM.
+/// Memory for the EEPROM: each operation with what is told when it is done. Owned by the Programming tab.
 class Eeprom : public Memory
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "memory/MemoryView.h"
 
-/// The EEPROM panel.
+/// MemoryView under the name of the EEPROM, which is all that tells the two panels apart. Owned by the Programming tab.
 class EepromView : public MemoryView
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 class FlashView;
 
-/// Writes, verifies and reads the FLASH.
+/// Memory for the flash: each operation with what is told when it is done. Owned by the Programming tab.
 class Flash : public Memory
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 
 #include "memory/MemoryView.h"
 
-/// The FLASH panel.
+/// MemoryView under the name of the flash, which is all that tells the two panels apart. Owned by the Programming tab.
 class FlashView : public MemoryView
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 class QLineEdit;
 class QPushButton;
 
-/// Name and description of a profile, and the buttons that add and remove one.
+/// Name and description of a profile, and the buttons that add and remove one. Owned by the Profiles tab.
 class ConfigurationView : public QWidget
 {
     Q_OBJECT

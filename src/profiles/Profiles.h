@@ -5,7 +5,8 @@
 class Avrdude;
 class ProfilesPresenter;
 
-/// The Profiles tab.
+/// The Profiles tab: three views, the presenter that works them, and the loading of the profile that is picked. Made by
+/// the main window, which owns it, as it does the runner.
 class Profiles : public QWidget
 {
     Q_OBJECT

@@ -8,7 +8,7 @@ class QCheckBox;
 class QComboBox;
 class QPushButton;
 
-/// The list of profiles and the button that writes the ticked areas.
+/// The list of profiles and the button that writes the ticked areas. Owned by the Profiles tab.
 class ProgrammingView : public QWidget
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 class QCheckBox;
 
-/// Which memory areas a profile writes.
+/// Which memory areas a profile writes, a check box each. Owned by the Profiles tab.
 class SelectView : public QWidget
 {
     Q_OBJECT

@@ -3,7 +3,8 @@
 #include <QString>
 #include <QVector>
 
-/// What the settings panel needs to know of a serial port.
+/// What the settings panel needs to know of a serial port, so that tests can offer ports that are not there. A plain
+/// value.
 struct SerialPort {
     QString name; ///< "ttyUSB0", "COM3"
     QString description; ///< may be empty

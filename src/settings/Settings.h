@@ -5,7 +5,8 @@
 class Avrdude;
 class SettingsPresenter;
 
-/// The settings panel as the main window places it: view, model and presenter together.
+/// The settings panel as the main window places it: view, model and presenter together. Made by the main window, which
+/// owns it, as it does the runner.
 class Settings : public QWidget
 {
     Q_OBJECT

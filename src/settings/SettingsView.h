@@ -4,7 +4,7 @@
 
 class QComboBox;
 
-/// The strip of four lists under the tabs.
+/// The strip of four lists under the tabs. Owned by the settings panel.
 class SettingsView : public QGroupBox
 {
     Q_OBJECT
