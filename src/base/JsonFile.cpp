@@ -1,5 +1,6 @@
 #include "base/JsonFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QJsonParseError>
@@ -34,6 +35,29 @@ JsonFile JsonFile::read(const QString& path)
     result.error = error.errorString();
     result.state = error.error == QJsonParseError::NoError ? State::Parsed : State::ParseError;
     return result;
+}
+
+const char* JsonFile::fault() const
+{
+    switch (state) {
+    case State::NotFound:
+        return QT_TRANSLATE_NOOP("JsonFile", "JSON FILE NOT FOUND");
+    case State::CannotOpen:
+        return QT_TRANSLATE_NOOP("JsonFile", "Cannot open file");
+    case State::ParseError:
+        return QT_TRANSLATE_NOOP("JsonFile", "JSON FILE ERROR");
+    case State::Parsed:
+        break;
+    }
+    return nullptr;
+}
+
+QString JsonFile::reason() const
+{
+    if (state == State::ParseError)
+        return error;
+    return QCoreApplication::translate(
+        "JsonFile", state == State::Parsed ? QT_TRANSLATE_NOOP("JsonFile", "no JSON object") : fault());
 }
 
 bool writeFile(const QString& path, const QByteArray& content)

@@ -19,6 +19,13 @@ struct JsonFile {
     /// True when the file held a JSON object; document.object() is that object.
     [[nodiscard]] bool isObject() const { return document.isObject(); }
 
+    /// What is wrong with the file, as boxes say it: the source text of a translation in the context "JsonFile". Null
+    /// when the file was parsed.
+    [[nodiscard]] const char* fault() const;
+
+    /// Why the file is no JSON object, in words for the log.
+    [[nodiscard]] QString reason() const;
+
     /// Reads the file at @p path whole. Failures are told by `state`; nothing is shown or logged. What is no regular
     /// file, nor a link to one, is not opened.
     [[nodiscard]] static JsonFile read(const QString& path);
