@@ -101,13 +101,11 @@ bool KorvelApp::loadSettings()
     const QString failed = tr("Failed to load settings from file: ");
     // Before the box, and before the closing writes these settings over those of the user.
     const JsonFile file = JsonFile::read(ProductInfo::settingsFile);
-    const QString fault = !file.wasRead()       ? tr("Cannot open file")
-        : file.state == JsonFile::State::Parsed ? tr("no JSON object")
-                                                : file.error;
+    const QString reason = QLatin1String(" (") + file.reason() + QLatin1Char(')');
     const QString kept = setAside(ProductInfo::settingsFile);
-    m_avrdude->appendToLog(failed + ProductInfo::settingsFile + QLatin1String(" (") + fault + QLatin1Char(')'));
+    m_log->appendLine(failed + ProductInfo::settingsFile + reason);
     if (!kept.isEmpty())
-        m_avrdude->appendToLog(tr("The file is kept as %1.").arg(fullPath(kept)));
+        m_log->appendLine(tr("The file is kept as %1.").arg(fullPath(kept)));
     warnAboutSettings(failed);
     return false;
 }

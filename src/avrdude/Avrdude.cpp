@@ -4,8 +4,10 @@
 #include "base/ProductInfo.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 namespace {
 
@@ -27,6 +29,19 @@ QStringList commonArguments(const SettingsRecord& settings)
     frame += settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     frame += bitClockOption(settings.speed); // one argument, blank included: avrdude takes it so
     return frame;
+}
+
+/// Whether a start of @p program would find it: a path where that leads, a bare name where the system looks for names.
+bool isFound(const QString& program)
+{
+    if (QDir::fromNativeSeparators(program).contains(QLatin1Char('/')))
+        return !QStandardPaths::findExecutable(program, {QDir::currentPath()}).isEmpty();
+#ifdef Q_OS_WIN
+    if (!QStandardPaths::findExecutable(program, {QCoreApplication::applicationDirPath(), QDir::currentPath()})
+             .isEmpty())
+        return true;
+#endif
+    return !QStandardPaths::findExecutable(program).isEmpty();
 }
 
 } // namespace
@@ -77,11 +92,16 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     emit runningChanged(true);
     m_log->clear();
     m_process->start(program, allArguments);
-    m_output = ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ')
-        + allArguments.join(QLatin1Char(' ')) + QLatin1Char('\n');
-    m_log->appendPlainText(m_output);
+    m_text = ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ') + allArguments.join(QLatin1Char(' '))
+        + QLatin1Char('\n');
+    m_outputBegin = static_cast<int>(m_text.size());
+    m_findings = {};
+    m_log->appendPlainText(m_text);
     if (!m_process->waitForStarted(startTimeout)) {
-        // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart.
+        // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart. One that starts
+        // after all would work on the chip of somebody who was told that it does not.
+        m_process->disconnect(this);
+        m_process->kill();
         m_log->appendPlainText(tr("avrdude not found") + m_process->errorString());
         emit runningChanged(false);
         return -1;
@@ -89,15 +109,21 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     return 0;
 }
 
-int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, Callback callback)
+int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, ReadingCallback callback)
 {
     if (isBusy())
         return 0; // the files may be those of the run in progress
-    for (const QString& file : files)
-        QFile::remove(file);
-    return execute(arguments, [this, generation = m_settings.generation, callback = std::move(callback)] {
+    const bool mayStart = isFound(m_settings.avrdude);
+    QStringList newFiles;
+    for (const QString& file : files) {
+        if (mayStart)
+            QFile::remove(file);
+        if (!QFile::exists(file))
+            newFiles += file;
+    }
+    return execute(arguments, [this, newFiles, generation = m_settings.generation, callback = std::move(callback)] {
         if (m_settings.generation == generation)
-            callback();
+            callback(newFiles);
     });
 }
 
@@ -110,8 +136,9 @@ int Avrdude::addEditText()
     const QString outputText = m_outputDecoder.decode(m_process->readAllStandardOutput());
     for (const QString& text : {errorText, outputText}) {
         m_log->insertAtCursor(text);
-        m_output += text;
+        m_text += text;
     }
+    m_messages.search(m_text, m_findings);
 
     if (!m_killedOnError && Message::showsSilentProgrammer(errorText)) {
         m_killedOnError = true;
@@ -120,22 +147,6 @@ int Avrdude::addEditText()
     }
     m_log->ensureCursorVisible();
     return 0;
-}
-
-QString Avrdude::logText() const
-{
-    return m_log->toPlainText();
-}
-
-void Avrdude::replaceLog(const QString& text)
-{
-    m_log->clear();
-    m_log->appendPlainText(text);
-}
-
-void Avrdude::appendToLog(const QString& line)
-{
-    m_log->appendPlainText(isBusy() ? line + QLatin1Char('\n') : line);
 }
 
 void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)
@@ -154,9 +165,9 @@ void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callbac
         return;
     // What counts is what avrdude said; its exit code only lends weight to some of its words. The log's own text has
     // line breaks that avrdude did not print, and what the user clicked into.
-    if (m_messages.checkOutput(m_output))
+    if (m_messages.checkOutput(m_text, m_findings))
         return;
-    if (exitCode != 0 && m_messages.checkFailedRun(m_output))
+    if (exitCode != 0 && m_messages.checkFailedRun(output()))
         return;
     callback();
 }

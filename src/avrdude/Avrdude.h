@@ -12,7 +12,7 @@
 class AvrdudeMessage;
 
 /// The program's only way of acting on a chip: runs avrdude, one run at a time, streams its output into the log and
-/// decides from that text, and hardly from the exit code, whether the run succeeded. Also carries the one settings
+/// decides from that text, and hardly from the exit code, whether the run succeeded. Also holds the one settings
 /// record, which all panels share. Owned by the main window. On closing the log goes first, while avrdude may still
 /// run.
 class Avrdude : public QObject
@@ -21,6 +21,7 @@ class Avrdude : public QObject
 
 public:
     using Callback = std::function<void()>;
+    using ReadingCallback = std::function<void(const QStringList& files)>;
 
     Avrdude(QObject* parent, AvrdudeMessage* log);
     ~Avrdude() override;
@@ -40,23 +41,22 @@ public:
     int execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback);
 
     /// execute() for a run that writes what it reads from the chip into @p files, for the record. Files of former
-    /// readings go before it starts, so that none of them is taken for its own. @p callback is left out when another
-    /// microcontroller or profile has taken the record over meanwhile: what was read is not theirs.
-    int executeReading(const QStringList& arguments, const QStringList& files, Callback callback);
+    /// readings go before it starts, so that none of them is taken for its own; they stay when avrdude cannot be found.
+    /// @p callback gets the files but those that could not be removed. It is left out when another microcontroller or
+    /// profile has taken the record over meanwhile: what was read is not theirs.
+    int executeReading(const QStringList& arguments, const QStringList& files, ReadingCallback callback);
 
     /// True while avrdude runs, and for good once it could not be started: a call of execute() would be dropped.
     [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
 
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
 
-    /// The log view's whole text: the echoed command line and the output of the current or last run.
-    [[nodiscard]] QString logText() const;
+    /// What avrdude has printed in the current or last run, as it came, without the command line. What the log shows of
+    /// it may be cut in two where the user clicked, or hold other lines.
+    [[nodiscard]] QString output() const { return m_text.mid(m_outputBegin); }
 
-    /// Shows @p text in the log instead of what is there.
-    void replaceLog(const QString& text);
-
-    /// Adds a line of the program's own to the end of the log; output of a run goes on below it.
-    void appendToLog(const QString& line);
+    /// The log that runs are echoed into.
+    [[nodiscard]] AvrdudeMessage& log() { return *m_log; }
 
 signals:
     /// A run begins, or has ended in whatever way and what came of it is about to be told. Not sent when the runner
@@ -76,7 +76,9 @@ private:
     SettingsRecord m_settings;
     Message m_messages;
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
-    QString m_output; ///< the current run's command line and output as it came; the log may hold them in pieces
+    QString m_text; ///< the command line and the output of the current or last run, as they came
+    int m_outputBegin = 0; ///< in that text
+    Message::Findings m_findings; ///< in that text
     Toolkit::Utf8Decoder m_errorDecoder; ///< one a channel, begun anew with each run
     Toolkit::Utf8Decoder m_outputDecoder;
 };

@@ -83,35 +83,55 @@ constexpr const char* silentProgrammer[] = {
     "(): timeout", "avrdude error: timeout",
 };
 
+void tell(const QString& message)
+{
+    QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), message);
+}
+
 } // namespace
 
 Message::Message()
 {
-    for (const Row& row : rows)
-        m_entries.append({QLatin1String(row.fragment), tr(row.message)});
+    for (const Row& row : rows) {
+        const QLatin1String fragment(row.fragment);
+        m_entries.append({fragment, tr(row.message)});
+        m_longestFragment = std::max(m_longestFragment, static_cast<int>(fragment.size()));
+    }
     for (const Row& row : failureRows)
         m_failureEntries.append({QLatin1String(row.fragment), tr(row.message)});
 }
 
-bool Message::checkOutput(const QString& text) const
+void Message::search(const QString& text, Findings& findings) const
 {
-    return tellFirst(m_entries, text);
+    const int from = std::max(0, findings.searched - m_longestFragment); // one may have come in two pieces
+    const int end = findings.first < 0 ? static_cast<int>(m_entries.size()) : findings.first;
+    for (int i = 0; i < end; ++i) {
+        if (text.indexOf(m_entries.at(i).fragment, from) >= 0) {
+            findings.first = i;
+            break;
+        }
+    }
+    findings.searched = static_cast<int>(text.size());
+}
+
+bool Message::checkOutput(const QString& text, Findings findings) const
+{
+    search(text, findings);
+    if (findings.first < 0)
+        return false;
+    tell(m_entries.at(findings.first).message);
+    return true;
 }
 
 bool Message::checkFailedRun(const QString& output) const
 {
     QString lines = QLatin1Char('\n') + output;
     lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return tellFirst(m_failureEntries, lines);
-}
-
-bool Message::tellFirst(const QVector<Entry>& entries, const QString& text)
-{
-    const auto found = std::find_if(entries.begin(), entries.end(),
-                                    [&text](const Entry& entry) { return text.contains(entry.fragment); });
-    if (found == entries.end())
+    const auto found = std::find_if(m_failureEntries.begin(), m_failureEntries.end(),
+                                    [&lines](const Entry& entry) { return lines.contains(entry.fragment); });
+    if (found == m_failureEntries.end())
         return false;
-    QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), found->message);
+    tell(found->message);
     return true;
 }
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVector>
 
-/// Turns what avrdude prints into a verdict and a short message. Created by the runner once the translator is
+/// Turns what avrdude prints into a verdict and a short message. A member of the runner, made once the translator is
 /// installed: the messages are translated at construction and keep that language.
 class Message : public QObject
 {
@@ -13,9 +13,22 @@ class Message : public QObject
 public:
     Message();
 
+    /// How far a text that grows has been searched, and what was found so far.
+    struct Findings {
+        int searched = 0; ///< characters
+        int first = -1; ///< number of the entry that comes first in the table; -1: none
+    };
+
+    /// Searches what has come to @p text since the last call with the same @p findings.
+    void search(const QString& text, Findings& findings) const;
+
     /// Looks for the first known error in @p text, a run's command line and output. When there is one, shows its
     /// message in a box and returns true; returns false when the text is clean.
-    [[nodiscard]] bool checkOutput(const QString& text) const;
+    [[nodiscard]] bool checkOutput(const QString& text) const { return checkOutput(text, Findings()); }
+
+    /// The same with the @p findings of search() while the text grew: to search all of a long one would hold up the
+    /// window.
+    [[nodiscard]] bool checkOutput(const QString& text, Findings findings) const;
 
     /// The same for a run that ended with another exit code than 0 and whose text checkOutput() found clean: looks in
     /// @p output, what avrdude printed in that run, for the words of versions that the first table does not know.
@@ -31,9 +44,8 @@ private:
         QString message;
     };
 
-    [[nodiscard]] static bool tellFirst(const QVector<Entry>& entries, const QString& text);
-
     // In the order in which they are tried.
     QVector<Entry> m_entries;
     QVector<Entry> m_failureEntries;
+    int m_longestFragment = 0; ///< of the first
 };

@@ -7,11 +7,12 @@
 ReadFile::ReadFile(QObject* parent)
     : QObject(parent)
 {
-    // With copies of both: the callback may open a box, and start the next reading.
+    // Nothing of ours is touched after the call: it may open a box, and start the next reading. The callback is good
+    // for one reading; what it refers to may be gone after that.
     connect(this, &ReadFile::emitFinishedReadFile, this, [this] {
-        const Callback callback = m_callback;
         const QStringList results = m_results;
-        callback(results);
+        if (const Callback callback = std::exchange(m_callback, {}))
+            callback(results);
     });
 }
 

@@ -137,10 +137,15 @@ QString warningFor(const QString& setting)
 
 void FuseMeanings::load(const SettingsRecord& settings)
 {
-    const QJsonArray bytes = BytesModel::description(settings).value(QLatin1String("FuseBytes")).toArray();
+    clear();
+    m_isLoaded = true;
+    const QJsonObject description = BytesModel::description(settings);
+    const auto factory = BytesModel::fuseBytes(description);
+    for (const FuseByte& byte : factory)
+        m_factoryValues.insert(byte.id, byte.defaultValue);
     const QJsonObject symbols = readMeanings(QStringLiteral("fields.json"));
     const QJsonObject words = readMeanings(QStringLiteral("words.json"));
-    m_fields.clear();
+    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
     for (const QJsonValue& byte : bytes) {
         QVector<Field> fields;
         const QJsonObject listed = byte[QLatin1String("fields")].toObject();
@@ -155,10 +160,19 @@ void FuseMeanings::load(const SettingsRecord& settings)
         m_fields.insert(byte[QLatin1String("id")].toString(), fields);
     }
     m_words = words.value(QLatin1String("symbols")).toObject();
-    m_rules.clear();
     const QJsonArray rules = words.value(QLatin1String("rules")).toArray();
     for (const QJsonValue& rule : rules)
         m_rules.append({QRegularExpression(rule[0].toString()), rule[1].toString()});
+}
+
+void FuseMeanings::clear()
+{
+    *this = {};
+}
+
+quint32 FuseMeanings::factoryValue(const FuseByte& byte) const
+{
+    return m_factoryValues.value(byte.id, byte.defaultValue);
 }
 
 QVector<FuseMeanings::Text> FuseMeanings::of(const FuseByte& byte) const
@@ -185,9 +199,10 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
             : digitsOf(value, bits) + QStringLiteral(": ") + meaningOf(field.name, symbol(value));
     };
     QStringList lines {field.text, namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
-    if (((byte.currentValue ^ byte.defaultValue) & bits) != 0) {
-        lines += QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ")
-            + setting(byte.defaultValue);
+    const quint32 factory = factoryValue(byte);
+    if (((byte.currentValue ^ factory) & bits) != 0) {
+        lines +=
+            QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ") + setting(factory);
         const QString warning = warningFor(field.name + QLatin1Char(':') + symbol(byte.currentValue));
         if (!warning.isEmpty())
             lines += warning;

@@ -14,6 +14,7 @@ struct SettingsRecord;
 /// Tells what the bits of the shown microcontroller's fuse bytes mean. The description says which bits form a field,
 /// and two files beside the descriptions give the vendor's symbol for each setting of a field and the rules by which
 /// symbols become words. Whatever of this is missing, the texts are missing and nothing else. Owned by FusesBytes.
+/// Loading takes its time, and is left until somebody looks at the editors: before it there are no texts.
 class FuseMeanings
 {
 public:
@@ -25,6 +26,14 @@ public:
 
     /// Reads what is known of the microcontroller in @p settings, in place of the one before.
     void load(const SettingsRecord& settings);
+
+    /// Forgets the microcontroller that was loaded.
+    void clear();
+
+    [[nodiscard]] bool isLoaded() const { return m_isLoaded; }
+
+    /// The value that @p byte leaves the factory with: the description's, else the byte's own default.
+    [[nodiscard]] quint32 factoryValue(const FuseByte& byte) const;
 
     /// One text for each known field of @p byte, from the highest bit down: the field in words, its present setting
     /// with its meaning, the factory's if that is another, and what to expect where a setting locks the programmer out.
@@ -41,7 +50,9 @@ private:
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
 
-    QHash<QString, QVector<Field>> m_fields; ///< by the byte's id
+    bool m_isLoaded = false;
+    QHash<QString, quint32> m_factoryValues; ///< by the byte's id
+    QHash<QString, QVector<Field>> m_fields; ///< the same
     QJsonObject m_words; ///< by symbol, or by field and symbol where fields share one; those without one are reserved
     QVector<QPair<QRegularExpression, QString>> m_rules; ///< make words of all other symbols, one rule after another
 };

@@ -3,7 +3,6 @@
 #include "avrdude/Avrdude.h"
 #include "fuses/FusesButtons.h"
 #include "fuses/FusesButtonsView.h"
-#include "fuses/FusesByteModel.h"
 #include "fuses/FusesBytes.h"
 #include "fuses/FusesBytesView.h"
 #include "fuses/FusesTextView.h"
@@ -18,7 +17,7 @@
 Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     : QWidget(parent)
     , m_avrdude(avrdude)
-    , m_bytesModel(new BytesModel(avrdude, this))
+    , m_bytesModel(new BytesModel(avrdude.settings(), this))
     , m_scrollArea(new QScrollArea(this))
 {
     auto* bytesView = new FusesBytesView;
@@ -34,7 +33,7 @@ Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     layout->addWidget(m_scrollArea);
     layout->addWidget(buttonsView);
 
-    m_bytes = new FusesBytes(avrdude, *bytesView, this);
+    m_bytes = new FusesBytes(avrdude.settings(), *bytesView, this);
     auto* buttons = new FusesButtons(avrdude, *buttonsView, this);
     connect(buttons, &FusesButtons::setReadingFusesEmit, this, &Fuses::refresh);
     connect(buttonsView->defaultButton(), &QPushButton::clicked, this, &Fuses::onClickDefault);
@@ -58,7 +57,7 @@ void Fuses::refresh()
 
 void Fuses::onClickDefault()
 {
-    FusesByteModel::restoreDefaults(m_avrdude.settings().fusesBytes);
+    restoreDefaults(m_avrdude.settings().fusesBytes);
     refresh();
     QMessageBox::information(this, QStringLiteral("FUSES"), tr("Fuse bytes set to default values successfully."));
 }

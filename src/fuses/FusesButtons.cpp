@@ -4,7 +4,6 @@
 #include "base/BoxText.h"
 #include "fuses/FuseRequests.h"
 #include "fuses/FusesButtonsView.h"
-#include "fuses/FusesByteModel.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -36,7 +35,7 @@ void FusesButtons::onClickReadBt()
     SettingsRecord& settings = m_avrdude.settings();
     settings.fileNamesReading = FuseRequests::files(settings.fusesBytes);
     m_avrdude.executeReading(FuseRequests::read(settings.fusesBytes), settings.fileNamesReading,
-                             [this] { readFuseBytesMcu(); });
+                             [this](const QStringList& files) { readFuseBytesMcu(files); });
 }
 
 void FusesButtons::onClickWriteMessage()
@@ -49,13 +48,15 @@ void FusesButtons::onClickVerifyMessage()
     QMessageBox::information(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes verified successfully."));
 }
 
-void FusesButtons::readFuseBytesMcu()
+void FusesButtons::readFuseBytesMcu(const QStringList& files)
 {
     SettingsRecord& settings = m_avrdude.settings();
     QStringList texts; // one a byte, empty where avrdude made no file: the chip has no such memory
-    for (const QString& file : std::as_const(settings.fileNamesReading))
-        m_readFile.readFiles({file}, [&texts](const QStringList& read) { texts += read.value(0); });
-    const QStringList unread = FusesByteModel::applyReadValues(settings.fusesBytes, texts);
+    for (const QString& file : std::as_const(settings.fileNamesReading)) {
+        m_readFile.readFiles(files.contains(file) ? QStringList(file) : QStringList(),
+                             [&texts](const QStringList& read) { texts += read.value(0); });
+    }
+    const QStringList unread = takeReadValues(settings.fusesBytes, texts);
     emit setReadingFusesEmit();
 
     QStringList told;

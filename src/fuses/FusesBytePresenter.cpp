@@ -81,14 +81,26 @@ FusesBytePresenter::FusesBytePresenter(FusesByteView& view, FusesByteModel& mode
 void FusesBytePresenter::setModel(const FuseByte& byte)
 {
     m_view.setTitle(QStringLiteral("%1 ( %2 )").arg(byte.name, byte.id));
-    setByte(byte.currentValue);
+    show();
 }
 
 void FusesBytePresenter::setByte(quint32 value)
 {
     m_model.setByte(value);
+    show();
+}
+
+void FusesBytePresenter::show()
+{
     showBits();
     showValue();
+}
+
+void FusesBytePresenter::release()
+{
+    m_view.disconnect(this);
+    m_view.value()->disconnect(this);
+    m_view.value()->removeEventFilter(this);
 }
 
 void FusesBytePresenter::showBits()
@@ -128,11 +140,11 @@ void FusesBytePresenter::showMeanings()
         }
     }
     tell(m_view.value(), byteTexts);
+    const quint32 changed = byte.currentValue ^ m_meanings.factoryValue(byte);
     for (int i = 0; i < bitTexts.size(); ++i) {
-        const FuseBit& bit = byte.fuseBits[static_cast<std::size_t>(i)];
         QCheckBox* checkBox = m_view.fusesBit().at(i);
         tell(checkBox, bitTexts.at(i));
-        mark(checkBox, bit.currentBitValue != bit.defaultBitValue);
+        mark(checkBox, (changed >> i & 1U) != 0);
     }
 }
 

@@ -26,13 +26,21 @@ public:
     /// Puts @p value into the byte as far as its bits may be changed, and shows the result.
     void setByte(quint32 value);
 
+    /// Shows the byte again.
+    void show();
+
+    /// Tells again what is known of the byte's meanings.
+    void showMeanings();
+
+    /// From now on nothing is shown or taken any more: the byte may go before the widgets do.
+    void release();
+
     /// Takes the keys of the hexadecimal field: digits overwrite what is there, and the byte follows at once.
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void showBits();
     void showValue();
-    void showMeanings();
     void onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox);
     void typeDigit(QChar digit);
 

@@ -1,6 +1,6 @@
 #include "fuses/FusesBytes.h"
 
-#include "avrdude/Avrdude.h"
+#include "app/record/SettingsRecord.h"
 #include "fuses/FusesByteModel.h"
 #include "fuses/FusesBytePresenter.h"
 #include "fuses/FusesByteView.h"
@@ -10,46 +10,62 @@
 #include <QVBoxLayout>
 
 #include <memory>
+#include <utility>
 
-FusesBytes::FusesBytes(Avrdude& avrdude, FusesBytesView& view, QObject* parent)
+FusesBytes::FusesBytes(SettingsRecord& settings, FusesBytesView& view, QObject* parent)
     : QObject(parent)
-    , m_avrdude(avrdude)
+    , m_settings(settings)
     , m_view(view)
 {
+    connect(&view, &FusesBytesView::shown, this, &FusesBytes::explain);
 }
 
 void FusesBytes::rebuild()
 {
+    for (FusesBytePresenter* editor : std::as_const(m_editors))
+        editor->release(); // from a list that may be shorter by now; hiding the one with the focus would ask it
     while (const std::unique_ptr<QLayoutItem> item {m_view.editors()->takeAt(0)}) {
         item->widget()->hide(); // at once: the deletion waits for the event loop, and a box may be opened before
         item->widget()->deleteLater();
     }
     m_editors.clear();
 
-    SettingsRecord& settings = m_avrdude.settings();
-    m_meanings.load(settings);
-    for (int i = 0; i < settings.fusesBytes.size(); ++i)
+    bringTogether(m_settings.fusesBytes);
+    if (m_view.isVisible())
+        m_meanings.load(m_settings);
+    else
+        m_meanings.clear(); // until somebody looks
+    for (int i = 0; i < m_settings.fusesBytes.size(); ++i)
         m_view.editors()->addWidget(makeEditor(i));
-    settings.fusesEnable = !settings.fusesBytes.isEmpty();
+    m_settings.fusesEnable = !m_settings.fusesBytes.isEmpty();
 }
 
 void FusesBytes::refresh()
 {
-    const FuseBytes& bytes = m_avrdude.settings().fusesBytes;
     // A profile may have brought another list while a box still keeps it from being shown.
-    if (bytes.size() != m_editors.size()) {
+    if (m_settings.fusesBytes.size() != m_editors.size()) {
         rebuild();
         return;
     }
-    for (int i = 0; i < m_editors.size(); ++i)
-        m_editors.at(i)->setByte(bytes.at(i).currentValue);
+    bringTogether(m_settings.fusesBytes);
+    for (FusesBytePresenter* editor : std::as_const(m_editors))
+        editor->show();
+}
+
+void FusesBytes::explain()
+{
+    if (m_meanings.isLoaded())
+        return;
+    m_meanings.load(m_settings);
+    for (FusesBytePresenter* editor : std::as_const(m_editors))
+        editor->showMeanings();
 }
 
 QWidget* FusesBytes::makeEditor(int index)
 {
     auto* editor = new QWidget(&m_view);
     auto* view = new FusesByteView(editor);
-    auto* model = new FusesByteModel(m_avrdude.settings().fusesBytes, index, editor);
+    auto* model = new FusesByteModel(m_settings.fusesBytes, index, editor);
     m_editors.append(new FusesBytePresenter(*view, *model, m_meanings, editor));
 
     auto* layout = new QHBoxLayout(editor);

@@ -12,3 +12,9 @@ FusesBytesView::FusesBytesView(QWidget* parent)
     layout->addLayout(m_editors);
     layout->addStretch();
 }
+
+void FusesBytesView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    emit shown();
+}

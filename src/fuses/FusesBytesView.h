@@ -4,7 +4,7 @@
 
 class QVBoxLayout;
 
-/// Holds the editors of the fuse bytes one below the other, at the top.
+/// Holds the editors of the fuse bytes one below the other, at the top. Belongs to the scroll area of the Fuses tab.
 class FusesBytesView : public QWidget
 {
     Q_OBJECT
@@ -14,6 +14,13 @@ public:
 
     /// The layout that the editors go into.
     [[nodiscard]] QVBoxLayout* editors() const { return m_editors; }
+
+signals:
+    /// The editors came into sight.
+    void shown();
+
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
     QVBoxLayout* m_editors;

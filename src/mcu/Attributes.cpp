@@ -1,10 +1,10 @@
 #include "mcu/Attributes.h"
 
+#include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
 #include "mcu/AttributesView.h"
 #include "mcu/description/BytesModel.h"
-#include "mcu/description/SignatureIndex.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -20,17 +20,16 @@ QString calibrationFile()
 
 } // namespace
 
-Attributes::Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view, QObject* parent)
+Attributes::Attributes(Avrdude& avrdude, SignatureIndex& /*index*/, AttributesView& view, QObject* parent)
     : QObject(parent)
     , m_avrdude(avrdude)
     , m_view(view)
 {
-    index.build();
     QStringList names = jsonBaseNames(BytesModel::folder());
     names.sort();
     view.mcuList()->addItems(names);
     if (names.isEmpty())
-        avrdude.appendToLog(tr("Nothing found in the folder %1.").arg(fullPath(BytesModel::folder())));
+        avrdude.log().appendLine(tr("Nothing found in the folder %1.").arg(fullPath(BytesModel::folder())));
 
     connect(view.eraseButton(), &QPushButton::clicked, this, &Attributes::eraseAllMcu);
     connect(view.autoDetectButton(), &QPushButton::clicked, this, &Attributes::autoDetect);
@@ -68,12 +67,12 @@ void Attributes::setAvrdudeCmdReadCallByte()
 {
     m_view.calibrationByte()->clear();
     m_avrdude.executeReading({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
-                             {calibrationFile()}, [this] { readFileCallByte(); });
+                             {calibrationFile()}, [this](const QStringList& files) { readFileCallByte(files); });
 }
 
-void Attributes::readFileCallByte()
+void Attributes::readFileCallByte(const QStringList& files)
 {
-    m_readFile.readFiles({calibrationFile()}, [this](const QStringList& texts) {
+    m_readFile.readFiles(files, [this](const QStringList& texts) {
         if (texts.isEmpty())
             return;
         showCalibration(texts.constFirst());

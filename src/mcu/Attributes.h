@@ -15,7 +15,7 @@ class Attributes : public QObject
     Q_OBJECT
 
 public:
-    /// Builds @p index and fills the view's list.
+    /// Fills the view's list. No action of the panel asks @p index yet.
     Attributes(Avrdude& avrdude, SignatureIndex& index, AttributesView& view, QObject* parent = nullptr);
 
     /// Shows the record's microcontroller and calibration byte. Loads nothing. The list shows nothing when it does not
@@ -30,9 +30,9 @@ public:
     /// Empties the field and reads the chip's calibration bytes into a file, then from there into the field.
     void setAvrdudeCmdReadCallByte();
 
-    /// Takes the file of a reading over into the field and the record, and tells so. Without a file both stay as they
-    /// are.
-    void readFileCallByte();
+    /// Takes the file of a reading, the only one of @p files, over into the field and the record, and tells so. Without
+    /// a file both stay as they are.
+    void readFileCallByte(const QStringList& files);
 
 private:
     void showCalibration(const QString& text);

@@ -1,5 +1,6 @@
 #include "memory/Memory.h"
 
+#include "memory/MemoryRequest.h"
 #include "memory/MemoryView.h"
 #include "memory/RawFile.h"
 
@@ -26,7 +27,7 @@ void Memory::setFilePathWrite(const QString& path)
     SettingsRecord& settings = m_avrdude.settings();
     settings.*m_kind.writeFile = path;
     if (hasPath)
-        settings.*m_kind.writeCommand = request("w", path);
+        settings.*m_kind.writeCommand = request("w", path).arguments();
     m_view.writeButton()->setEnabled(hasPath);
     m_view.writeVerifyButton()->setEnabled(hasPath);
     settings.*m_kind.enable = hasPath;
@@ -68,18 +69,18 @@ void Memory::startWrite(Avrdude::Callback whenDone)
 
 void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 {
-    start(request("v", file), std::move(whenDone));
+    start(request("v", file).arguments(), std::move(whenDone));
 }
 
 void Memory::startRead(Avrdude::Callback whenDone)
 {
-    start(request("r", fileToRead()), std::move(whenDone));
+    start(request("r", fileToRead()).arguments(), std::move(whenDone));
 }
 
 void Memory::showWritten()
 {
-    // avrdude verifies what it wrote unless it was told not to, and says so in the log.
-    const bool verified = m_avrdude.logText().contains(QLatin1String("verifying ") + QLatin1String(m_kind.memory));
+    // avrdude verifies what it wrote unless it was told not to, and says so.
+    const bool verified = m_avrdude.output().contains(QLatin1String("verifying ") + QLatin1String(m_kind.memory));
     showBox(verified ? tr(m_kind.written) + QLatin1Char('\n') + tr(m_kind.verified) : tr(m_kind.written));
 }
 
@@ -93,18 +94,21 @@ void Memory::showRead()
     showBox(tr(m_kind.read));
 }
 
-QStringList Memory::request(const char* operation, const QString& path) const
+MemoryRequest Memory::request(const char* operation, const QString& path) const
 {
-    const QString format = setFormatFile(QFileInfo(path).suffix().toLower());
-    return {QStringLiteral("-U"),
-            QStringLiteral("%1:%2:%3:%4").arg(QLatin1String(m_kind.memory), QLatin1String(operation), path, format)};
+    return {QLatin1String(m_kind.memory), QLatin1String(operation), path,
+            setFormatFile(QFileInfo(path).suffix().toLower())};
 }
 
-void Memory::start(const QStringList& request, Avrdude::Callback whenDone)
+void Memory::start(const QStringList& arguments, Avrdude::Callback whenDone)
 {
-    // During a run nothing starts, and no box belongs over it.
-    if (m_avrdude.isBusy() || RawFile::fits(m_avrdude.settings(), request, &m_view))
-        m_avrdude.execute(request, std::move(whenDone));
+    if (m_avrdude.isBusy())
+        return; // no box belongs over a run
+    const QString fault = RawFile::fault(m_avrdude.settings(), MemoryRequest::from(arguments));
+    if (fault.isEmpty())
+        m_avrdude.execute(arguments, std::move(whenDone));
+    else
+        showBox(fault);
 }
 
 void Memory::showBox(const QString& text)

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+struct MemoryRequest;
 class MemoryView;
 
 /// The logic of one memory panel: keeps the two file paths of the settings record and writes, verifies and reads the
@@ -58,10 +59,10 @@ protected:
     void showRead();
 
 private:
-    /// "-U" and the request that does @p operation ("r", "w", "v") with the file at @p path.
-    [[nodiscard]] QStringList request(const char* operation, const QString& path) const;
-    /// Runs @p request unless its file does not fit.
-    void start(const QStringList& request, Avrdude::Callback whenDone);
+    /// What does @p operation ("r", "w", "v") with the file at @p path.
+    [[nodiscard]] MemoryRequest request(const char* operation, const QString& path) const;
+    /// Runs @p arguments, a request, unless its file does not fit.
+    void start(const QStringList& arguments, Avrdude::Callback whenDone);
     void showBox(const QString& text);
 
     MemoryView& m_view;

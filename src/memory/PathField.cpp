@@ -4,17 +4,13 @@
 #include "base/JsonFile.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
-
-#include <memory>
 
 namespace {
 
@@ -63,17 +59,9 @@ bool PathField::event(QEvent* event)
     return QLineEdit::event(event);
 }
 
-void PathField::contextMenuEvent(QContextMenuEvent* event)
+void PathField::paste()
 {
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    const auto actions = menu->actions();
-    for (QAction* action : actions) {
-        if (!action->text().startsWith(QLineEdit::tr("&Paste")))
-            continue;
-        action->disconnect(this);
-        connect(action, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
-    }
-    menu->exec(event->globalPos());
+    pasteFrom(QClipboard::Clipboard);
 }
 
 void PathField::dragEnterEvent(QDragEnterEvent* event)
@@ -106,7 +94,7 @@ void PathField::dropEvent(QDropEvent* event)
 void PathField::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Paste))
-        pasteFrom(QClipboard::Clipboard);
+        paste();
     else
         QLineEdit::keyPressEvent(event);
 }

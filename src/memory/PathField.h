@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 /// A field for the path of a file: typed, pasted, dropped, or chosen in a dialog. Shows the whole path as its tooltip.
+/// Belongs to a memory panel.
 class PathField : public QLineEdit
 {
     Q_OBJECT
@@ -21,8 +22,12 @@ public:
 
     bool event(QEvent* event) override;
 
+public slots:
+    /// Inserts the path that was copied. Instead of the line edit's own: the context menu looks the slot up by its
+    /// name.
+    void paste();
+
 protected:
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;

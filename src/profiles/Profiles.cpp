@@ -1,5 +1,6 @@
 #include "profiles/Profiles.h"
 
+#include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProfilesPresenter.h"
@@ -44,7 +45,7 @@ void Profiles::loadProfile(const QString& name)
     const QString path = ProfilesPresenter::profileFile(name);
     if (!m_avrdude.settings().loadFromFile(path)) {
         qDebug().noquote() << "Profile not loaded:" << path;
-        m_avrdude.appendToLog(tr("Failed to load settings from file: ") + path);
+        m_avrdude.log().appendLine(tr("Failed to load settings from file: ") + path);
     }
     m_avrdude.settings().currentlyProfilesList = name;
     emit emitUpdateUI();

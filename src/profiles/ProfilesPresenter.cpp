@@ -1,9 +1,11 @@
 #include "profiles/ProfilesPresenter.h"
 
+#include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "base/BoxText.h"
 #include "base/JsonFile.h"
 #include "fuses/FuseRequests.h"
+#include "memory/MemoryRequest.h"
 #include "memory/RawFile.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProgrammingView.h"
@@ -37,7 +39,11 @@ ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, C
             [this](const QString& text) { m_avrdude.settings().description = text; });
     connect(configurationView.addButton(), &QPushButton::clicked, this, &ProfilesPresenter::saveProfile);
     connect(configurationView.removeButton(), &QPushButton::clicked, this, &ProfilesPresenter::removeProfile);
-    connect(programmingView.writeButton(), &QPushButton::clicked, this, [this] { startWriting(m_avrdude.settings()); });
+    connect(programmingView.writeButton(), &QPushButton::clicked, this, &ProfilesPresenter::startWriting);
+    connect(&avrdude, &Avrdude::runningChanged, this, [this](bool isRunning) {
+        if (!isRunning)
+            m_isWriting = false; // until the next step begins
+    });
     loadProfileFiles();
 }
 
@@ -73,7 +79,7 @@ void ProfilesPresenter::saveProfile()
     const QString path = profileFile(name);
     if (!m_avrdude.settings().saveToFile(path)) {
         qDebug().noquote() << "Profile not saved:" << path;
-        m_avrdude.appendToLog(tr("Failed to save settings to file: ") + path);
+        m_avrdude.log().appendLine(tr("Failed to save settings to file: ") + path);
     }
     if (!isListed)
         profiles.addItem(name);
@@ -158,91 +164,80 @@ void ProfilesPresenter::updateWriteButton()
                                                 || m_selectView.fuses()->isChecked());
 }
 
-void ProfilesPresenter::startWriting(const SettingsRecord& board)
+void ProfilesPresenter::startWriting()
 {
-    // Pressed in the middle of a writing, the button means that board and nothing that was chosen since.
     if (!m_avrdude.isBusy()) {
-        m_board = board;
-        const auto fits = [this](bool isTicked, const QStringList& command) {
-            return !isTicked || RawFile::fits(m_board, command, &m_programmingView);
-        };
-        if (!fits(m_board.flashCheck, m_board.cmdFlashWrite) || !fits(m_board.eepromCheck, m_board.cmdEepromWrite))
-            return; // before any area is written
+        m_board = {};
+        m_board.settings = m_avrdude.settings();
+    } else if (!m_isWriting) {
+        return; // it is something else that is running
     }
 
-    m_steps.clear();
-    m_nextStep = 0;
-    m_summary.clear();
-    m_log.clear();
-    if (m_board.flashCheck)
-        m_steps.append(&ProfilesPresenter::startFlash);
-    if (m_board.eepromCheck)
-        m_steps.append(&ProfilesPresenter::startEeprom);
-    if (m_board.fusesCheck)
-        m_steps.append(&ProfilesPresenter::startFuses);
-    if (m_steps.isEmpty())
-        return; // it was something else that is running, and no board has been written yet
+    const bool flash = m_selectView.flash()->isChecked();
+    const bool eeprom = m_selectView.eeprom()->isChecked();
+    const bool fuses = m_selectView.fuses()->isChecked();
+    if ((flash && !mayWrite(m_board.settings.cmdFlashWrite)) || (eeprom && !mayWrite(m_board.settings.cmdEepromWrite)))
+        return; // before any area is written; pressed in the middle of a writing, that goes on as it was
+
+    m_board.steps.clear();
+    m_board.nextStep = 0;
+    m_board.log.clear();
+    if (flash)
+        m_board.steps.append(&ProfilesPresenter::writeFlash);
+    if (eeprom)
+        m_board.steps.append(&ProfilesPresenter::writeEeprom);
+    if (fuses)
+        m_board.steps.append(&ProfilesPresenter::writeFuses);
     nextStep();
 }
 
-void ProfilesPresenter::writeOnly(bool SettingsRecord::*area)
+bool ProfilesPresenter::mayWrite(const QStringList& command)
 {
-    if (m_avrdude.isBusy())
-        return; // a writing that is under way keeps its steps
-    SettingsRecord board = m_avrdude.settings();
-    board.flashCheck = board.eepromCheck = board.fusesCheck = false;
-    board.*area = true;
-    startWriting(board);
-}
-
-void ProfilesPresenter::writeFlash()
-{
-    writeOnly(&SettingsRecord::flashCheck);
-}
-
-void ProfilesPresenter::writeEeprom()
-{
-    writeOnly(&SettingsRecord::eepromCheck);
-}
-
-void ProfilesPresenter::writeFuses()
-{
-    writeOnly(&SettingsRecord::fusesCheck);
+    const MemoryRequest request = MemoryRequest::from(command);
+    const QString fault = RawFile::fault(m_board.settings, request);
+    if (fault.isEmpty())
+        return true;
+    QMessageBox::information(&m_programmingView, request.memory.toUpper(), fault);
+    return false;
 }
 
 void ProfilesPresenter::nextStep()
 {
-    m_log += m_avrdude.logText();
-    if (m_nextStep >= m_steps.size()) {
-        m_avrdude.replaceLog(m_log);
-        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Profiles"), m_summary);
+    m_board.log += m_avrdude.log().toPlainText();
+    if (m_board.nextStep >= m_board.steps.size()) {
+        m_avrdude.log().replace(m_board.log);
+        const QStringList told = m_board.written.values();
+        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Profiles"), told.join(QString()));
         return;
     }
-    const Step step = m_steps.at(m_nextStep);
-    (this->*step)();
-    ++m_nextStep;
+    const BoardWriting::Step step = m_board.steps.at(m_board.nextStep);
+    (this->*step)(); // dropped when Write was pressed again: the run in progress goes on with the step after it
+    ++m_board.nextStep;
 }
 
-void ProfilesPresenter::runStep(const QStringList& arguments, const QString& summary)
+void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told)
 {
-    m_avrdude.execute(m_board, arguments, [this, summary] {
-        m_summary += summary; // only now: a step that the runner dropped has written nothing
+    m_isWriting = true;
+    m_avrdude.execute(m_board.settings, arguments, [this, area, told] {
+        m_board.written.insert(area, told); // only now: a step that the runner dropped has written nothing
         nextStep();
     });
 }
 
-void ProfilesPresenter::startFlash()
+void ProfilesPresenter::writeFlash()
 {
-    runStep(m_board.cmdFlashWrite, tr("Flash write successfully.\nFlash verify successfully.\n"));
+    runStep(BoardWriting::Area::Flash, m_board.settings.cmdFlashWrite,
+            tr("Flash write successfully.\nFlash verify successfully.\n"));
 }
 
-void ProfilesPresenter::startEeprom()
+void ProfilesPresenter::writeEeprom()
 {
-    runStep(m_board.cmdEepromWrite, tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
+    runStep(BoardWriting::Area::Eeprom, m_board.settings.cmdEepromWrite,
+            tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
 }
 
-void ProfilesPresenter::startFuses()
+void ProfilesPresenter::writeFuses()
 {
-    runStep(FuseRequests::write(m_board.fusesBytes),
+    runStep(BoardWriting::Area::Fuses, FuseRequests::write(m_board.settings.fusesBytes),
             tr("Fuse bits write successfully.\nFuse bits verify successfully."));
 }

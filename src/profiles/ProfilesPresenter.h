@@ -1,10 +1,8 @@
 #pragma once
 
-#include "app/record/SettingsRecord.h"
+#include "profiles/BoardWriting.h"
 
 #include <QObject>
-#include <QStringList>
-#include <QVector>
 
 class Avrdude;
 class ConfigurationView;
@@ -34,12 +32,6 @@ public:
     /// Deletes the selected profile's file, after a question. A failure to delete is not told.
     void removeProfile();
 
-    /// Each writes one area of the present record, ticked or not, and tells so in the box that ends a writing. Dropped
-    /// while avrdude runs.
-    void writeFlash();
-    void writeEeprom();
-    void writeFuses();
-
     /// Shows the settings record again.
     void refresh();
 
@@ -52,15 +44,13 @@ public slots:
     void setFusesChBox();
 
 private:
-    using Step = void (ProfilesPresenter::*)();
-
-    void startWriting(const SettingsRecord& board);
-    void writeOnly(bool SettingsRecord::*area);
+    void startWriting();
+    [[nodiscard]] bool mayWrite(const QStringList& command);
     void nextStep();
-    void startFlash();
-    void startEeprom();
-    void startFuses();
-    void runStep(const QStringList& arguments, const QString& summary);
+    void writeFlash();
+    void writeEeprom();
+    void writeFuses();
+    void runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told);
     void updateWriteButton();
 
     Avrdude& m_avrdude;
@@ -68,10 +58,6 @@ private:
     ConfigurationView& m_configurationView;
     ProgrammingView& m_programmingView;
 
-    // Of the present or last writing.
-    SettingsRecord m_board; ///< as it was when Write was pressed: what is chosen meanwhile is for the next board
-    QVector<Step> m_steps;
-    int m_nextStep = 0;
-    QString m_log; ///< the logs of all steps so far
-    QString m_summary; ///< the text of the closing box
+    BoardWriting m_board; ///< the present or last one
+    bool m_isWriting = false; ///< the run in progress is one of the board's
 };

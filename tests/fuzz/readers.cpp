@@ -51,7 +51,7 @@ void description(Fuzz& fuzz, const QByteArray& input)
     if (JsonFile::read("mcu/X.json").state != JsonFile::State::Parsed)
         return; // turned away with a box
     Avrdude avrdude(nullptr, nullptr);
-    BytesModel(avrdude).load("X");
+    BytesModel(avrdude.settings()).load("X");
     FuseBytes& bytes = avrdude.settings().fusesBytes;
     for (int i = 0; i < bytes.size(); ++i) {
         FusesByteModel model(bytes, i);

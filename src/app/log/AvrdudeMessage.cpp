@@ -100,3 +100,18 @@ void AvrdudeMessage::insertAtCursor(const QString& text)
         setTextCursor(user);
     }
 }
+
+void AvrdudeMessage::appendLine(const QString& line)
+{
+    QTextCursor end(document());
+    end.movePosition(QTextCursor::End);
+    if (!end.atBlockStart())
+        end.insertBlock();
+    end.insertText(line + QLatin1Char('\n'));
+}
+
+void AvrdudeMessage::replace(const QString& text)
+{
+    clear();
+    appendPlainText(text);
+}

@@ -15,4 +15,10 @@ public:
     /// selected it goes to the end, and the selection stays as it is. A line of thousands of characters is broken: laid
     /// out whole it would hold up the window.
     void insertAtCursor(const QString& text);
+
+    /// Adds a line of the program's own to the end; output of a run goes on below it.
+    void appendLine(const QString& line);
+
+    /// Shows @p text instead of what is there.
+    void replace(const QString& text);
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <array>
@@ -17,7 +18,9 @@ struct FuseBit {
     [[nodiscard]] bool isUsed() const { return name != QLatin1String("NOT USED"); }
 };
 
-/// One fuse or lock byte of a microcontroller. A plain value, copied whole with the list that holds it.
+/// One fuse or lock byte of a microcontroller. A plain value, copied whole with the list that holds it. Its value is
+/// there twice, as a number and as bits: who reads a description or a file fills both, the functions below keep them
+/// together, and nothing else changes either.
 struct FuseByte {
     QString name; ///< shown to the user
     QString id; ///< avrdude's name of the memory ("lfuse"); "lock..." marks the lock byte
@@ -28,3 +31,23 @@ struct FuseByte {
 
 /// In the order of the description file.
 using FuseBytes = QVector<FuseByte>;
+
+/// Takes over those bits of @p value that the user may change and that have a name; the byte's value becomes what all
+/// eight bits then say. So a locked bit cannot be typed away.
+void setValue(FuseByte& byte, quint32 value);
+
+/// Programs the bit @p number (0 to 7) when @p isProgrammed, whatever its name, and unprograms it otherwise; the byte's
+/// value follows. Another number changes nothing.
+void setBit(FuseByte& byte, int number, bool isProgrammed);
+
+/// Brings the bits of every byte in line with its value, as setValue() does. Due once a list was replaced, or after the
+/// two functions below, which leave the bits alone.
+void bringTogether(FuseBytes& bytes);
+
+/// Gives every byte its default value.
+void restoreDefaults(FuseBytes& bytes);
+
+/// Gives the bytes the values read from the chip, in order, as far as both lists go. @p texts are hexadecimal, one byte
+/// each; any other leaves its byte as it is: the chip has no such memory, or what came is none. Returns the names of
+/// the bytes so left.
+[[nodiscard]] QStringList takeReadValues(FuseBytes& bytes, const QStringList& texts);

@@ -1,6 +1,6 @@
 #include "mcu/description/BytesModel.h"
 
-#include "avrdude/Avrdude.h"
+#include "app/record/SettingsRecord.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"
 
@@ -45,9 +45,9 @@ FuseByte readFuseByte(const QJsonObject& description)
 
 } // namespace
 
-BytesModel::BytesModel(Avrdude& avrdude, QObject* parent)
+BytesModel::BytesModel(SettingsRecord& settings, QObject* parent)
     : QObject(parent)
-    , m_avrdude(avrdude)
+    , m_settings(settings)
 {
 }
 
@@ -62,6 +62,15 @@ QJsonObject BytesModel::description(const SettingsRecord& settings)
     return found.value(QLatin1String("id")).toString() == settings.mcuId ? found : QJsonObject();
 }
 
+FuseBytes BytesModel::fuseBytes(const QJsonObject& description)
+{
+    FuseBytes fuseBytes;
+    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
+    for (const QJsonValue& byte : bytes)
+        fuseBytes.append(readFuseByte(byte.toObject()));
+    return fuseBytes;
+}
+
 qint64 BytesModel::memorySize(const SettingsRecord& settings, const QString& memory)
 {
     return description(settings).value(memory).toInt();
@@ -69,33 +78,20 @@ qint64 BytesModel::memorySize(const SettingsRecord& settings, const QString& mem
 
 int BytesModel::load(const QString& name)
 {
-    const auto report = [](const QString& title, const QString& text) {
-        QMessageBox::information(QApplication::activeWindow(), title, text);
-        return 0;
-    };
     const JsonFile file = readDescription(name);
-    switch (file.state) {
-    case JsonFile::State::NotFound:
-        return report(ProductInfo::name, tr("MCU JSON FILE NOT FOUND"));
-    case JsonFile::State::CannotOpen:
-        return report(QStringLiteral("Cannot open file"), tr("Cannot open file"));
-    case JsonFile::State::ParseError:
-        return report(QStringLiteral("JSON FILE ERROR"), tr("JSON FILE ERROR"));
-    case JsonFile::State::Parsed:
-        break;
+    if (const char* fault = file.fault()) {
+        const bool isMissing = file.state == JsonFile::State::NotFound;
+        QMessageBox::information(QApplication::activeWindow(), isMissing ? ProductInfo::name : QLatin1String(fault),
+                                 isMissing ? tr("MCU JSON FILE NOT FOUND")
+                                           : QCoreApplication::translate("JsonFile", fault));
+        return 0;
     }
 
     const QJsonObject description = file.document.object();
-    FuseBytes fuseBytes;
-    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
-    for (const QJsonValue& byte : bytes)
-        fuseBytes.append(readFuseByte(byte.toObject()));
-
-    SettingsRecord& settings = m_avrdude.settings();
-    ++settings.generation;
-    settings.mcuName = name; // the file's; the "mcu" in it does not count
-    settings.mcuId = description.value(QLatin1String("id")).toString();
-    settings.signature = description.value(QLatin1String("signature")).toString();
-    settings.fusesBytes = fuseBytes;
+    ++m_settings.generation;
+    m_settings.mcuName = name; // the file's; the "mcu" in it does not count
+    m_settings.mcuId = description.value(QLatin1String("id")).toString();
+    m_settings.signature = description.value(QLatin1String("signature")).toString();
+    m_settings.fusesBytes = fuseBytes(description);
     return 0;
 }

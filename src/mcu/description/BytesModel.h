@@ -1,19 +1,21 @@
 #pragma once
 
+#include "app/record/FuseByte.h"
+
 #include <QObject>
 
-class Avrdude;
 class QJsonObject;
 struct SettingsRecord;
 
 /// Loads the description of one microcontroller, with the datasheet's defaults of its fuse bytes, into the settings
 /// record. Descriptions are the files of the folder "mcu" in the working directory, each named after what it describes.
+/// Owned by the Fuses tab; the record outlives it.
 class BytesModel : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit BytesModel(Avrdude& avrdude, QObject* parent = nullptr);
+    explicit BytesModel(SettingsRecord& settings, QObject* parent = nullptr);
 
     /// The folder of the descriptions.
     [[nodiscard]] static QString folder();
@@ -21,6 +23,9 @@ public:
     /// The description of the microcontroller in @p settings. Empty when it cannot be read, or is another part's than
     /// the one that avrdude is told.
     [[nodiscard]] static QJsonObject description(const SettingsRecord& settings);
+
+    /// The fuse bytes of @p description, all at the datasheet's defaults.
+    [[nodiscard]] static FuseBytes fuseBytes(const QJsonObject& description);
 
     /// Size in bytes of the memory that descriptions call @p memory ("flash", "eeprom"), of the microcontroller in
     /// @p settings. 0 or less when it is not known: there is no description, or no such key in it.
@@ -31,5 +36,5 @@ public:
     int load(const QString& name);
 
 private:
-    Avrdude& m_avrdude;
+    SettingsRecord& m_settings;
 };

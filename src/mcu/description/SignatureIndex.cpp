@@ -5,9 +5,16 @@
 
 #include <QJsonObject>
 
+SignatureIndex::Mcu SignatureIndex::find(const QString& signature)
+{
+    if (!m_isBuilt)
+        build();
+    return m_mcus.value(signature);
+}
+
 void SignatureIndex::build()
 {
-    m_mcus.clear();
+    m_isBuilt = true;
     const auto files = jsonFiles(BytesModel::folder());
     for (const QFileInfo& info : files) {
         const QJsonObject description = JsonFile::read(info.filePath()).document.object();

@@ -3,8 +3,8 @@
 #include <QHash>
 #include <QString>
 
-/// Finds a microcontroller by its signature. Built from all descriptions; kept for the life of the Programming tab,
-/// which owns it.
+/// Finds a microcontroller by its signature. Built from all descriptions when it is first asked, which takes longer
+/// than all else of a start; kept for the life of the Programming tab, which owns it.
 class SignatureIndex
 {
 public:
@@ -13,13 +13,14 @@ public:
         QString id; ///< avrdude's "-p"
     };
 
-    /// Reads every description anew. Files that are no description, or lack a name, an id or a signature, are skipped;
-    /// of two with the same signature the later in the folder's order counts.
-    void build();
-
-    /// The microcontroller with @p signature ("1E 94 03"); both texts are empty when there is none.
-    [[nodiscard]] Mcu find(const QString& signature) const { return m_mcus.value(signature); }
+    /// The microcontroller with @p signature ("1E 94 03"); both texts are empty when there is none. Files that are no
+    /// description, or lack a name, an id or a signature, do not count; of two with the same signature the later in the
+    /// folder's order does.
+    [[nodiscard]] Mcu find(const QString& signature);
 
 private:
+    void build();
+
     QHash<QString, Mcu> m_mcus;
+    bool m_isBuilt = false;
 };

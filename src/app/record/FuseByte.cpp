@@ -1,0 +1,58 @@
+#include "app/record/FuseByte.h"
+
+#include <algorithm>
+
+namespace {
+
+void recomputeValue(FuseByte& byte)
+{
+    byte.currentValue = 0;
+    for (std::size_t i = 0; i < byte.fuseBits.size(); ++i)
+        byte.currentValue += byte.fuseBits[i].currentBitValue << i;
+}
+
+} // namespace
+
+void setValue(FuseByte& byte, quint32 value)
+{
+    for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
+        FuseBit& bit = byte.fuseBits[i];
+        if (bit.enabled && bit.isUsed())
+            bit.currentBitValue = (value >> i) & 1U;
+    }
+    recomputeValue(byte);
+}
+
+void setBit(FuseByte& byte, int number, bool isProgrammed)
+{
+    if (number < 0 || number >= static_cast<int>(byte.fuseBits.size()))
+        return;
+    byte.fuseBits[static_cast<std::size_t>(number)].currentBitValue = isProgrammed ? 0 : 1;
+    recomputeValue(byte);
+}
+
+void bringTogether(FuseBytes& bytes)
+{
+    for (FuseByte& byte : bytes)
+        setValue(byte, byte.currentValue);
+}
+
+void restoreDefaults(FuseBytes& bytes)
+{
+    for (FuseByte& byte : bytes)
+        byte.currentValue = byte.defaultValue;
+}
+
+QStringList takeReadValues(FuseBytes& bytes, const QStringList& texts)
+{
+    constexpr int digitsOfByte = 2;
+    QStringList unread;
+    const auto count = std::min(bytes.size(), texts.size());
+    for (auto i = decltype(count) {0}; i < count; ++i) {
+        if (texts.at(i).size() == digitsOfByte)
+            bytes[i].currentValue = texts.at(i).toUInt(nullptr, 16);
+        else
+            unread += bytes.at(i).name;
+    }
+    return unread;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/record/SettingsRecord.h"
+
+#include <QMap>
+#include <QVector>
+
+class ProfilesPresenter;
+
+/// The writing of one board, from the first press of Write to the box that closes it or the failure of a step. Held by
+/// ProfilesPresenter, which runs the steps; a new one takes its place with the next board.
+struct BoardWriting {
+    enum class Area { Flash, Eeprom, Fuses };
+    using Step = void (ProfilesPresenter::*)();
+
+    /// As they were at the first press: what is chosen meanwhile is for the next board. Only the ticks count anew at
+    /// each press.
+    SettingsRecord settings;
+
+    QVector<Step> steps; ///< of the last press, in order
+    int nextStep = 0;
+    QString log; ///< the logs of the runs since then
+    QMap<Area, QString> written; ///< since the first press, each with its lines of the closing box
+};
