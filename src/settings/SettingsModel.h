@@ -7,8 +7,15 @@
 
 #include <functional>
 
+/// What the catalogue says of a programmer.
+struct ProgrammerEntry {
+    QString id; ///< avrdude's "-c"
+    QString arguments; ///< further avrdude arguments, separated by blanks
+    QString portMode; ///< "usb": a fixed port; "com": a choice of serial ports; anything else: none
+};
+
 /// The lists that the settings panel offers. The folders are those of the working directory; a missing one gives an
-/// empty list.
+/// empty list. Owned by the panel.
 class SettingsModel : public QObject
 {
     Q_OBJECT

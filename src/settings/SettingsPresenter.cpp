@@ -1,5 +1,6 @@
 #include "settings/SettingsPresenter.h"
 
+#include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"
@@ -8,6 +9,7 @@
 #include "settings/SettingsView.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QJsonObject>
 #include <QMessageBox>
@@ -23,7 +25,8 @@ SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, Set
     // No programmer is current before the record's is shown, whose entry is then always read.
     view.programmer()->addItems(model.programmerList());
     if (view.programmer()->count() == 0)
-        avrdude.appendToLog(tr("Nothing found in the folder %1.").arg(fullPath(SettingsModel::programmerFolder())));
+        avrdude.log().appendLine(
+            tr("Nothing found in the folder %1.").arg(fullPath(SettingsModel::programmerFolder())));
     view.programmer()->setCurrentIndex(-1);
     view.speed()->addItems(model.speedList());
     view.language()->addItems(model.languageList());
@@ -39,25 +42,33 @@ SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, Set
 
 void SettingsPresenter::refreshFromSettings()
 {
+    const QSignalBlocker programmer(m_view.programmer());
     const QSignalBlocker port(m_view.port());
     const QSignalBlocker speed(m_view.speed());
     const QSignalBlocker language(m_view.language());
 
-    // The programmer's list is not blocked: its catalogue entry is loaded here and rebuilds the port list. That list
-    // is blocked, so the stored port survives the rebuild and is found again in it.
-    const SettingsRecord& settings = m_avrdude.settings();
+    SettingsRecord& settings = m_avrdude.settings();
     showProgrammer();
+    if (m_view.programmer()->currentIndex() < 0) {
+        setPortMode({}); // the ports of another programmer are none of its
+    } else if (const auto entry = readEntry(settings.programmer.name)) {
+        // At the start the entry's arguments count, so that an edited entry does. Whatever is shown later came with a
+        // profile, whose own count if it has any: one profile is one command line, whatever was shown before it.
+        const QString own = m_hasStarted ? settings.arguments : QString();
+        choose(settings.programmer.name, *entry);
+        if (!own.isEmpty())
+            settings.arguments = own;
+        setPortMode(entry->portMode);
+    }
     showPort();
     m_view.speed()->setCurrentText(settings.speed);
     m_view.language()->setCurrentText(settings.language);
+    m_hasStarted = true;
 }
 
 void SettingsPresenter::showProgrammer()
 {
-    const int index = m_view.programmer()->findText(m_avrdude.settings().programmer.name);
-    m_view.programmer()->setCurrentIndex(index);
-    if (index < 0)
-        setPortMode({}); // the ports of another programmer are none of its
+    m_view.programmer()->setCurrentIndex(m_view.programmer()->findText(m_avrdude.settings().programmer.name));
 }
 
 void SettingsPresenter::showPort()
@@ -82,42 +93,50 @@ bool SettingsPresenter::selectStoredPort(QComboBox* comboBox)
 
 void SettingsPresenter::loadProgrammer(const QString& name)
 {
-    const auto report = [this](const QString& text) {
-        QMessageBox::information(&m_view, text, text);
+    const auto entry = readEntry(name);
+    if (!entry) {
         const QSignalBlocker blocker(m_view.programmer());
         showProgrammer(); // the one that the next run uses
-    };
-    const JsonFile file = JsonFile::read(SettingsModel::programmerFile(name));
-    switch (file.state) {
-    case JsonFile::State::NotFound:
-        report(tr("JSON FILE NOT FOUND"));
         return;
-    case JsonFile::State::CannotOpen:
-        report(tr("Cannot open file"));
-        return;
-    case JsonFile::State::ParseError:
-        report(tr("JSON FILE ERROR"));
-        return;
-    case JsonFile::State::Parsed:
-        break;
     }
+    choose(name, *entry);
+    setPortMode(entry->portMode);
+    if (m_view.port()->itemData(0).isValid()) { // of serial ports the first; that of another programmer is none of its
+        const QSignalBlocker blocker(m_view.port());
+        m_view.port()->setCurrentIndex(0);
+        setComPorts(m_view.port()->currentText());
+    }
+}
 
+std::optional<ProgrammerEntry> SettingsPresenter::readEntry(const QString& name)
+{
+    const JsonFile file = JsonFile::read(SettingsModel::programmerFile(name));
+    if (const char* fault = file.fault()) {
+        const QString text = QCoreApplication::translate("JsonFile", fault);
+        QMessageBox::information(&m_view, text, text);
+        return {};
+    }
     const QJsonObject entry = file.document.object();
+    return ProgrammerEntry {
+        entry.value(QLatin1String("id")).toString(),
+        entry.value(QLatin1String("arguments")).toString(),
+        entry.value(QLatin1String("port")).toString(),
+    };
+}
+
+void SettingsPresenter::choose(const QString& name, const ProgrammerEntry& entry)
+{
     SettingsRecord& settings = m_avrdude.settings();
     settings.programmer.name = name;
-    settings.programmer.id = entry.value(QLatin1String("id")).toString();
-    settings.arguments = entry.value(QLatin1String("arguments")).toString();
-    setPortMode(entry.value(QLatin1String("port")).toString());
+    settings.programmer.id = entry.id;
+    settings.arguments = entry.arguments;
 }
 
 void SettingsPresenter::setPortMode(const QString& mode)
 {
     QComboBox* port = m_view.port();
-    {
-        // An emptied list is no choice of a port. Its first new item is one, unless a refresh is under way.
-        const QSignalBlocker blocker(port);
-        port->clear();
-    }
+    const QSignalBlocker blocker(port); // what happens to stand in a new list is no choice of the user's
+    port->clear();
     if (mode == QLatin1String("usb")) {
         port->addItem(QStringLiteral("usb"));
         port->setEnabled(false);

@@ -2,8 +2,11 @@
 
 #include <QObject>
 
+#include <optional>
+
 class Avrdude;
 class QComboBox;
+struct ProgrammerEntry;
 class SettingsModel;
 class SettingsView;
 
@@ -16,15 +19,17 @@ class SettingsPresenter : public QObject
 public:
     SettingsPresenter(Avrdude& avrdude, SettingsModel& model, SettingsView& view, QObject* parent = nullptr);
 
-    /// Shows the settings record again. A stored programmer or port that is in no list shows as blank, and stays
+    /// Shows the settings record again, which takes identifier, fixed port and, where it has none of its own, arguments
+    /// from its programmer's catalogue entry. A stored programmer or port that is in no list shows as blank, and stays
     /// stored; with a speed or language that is in none, the list shows what it did.
     void refreshFromSettings();
 
-    /// Takes the catalogue entry called @p name into the record and offers its kind of port. A missing or broken entry
-    /// is told in a box and changes nothing.
+    /// The user picked the programmer called @p name: takes its catalogue entry into the record, offers its kind of
+    /// port and chooses the first. A missing or broken entry is told in a box and changes nothing.
     void loadProgrammer(const QString& name);
 
-    /// Rebuilds the port list: "usb" for a fixed port, "com" for a choice of serial ports, anything else for none.
+    /// Rebuilds the port list for a mode of ProgrammerEntry and shows the stored port where it is among them. A fixed
+    /// port goes into the record.
     void setPortMode(const QString& mode);
 
 public slots:
@@ -43,6 +48,9 @@ public slots:
     void setComPorts(const QString& comPort);
 
 private:
+    /// The catalogue entry of the programmer called @p name; none, after a box, when there is none or it is broken.
+    [[nodiscard]] std::optional<ProgrammerEntry> readEntry(const QString& name);
+    void choose(const QString& name, const ProgrammerEntry& entry);
     void showProgrammer();
     void showPort();
 
@@ -53,4 +61,5 @@ private:
     Avrdude& m_avrdude;
     SettingsModel& m_model;
     SettingsView& m_view;
+    bool m_hasStarted = false; ///< the record that the program started with has been shown
 };
