@@ -5,13 +5,17 @@
 class QTextEdit;
 
 /// The About tab: product and version, who made it, and what changed in which version.
-/// Its colours are for a light ground, which it brings along where the desktop's is dark.
+/// Its colours are for a light ground, which it brings along where the desktop's is dark. Belongs to the main window.
 class AboutView : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit AboutView(QWidget* parent = nullptr);
+
+    /// None: it is smaller than any other tab, and to ask its labels would load their fonts before anybody looks.
+    [[nodiscard]] QSize sizeHint() const override { return {}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {}; }
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -11,8 +11,10 @@
 #include <QJsonObject>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <QSocketNotifier>
@@ -24,6 +26,34 @@
 #endif
 
 namespace {
+
+/// Waits for the first painting of the widget that it is installed on and owned by, and goes then.
+class FirstPaint : public QObject
+{
+public:
+    FirstPaint(QWidget& window, std::function<void()> then)
+        : QObject(&window)
+        , m_then(std::move(then))
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            object->removeEventFilter(this);
+            // Its children are painted in the same go, before the event loop turns.
+            QTimer::singleShot(0, this, [this] {
+                m_then();
+                deleteLater();
+            });
+        }
+        return false;
+    }
+
+private:
+    const std::function<void()> m_then;
+};
 
 /// The main window while it is shown, else null.
 KorvelApp* mainWindow()
@@ -135,4 +165,9 @@ void Startup::moveToPointerScreen(QWidget& window)
         window.resize(std::min(window.width() + scrollBar, area.width()), area.height() - frame);
     }
     window.move(area.left() + (area.width() - window.width()) / 2, y);
+}
+
+void Startup::afterFirstPaint(QWidget& window, std::function<void()> then)
+{
+    new FirstPaint(window, std::move(then)); // the window's
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 /// The steps of the program's start that main() puts in order.
@@ -18,5 +20,9 @@ void closeOnRequest();
 /// Centres @p window on the available area of the screen under the mouse pointer, else of the primary screen. On a
 /// screen that is lower than the window the window becomes as high as the screen allows, with its title at the top.
 void moveToPointerScreen(QWidget& window);
+
+/// Calls @p then once, when @p window has been painted for the first time: what nobody waits for is not to hold that
+/// up.
+void afterFirstPaint(QWidget& window, std::function<void()> then);
 
 } // namespace Startup

@@ -8,11 +8,14 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <optional>
+
 int main(int argc, char* argv[])
 {
     Toolkit::useHighDpi();
     QApplication application(argc, argv);
     Toolkit::useUtf8Names();
+    Toolkit::leaveOutOpenGl();
 
     // Before any widget: the texts that widgets show are translated while they are built.
     auto* translator = new JsonToQtTranslator(&application);
@@ -28,7 +31,7 @@ int main(int argc, char* argv[])
     Startup::moveToPointerScreen(window);
     window.show();
 
-    UpdateChecker updateChecker;
-    updateChecker.checkForUpdates();
+    std::optional<UpdateChecker> updateChecker;
+    Startup::afterFirstPaint(window, [&updateChecker] { updateChecker.emplace().checkForUpdates(); });
     return QApplication::exec();
 }
