@@ -69,7 +69,7 @@ private slots:
             folder.write(file, content);
             told += Startup::language();
             KorvelApp window;
-            log += window.findChild<Avrdude*>()->logText().remove(QDir::toNativeSeparators(QDir::currentPath() + '/'))
+            log += window.findChild<Avrdude*>()->log().toPlainText().remove(QDir::toNativeSeparators(QDir::currentPath() + '/'))
                 + '\n';
             window.close();
             told += boxes.take();
@@ -152,7 +152,7 @@ private slots:
             window.findChild<QTabWidget*>()->setCurrentIndex(2); // Profiles
             QVERIFY(!window.findChild<SelectView*>()->eeprom()->isEnabled()); // there is no file
             avrdude->execute({}, [] { QFAIL("called back"); });
-            QTRY_VERIFY(avrdude->logText().contains("busy"));
+            QTRY_VERIFY(avrdude->log().toPlainText().contains("busy"));
             QVERIFY(QApplication::overrideCursor());
             QVERIFY(QDir().mkdir(file)); // in the way of the settings
 #ifdef Q_OS_LINUX

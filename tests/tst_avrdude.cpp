@@ -101,7 +101,7 @@ private slots:
 
         bench.avrdude.settings().avrdude = "./no-such-program";
         QCOMPARE(bench.avrdude.execute({}, [] { QFAIL("called back"); }), -1);
-        QVERIFY(bench.avrdude.logText().contains("\navrdude not found"));
+        QVERIFY(bench.avrdude.log().toPlainText().contains("\navrdude not found"));
         QCOMPARE(bench.avrdude.execute({}), 0); // dropped: busy for good
     }
 
@@ -110,20 +110,20 @@ private slots:
         Bench bench;
         bench.folder.write("script", "err first\nawait go\nerr second\nout third");
         bench.avrdude.execute({});
-        QTRY_VERIFY(bench.avrdude.logText().contains("first"));
+        QTRY_VERIFY(bench.avrdude.log().toPlainText().contains("first"));
         bench.log.moveCursor(QTextCursor::Start);
         bench.log.moveCursor(QTextCursor::EndOfWord);
         bench.folder.write("go", "");
-        QTRY_VERIFY(bench.isIdle() && bench.avrdude.logText().startsWith("Korvelsecond\nthird\n: "));
+        QTRY_VERIFY(bench.isIdle() && bench.avrdude.log().toPlainText().startsWith("Korvelsecond\nthird\n: "));
 
         // A selection, even of all there is, stays as it is.
         QFile::remove("go");
         bench.avrdude.execute({});
-        QTRY_VERIFY(bench.avrdude.logText().contains("first"));
+        QTRY_VERIFY(bench.avrdude.log().toPlainText().contains("first"));
         bench.log.selectAll();
         const QString selected = bench.log.textCursor().selectedText();
         bench.folder.write("go", "");
-        QTRY_VERIFY(bench.isIdle() && bench.avrdude.logText().endsWith("first\nsecond\nthird\n"));
+        QTRY_VERIFY(bench.isIdle() && bench.avrdude.log().toPlainText().endsWith("first\nsecond\nthird\n"));
         QCOMPARE(bench.log.textCursor().selectedText(), selected);
 
         QElapsedTimer timer; // one line of a megabyte
@@ -132,14 +132,14 @@ private slots:
         bench.log.show();
         bench.folder.write("line", QByteArray("0xff,").repeated(200000));
         bench.run("print line");
-        QCOMPARE(bench.avrdude.logText().remove('\n').count("0xff,"), 200000);
+        QCOMPARE(bench.avrdude.log().toPlainText().remove('\n').count("0xff,"), 200000);
         QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(bench.log.verticalScrollBar()->value() >= bench.log.verticalScrollBar()->maximum() - 1);
         QVERIFY(bench.log.isReadOnly());
 
         // Characters that are split between two pieces of output stay whole.
         bench.run("err second\nout x" + QByteArray("я").repeated(40000));
-        QCOMPARE(bench.avrdude.logText().count(QStringLiteral("я")), 40000);
+        QCOMPARE(bench.avrdude.log().toPlainText().count(QStringLiteral("я")), 40000);
     }
 };
 

@@ -49,7 +49,7 @@ struct Desk {
     {
         QTest::mouseClick(button, Qt::LeftButton);
         const QStringList told = boxes.wait(30000);
-        return told.isEmpty() ? "no box; the log says: " + avrdude->logText()
+        return told.isEmpty() ? "no box; the log says: " + avrdude->log().toPlainText()
                               : told.join(" | ") + (QApplication::overrideCursor() ? ", pointer still busy" : "");
     }
 
@@ -155,7 +155,7 @@ private slots:
                                                 {"", read, "E199FF"}}) {
             desk.startProgrammer(bench);
             QCOMPARE(bench + desk.boxAfter(buttons->readButton()), bench + box);
-            QCOMPARE(desk.avrdude->logText().contains("error: no device"), box == lost);
+            QCOMPARE(desk.avrdude->log().toPlainText().contains("error: no device"), box == lost);
             QCOMPARE(shownFuses(*desk.window), QString(fuses));
         }
     }

@@ -145,7 +145,7 @@ private slots:
         QFETCH(QString, warning);
         Bench bench;
         bench.folder.copy({"mcu/" + mcu + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
-        BytesModel(bench.avrdude).load(mcu);
+        BytesModel(bench.avrdude.settings()).load(mcu);
         FuseMeanings meanings;
         meanings.load(bench.avrdude.settings());
         QStringList changed; // title, setting, factory setting, warning

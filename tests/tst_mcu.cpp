@@ -47,7 +47,7 @@ private slots:
             {"name": "B7", "default": 1, "enabled": 1}, {"default": true, "enabled": true}, {}, {}, {}, {}, {},
             {"name": "B0", "default": 21}, {"name": "ninth", "default": 1}]}, {"id": "lock", "bits": [{"name": "L"}]}]})");
         bench.folder.write("mcu/Broken.json", "{\"id\": \"x\"");
-        BytesModel model(bench.avrdude);
+        BytesModel model(bench.avrdude.settings());
         for (const char* name : {"X", "Missing", "Broken"}) // the last two change nothing
             model.load(name);
         const QStringList failed {"Korvel: MCU JSON FILE NOT FOUND", "JSON FILE ERROR: JSON FILE ERROR"};

@@ -52,7 +52,7 @@ private slots:
         tab.configuration->name()->setText("no/folder"); // cannot be written, and only the log says so
         add->click();
         emit tab.profiles->textActivated("gone");
-        QCOMPARE(tab.avrdude.logText(),
+        QCOMPARE(tab.avrdude.log().toPlainText(),
                  QString("Failed to save settings to file: ./profiles/no/folder.json\n"
                          "Failed to load settings from file: ./profiles/gone.json"));
         tab.settings.configurationList = QStringList {"A", "B"}; // of a file that somebody prepared
@@ -134,7 +134,7 @@ private slots:
         QCOMPARE(board.boxes.wait().join("").remove(" successfully."),
                  QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
         QCOMPARE(board.requests(), QStringList({"else", "for this", "-Ulock:w:0xfe:m"}));
-        QVERIFY(board.avrdude.logText().contains(QRegularExpression("(?s) for this\n.* -Ulock:w:0xfe:m\n")));
+        QVERIFY(board.avrdude.log().toPlainText().contains(QRegularExpression("(?s) for this\n.* -Ulock:w:0xfe:m\n")));
         QCOMPARE(board.folder.runs().last().section('\t', 1, 1), QString("m16"));
     }
 };

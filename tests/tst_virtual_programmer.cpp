@@ -40,7 +40,7 @@ private slots:
         const WorkFolder folder;
         folder.copy({"mcu/" + name + ".json"});
         Avrdude avrdude(nullptr, nullptr);
-        BytesModel(avrdude).load(name);
+        BytesModel(avrdude.settings()).load(name);
         const QByteArray signature(reinterpret_cast<const char*>(part.signature.data()), 3);
         QCOMPARE(QString(signature.toHex(' ')).toUpper(), avrdude.settings().signature);
         QHash<QString, int> bits; // by name without number; the high fuse begins at bit 8, the extended at 16
