@@ -4,6 +4,7 @@
 #include "profiles/SelectView.h"
 #include "settings/SettingsView.h"
 #include "support/Bench.h"
+#include "support/Table.h"
 
 #ifdef Q_OS_LINUX
 #include <csignal>
@@ -55,62 +56,94 @@ private slots:
         QVERIFY(record.loadFromFile("full.json") && record.loadFromFile(file) && record.saveToFile(file));
         QCOMPARE(folder.read(file), folder.read("fallbacks.json"));
 
-        folder.write(file, R"({"fusesBytes": [7, {"fuseBits": [{}, {}, {}, {}, {}, {}, {}, {}, {"name": "ninth"}]}]})");
-        QVERIFY(record.loadFromFile(file) && record.fusesBytes.at(1).fuseBits[7].name == "NOT USED");
+        // As with a description, values are bytes and bits, and there are eight of these.
+        folder.write(file, R"({"fusesBytes": [7, {"defaultValue": 257, "currentValue": -1, "fuseBits": [
+            {"defaultBitValue": -2, "currentBitValue": 7}, {}, {}, {}, {}, {}, {}, {}, {"name": "ninth"}]}]})");
+        QVERIFY(record.loadFromFile(file));
+        const FuseByte& byte = record.fusesBytes.at(1);
+        QVERIFY(byte.defaultValue == 1 && byte.currentValue == 0xFF && byte.fuseBits[7].name == "NOT USED");
+        QVERIFY(byte.fuseBits[0].defaultBitValue == 1 && byte.fuseBits[0].currentBitValue == 1);
     }
 
-    void startWithStoredSettings()
+    void languageOfTheStart()
+    {
+        const WorkFolder folder;
+        QStringList languages {Startup::language()}; // without a file
+        for (const QByteArray& content : QByteArrayList {"[1]", "{\"language\": 5}", m_full}) {
+            folder.write(file, content);
+            languages += Startup::language();
+        }
+        QCOMPARE(languages, QStringList({"English", "English", "", "Русский"}));
+    }
+
+    void damagedSettingsAreKept()
     {
         const WorkFolder folder;
         BoxAnswerer boxes;
-        QStringList told {Startup::language()};
-        QString log;
-        for (const QByteArray& content : QByteArrayList {m_full.chopped(4), "[1]", "{\"language\": 5}", m_full}) {
+        folder.write("save.damaged-1.json", "another");
+        for (const auto& [content, reason, number] :
+             {std::tuple(m_full.chopped(4), "unterminated object", "2"), {QByteArray("[1]"), "no JSON object", "3"}}) {
             folder.write(file, content);
-            told += Startup::language();
             KorvelApp window;
-            log += window.findChild<Avrdude*>()->log().toPlainText().remove(QDir::toNativeSeparators(QDir::currentPath() + '/'))
-                + '\n';
+            QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to load settings from file: save.json"});
+            const QString kept = QString("save.damaged-%1.json").arg(number);
+            QCOMPARE(folder.read(kept), content);
+            const QString path = QDir::toNativeSeparators(QDir().absoluteFilePath(kept));
+            QVERIFY(window.findChild<Avrdude*>()->log().toPlainText().endsWith(
+                "save.json (" + QString(reason) + ")\nThe file is kept as " + path + ".\n"));
             window.close();
-            told += boxes.take();
+            QVERIFY(SettingsRecord().loadFromFile(file)); // a new one
         }
-        const QString failed = "Korvel: Failed to load settings from file: save.json";
-        QCOMPARE(told, QStringList({"English", "English", failed, "English", failed, "", "Русский"}));
-        // What could not be read is kept, each under a name of its own.
-        QCOMPARE(folder.read("save.damaged-1.json") + folder.read("save.damaged-2.json"), m_full.chopped(4) + "[1]");
-        const QString empty = "Nothing found in the folder mcu.\nNothing found in the folder programmer.\n";
-        const QString kept = failed.mid(8) + " (%2)\nThe file is kept as save.damaged-%1.json.\n";
-        QCOMPARE(log,
-                 empty + kept.arg(1).arg("unterminated object") + empty + kept.arg(2).arg("no JSON object") + empty
-                     + empty);
-        // No catalogue here: the stored programmer is in no list, and still nothing of it is lost.
+        QCOMPARE(folder.read("save.damaged-1.json"), QByteArray("another"));
+    }
+
+#ifdef Q_OS_LINUX
+    void aPipeInPlaceOfTheSettingsIsNotWaitedFor()
+    {
+        const WorkFolder folder;
+        BoxAnswerer boxes;
+        QVERIFY(::mkfifo("save.json", 0600) == 0); // nobody ever writes into it
+        KorvelApp();
+        QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to load settings from file: save.json"});
+        QVERIFY(QDir().entryList({"save.damaged*"}).isEmpty());
+    }
+#endif
+
+    void whatIsInNoListIsNotLost()
+    {
+        const WorkFolder folder; // without microcontrollers, programmers and languages
+        folder.write(file, m_full);
+        KorvelApp window;
+        QCOMPARE(window.findChild<Avrdude*>()->log().toPlainText().count("Nothing found in the folder "), 2);
+        window.close();
         for (const QString key : {"mcuName", "programmer", "arguments", "files", "language"})
             QCOMPARE(QJsonDocument::fromJson(folder.read(file))[key], QJsonDocument::fromJson(m_full)[key]);
-#ifdef Q_OS_LINUX
-        QVERIFY(QFile::remove(file) && ::mkfifo("save.json", 0600) == 0); // nobody ever writes into it
-        KorvelApp();
-        QCOMPARE(boxes.take() + QDir().entryList({"save.damaged-3*"}), QStringList {failed});
-#endif
+    }
+
+    void startShowsWhatIsUsed_data()
+    {
+        casesFrom("starts.txt", {"settings", "usbasp", "used"});
     }
 
     void startShowsWhatIsUsed()
     {
+        QFETCH(QString, settings);
+        QFETCH(QString, usbasp);
         const WorkFolder folder;
         BoxAnswerer boxes;
-        folder.write("programmer/USBasp.json", R"({"id": "usbasp", "arguments": "-F", "port": "usb"})"); // edited
+        folder.write("programmer/USBasp.json", usbasp.toUtf8());
         folder.write("programmer/Mine.json", R"({"id": "avrisp", "port": "com"})");
-        QStringList seen;
-        for (const QByteArray& settings : {QByteArray(), QByteArray("{}"), m_full}) {
-            if (!settings.isEmpty())
-                folder.write(file, settings);
-            const KorvelApp window;
-            const SettingsRecord& record = window.findChild<Avrdude*>()->settings();
-            for (int i = 0; i < 2; ++i) // programmer and port
-                seen += window.findChild<SettingsView*>()->findChildren<QComboBox*>()[i]->currentText();
-            seen += {record.programmer.id, record.arguments};
-            folder.write("programmer/USBasp.json", settings.isEmpty() ? R"({"port": "usb"})" : "{"); // broken
-        }
-        QCOMPARE((seen + boxes.take()).join('|'), QString("USBasp|usb|usbasp|-F|USBasp|usb|||Mine||avrisp|"));
+        if (!settings.isEmpty())
+            folder.write(file, settings.toUtf8());
+        const KorvelApp window;
+        const auto* view = window.findChild<SettingsView*>();
+        const SettingsRecord& record = window.findChild<Avrdude*>()->settings();
+        QTEST(QString("%1, %2, %3, %4")
+                  .arg(view->programmer()->currentText(), view->port()->currentText(), record.programmer.id,
+                       record.arguments)
+                  .trimmed(),
+              "used");
+        QCOMPARE(boxes.take(), QStringList());
     }
 
     void aLoadedProfileIsShown()

@@ -107,30 +107,40 @@ private slots:
     void everyChangeIsExplained()
     {
         Bench bench;
-        bench.folder.copy({"mcu/ATmega328P.json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
         Fuses fuses(bench.avrdude, nullptr);
-        fuses.loadMcu("ATmega328P");
-        fuses.rebuild();
+        loadMega328P(bench, fuses);
         const auto* low = fuses.findChild<FusesByteView*>();
-        const QString factory = "100010: internal oscillator 8 MHz; start-up 6 clocks, after a reset 14 clocks + 65 ms";
-        QCOMPARE(low->fusesBit()[5]->accessibleDescription(),
-                 "Clock source and start-up time\n    SUT1..0 CKSEL3..0 = " + factory);
         const QSize plainSize = low->fusesBit()[5]->sizeHint();
         low->fusesBit()[5]->click();
-        const QString changed =
-            "Clock source and start-up time\n    "
-            "SUT1..0 CKSEL3..0 = 000010: internal oscillator 8 MHz; start-up 6 clocks, after a reset "
-            "14 clocks\n    Factory setting = "
-            + factory;
+        const QString changed = m_clock
+            + "000010: internal oscillator 8 MHz; start-up 6 clocks, after a reset 14 clocks\n    Factory setting = "
+            + m_factoryClock;
         QCOMPARE(low->fusesBit()[0]->toolTip(), changed);
         QVERIFY(low->value()->accessibleDescription().endsWith("\n    CKOUT = 1: off\n" + changed));
         QCOMPARE(low->fusesBit()[5]->sizeHint(), plainSize);
         QVERIFY(low->fusesBit()[5]->font().bold() && !low->fusesBit()[0]->font().bold());
         QTest::keyClicks(low->value(), "62");
-        QVERIFY(low->fusesBit()[0]->toolTip().endsWith(" = " + factory) && !low->fusesBit()[5]->font().bold());
+        QVERIFY(low->fusesBit()[0]->toolTip().endsWith(m_factoryClock) && !low->fusesBit()[5]->font().bold());
+    }
 
+    void meaningsAreThoseOfThePartThatIsShown()
+    {
+        Bench bench;
+        Fuses fuses(bench.avrdude, nullptr);
+        loadMega328P(bench, fuses);
+        // A profile that was made with another description: what leaves the factory is the present one's.
+        FuseByte& byte = bench.avrdude.settings().fusesBytes[0];
+        byte.defaultValue = 0xFF;
+        byte.fuseBits[0].defaultBitValue = 1;
+        fuses.refresh();
+        const auto* bit = fuses.findChild<FusesByteView*>()->fusesBit()[0];
+        QCOMPARE(bit->accessibleDescription(), m_clock + m_factoryClock);
+        QVERIFY(!bit->font().bold());
+
+        fuses.hide();
         bench.avrdude.settings().mcuId = "another";
         fuses.rebuild();
+        fuses.show(); // only now it is read what is known of it
         QCOMPARE(fuses.findChildren<FusesByteView*>().last()->value()->toolTip(), QString());
     }
 
@@ -160,7 +170,7 @@ private slots:
         QCOMPARE(changed.value(3).isEmpty(), warning.isEmpty());
     }
 
-    void readingAndDefaults()
+    void aReadingTakesItsOwnFiles()
     {
         Tab tab;
         tab.folder.write("lfuse.hex", "\xFF"); // yesterday's
@@ -170,32 +180,70 @@ private slots:
         tab.folder.write("go", "");
         QCOMPARE(tab.click(tab.buttons->readButton()), // again, and nothing that was read is lost
                  QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"));
-        QCOMPARE(tab.requests().join('|'), QString("-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"));
+        QCOMPARE(tab.requests(), QStringList {"-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"});
         QCOMPARE(shownFuses(tab.tab), QString("6205")); // 0D without bit 3, which is locked
-        tab.click(tab.buttons->defaultButton());
-        QCOMPARE(shownFuses(tab.tab), QString("62E7"));
+    }
 
-        tab.folder.write("script", "");
-        QCOMPARE(tab.click(tab.buttons->readButton()).section('|', 0, 0),
-                 QString("FUSES: Not read: Name of lfuse, Name of lock"));
+    void whatIsNoByteCountsAsNotRead()
+    {
+        for (const char* script : {"", "make lfuse.hex\nmake lock.hex FF7A"}) { // no files; none, and two bytes
+            Tab tab;
+            tab.folder.write("script", script);
+            QCOMPARE(tab.click(tab.buttons->readButton()).section('|', 0, 0),
+                     QString("FUSES: Not read: Name of lfuse, Name of lock"));
+            QCOMPARE(shownFuses(tab.tab), QString("62E7"));
+        }
+    }
 
-        // A profile of another part comes before a reading ends: it is not the chip that was read.
-        SettingsRecord profile = tab.avrdude.settings();
-        profile.fusesBytes = {makeByte("fuse", 0x62)};
+    void aProfileThatComesDuringAReadingKeepsItsBytes()
+    {
+        Tab tab;
+        SettingsRecord profile = tab.avrdude.settings(); // of another part
+        profile.fusesBytes = {makeByte("lfuse", 0xC0)};
         QVERIFY(profile.saveToFile("profile"));
-        tab.folder.write("script", "make lfuse.hex 11\nmake fuse.hex C0\nwait 100");
+        tab.folder.write("script", "make lfuse.hex 11\nwait 100");
         tab.buttons->readButton()->click();
         QVERIFY(tab.avrdude.settings().loadFromFile("profile"));
         QTRY_VERIFY(tab.isIdle());
-        QCOMPARE(tab.boxes.take(), QStringList());
-        tab.click(tab.buttons->defaultButton()); // before the new list is shown
+        QCOMPARE(tab.boxes.take(), QStringList()); // it is not the chip that was read
+        QCOMPARE(tab.bytes[0].currentValue, 0xC0U);
+    }
+
+    void aListThatIsNotShownYet()
+    {
+        Tab tab;
+        tab.bytes = {makeByte("fuse", 0x62)}; // while a box keeps it from being shown
+        tab.bytes[0].currentValue = 0;
+        tab.click(tab.buttons->defaultButton());
         QCOMPARE(shownFuses(tab.tab), QString("62"));
-        QCOMPARE(tab.click(tab.buttons->readButton()),
-                 QString("FUSES: Fuse bytes read successfully.|-Ufuse:r:fuse.hex:r"));
-        QCOMPARE(shownFuses(tab.tab), QString("C0"));
         tab.bytes = {}; // as of parts that serial programming does not reach
         QCOMPARE(tab.click(tab.buttons->readButton()), QString("FUSES: Fuse bytes read successfully.|"));
     }
+
+    void editorsOnTheirWayOutLeaveTheListAlone()
+    {
+        Tab tab;
+        tab.tab.show();
+        QVERIFY(QTest::qWaitForWindowActive(&tab.tab));
+        tab.tab.findChildren<FusesByteView*>().last()->value()->setFocus();
+        tab.bytes.removeLast(); // the editor that has the focus, and loses it, stands for this one
+        tab.tab.rebuild();
+        QTRY_COMPARE(shownFuses(tab.tab), QString("62"));
+    }
+
+private:
+    /// Shows the fuses of an ATmega328P.
+    static void loadMega328P(const Bench& bench, Fuses& fuses)
+    {
+        bench.folder.copy({"mcu/ATmega328P.json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
+        fuses.loadMcu("ATmega328P");
+        fuses.rebuild();
+        fuses.show();
+    }
+
+    const QString m_clock = "Clock source and start-up time\n    SUT1..0 CKSEL3..0 = ";
+    const QString m_factoryClock =
+        "100010: internal oscillator 8 MHz; start-up 6 clocks, after a reset 14 clocks + 65 ms";
 };
 
 QTEST_MAIN(tst_Fuses)

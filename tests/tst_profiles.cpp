@@ -3,6 +3,7 @@
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "support/Bench.h"
+#include "support/Table.h"
 
 namespace {
 
@@ -14,6 +15,53 @@ struct Tab : Bench {
     ConfigurationView* configuration = tab.findChild<ConfigurationView*>();
     QComboBox* profiles = tab.findChild<ProgrammingView*>()->profiles();
     QPushButton* write = tab.findChild<ProgrammingView*>()->writeButton();
+
+    /// Fills the fields and presses Add with the settings of a part.
+    void add(const QString& name, const QString& part)
+    {
+        QDir().mkdir("profiles");
+        configuration->name()->setText(name);
+        configuration->description()->setText("Rev. B ");
+        settings.mcuName = part;
+        configuration->addButton()->click();
+    }
+};
+
+/// The tab with something to write in each area.
+struct Board : Tab {
+    Board()
+    {
+        settings.fusesEnable = true;
+        settings.cmdFlashWrite = QStringList {"flash"};
+        settings.cmdEepromWrite = QStringList {"eeprom"};
+        settings.fusesBytes = {FuseByte {"", "lock", {}, 0, 0xFE}};
+    }
+
+    /// Ticks the areas that have a letter: "f.f" are the flash and the fuses.
+    void tick(const QString& letters)
+    {
+        for (int i = 0; i < areas.size(); ++i)
+            areas[i]->setChecked(letters[i] != '.');
+    }
+
+    /// Presses Write and lets one run after another end until one with @p request is running.
+    void writeUntil(const QString& request)
+    {
+        folder.write("script", "await go0");
+        write->click();
+        for (int run = 0;
+             QTest::qWaitFor([&] { return requests().size() > run; }) && !requests()[run].contains(request); ++run) {
+            folder.write("script", "await go" + QByteArray::number(run + 1)); // for the next one
+            folder.write("go" + QString::number(run), "");
+        }
+    }
+
+    /// Lets all runs end.
+    void finish()
+    {
+        folder.write("script", "");
+        folder.write("go" + QString::number(requests().size() - 1), "");
+    }
 };
 
 } // namespace
@@ -23,45 +71,55 @@ class tst_Profiles : public QObject
     Q_OBJECT
 
 private slots:
-    void addLoadRemove()
+    void addAndLoad()
     {
         Tab tab;
-        tab.folder.write("profiles/notes.JSON", "");
-        QPushButton* add = tab.configuration->addButton();
-        QPushButton* removeButton = tab.configuration->removeButton();
-        add->click(); // no name, no profile: nothing
-        removeButton->click();
-        tab.configuration->name()->setText("Плата №1 ");
-        tab.configuration->description()->setText("Rev. B ");
-        tab.settings.mcuName = "ATtiny85 ";
-        add->click();
+        tab.configuration->addButton()->click(); // no name, no profile: nothing
+        tab.add("Плата №1 ", "ATtiny85 ");
+        tab.folder.write("profiles/notes.JSON", ""); // none
+        QCOMPARE(Profiles(tab.avrdude, nullptr).findChild<QComboBox*>()->count(), 1);
         tab.settings = {};
-        tab.boxes.button = QMessageBox::No;
-        add->click();
-        removeButton->click();
         emit tab.profiles->textActivated("Плата №1 ");
         QCOMPARE(tab.settings.mcuName + tab.settings.description + tab.settings.currentlyProfilesList,
                  QString("ATtiny85 Rev. B Плата №1 "));
-        QCOMPARE(Profiles(tab.avrdude, nullptr).findChild<QComboBox*>()->count(), 1);
-        tab.boxes.button = QMessageBox::Yes;
-        add->click();
-        removeButton->click();
-        QCOMPARE(tab.settings.profile.name + tab.settings.description, QString());
-        QCOMPARE(QDir("profiles").entryList(QDir::Files).join('|') + tab.profiles->currentText(),
-                 QString("notes.JSON"));
-        tab.configuration->name()->setText("no/folder"); // cannot be written, and only the log says so
-        add->click();
+
+        tab.add("no/folder", {}); // cannot be written, and only the log says so
         emit tab.profiles->textActivated("gone");
         QCOMPARE(tab.avrdude.log().toPlainText(),
                  QString("Failed to save settings to file: ./profiles/no/folder.json\n"
-                         "Failed to load settings from file: ./profiles/gone.json"));
+                         "Failed to load settings from file: ./profiles/gone.json\n"));
+        const QString saved = "Information: Profile \"%1.json\" saved successfully.";
+        QCOMPARE(tab.boxes.take(), QStringList({saved.arg("Плата №1 "), saved.arg("no/folder")}));
+
         tab.settings.configurationList = QStringList {"A", "B"}; // of a file that somebody prepared
         tab.settings.currentlyProfilesList = "B";
         tab.tab.refresh();
         QCOMPARE(tab.profiles->currentText(), QString("B"));
-        const QString overwrite = "Overwrite Confirmation, by default No";
-        QCOMPARE(tab.boxes.take().replaceInStrings(QRegularExpression("(?s):.*"), "").join('|'),
-                 "Information|" + overwrite + "|Delete|" + overwrite + "|Information|Delete|Information");
+    }
+
+    void replaceAndRemove()
+    {
+        Tab tab;
+        QPushButton* removeButton = tab.configuration->removeButton();
+        removeButton->click(); // nothing is chosen
+        tab.add("Board", "ATtiny85");
+        for (const auto& [answer, asked, part, left] :
+             {std::tuple(QMessageBox::No, 2, "ATtiny85", "Board|Board|Board|Rev. B "),
+              {QMessageBox::Yes, 3, "ATmega8", "|||"}}) { // where it is replaced a box says so
+            tab.boxes.take();
+            tab.boxes.button = answer;
+            tab.add("Board", "ATmega8");
+            SettingsRecord saved;
+            QVERIFY(saved.loadFromFile("profiles/Board.json") && saved.mcuName == part);
+            removeButton->click();
+            const QStringList boxes = tab.boxes.take();
+            QCOMPARE(boxes[0].section(':', 0, 0), QString("Overwrite Confirmation, by default No"));
+            QVERIFY(boxes.size() == asked && boxes.last() == "Delete: Delete this profile?");
+            const QString file = QDir("profiles").entryList(QDir::Files).join(',').remove(".json");
+            QCOMPARE(file + '|' + tab.profiles->currentText() + '|' + tab.settings.profile.name + '|'
+                         + tab.settings.description,
+                     QString(left));
+        }
     }
 
     void areas()
@@ -108,34 +166,71 @@ private slots:
         }
     }
 
-    void writePressedDuringARun()
+    void nothingStartsWhileSomethingElseRuns()
     {
-        // While something else runs, nothing starts. Pressed again in the middle, the new first step is dropped and the
-        // old run's end goes on with the new ones, all of them with what was set at first.
-        Tab board;
-        board.folder.write("script", "wait 200");
-        board.settings.fusesEnable = true;
-        board.settings.cmdEepromWrite = QStringList {"for", "this"};
-        board.settings.fusesBytes = {FuseByte {"", "lock", {}, 0, 0xFE}};
-        SettingsRecord next = board.settings;
-        next.mcuId = "t13";
-        next.cmdEepromWrite = QStringList {"for", "the next"};
-        next.fusesBytes[0].currentValue = 0;
-        QVERIFY(next.saveToFile("next"));
-        board.areas[1]->click();
+        Board board;
+        board.areas[0]->click();
         board.avrdude.execute({"else"});
         board.write->click();
         QTRY_VERIFY(board.isIdle());
+        QCOMPARE(board.boxes.take() + board.requests(), QStringList {"else"});
+    }
+
+    void aBoardIsFinishedWithWhatWasSetAtFirst()
+    {
+        Board board;
+        board.areas[1]->click();
         board.areas[2]->click();
         board.write->click();
-        QVERIFY(board.settings.loadFromFile("next"));
-        board.areas[0]->click();
-        board.write->click();
-        QCOMPARE(board.boxes.wait().join("").remove(" successfully."),
-                 QString("Profiles: Eeprom write\nEeprom verify\nFuse bits write\nFuse bits verify"));
-        QCOMPARE(board.requests(), QStringList({"else", "for this", "-Ulock:w:0xfe:m"}));
-        QVERIFY(board.avrdude.log().toPlainText().contains(QRegularExpression("(?s) for this\n.* -Ulock:w:0xfe:m\n")));
+        SettingsRecord next = board.settings;
+        next.mcuId = "t13";
+        next.cmdEepromWrite = QStringList {"next"};
+        next.fusesBytes[0].currentValue = 0;
+        QVERIFY(next.saveToFile("next") && board.settings.loadFromFile("next"));
+        QCOMPARE(board.boxes.wait().size(), 1);
+        QCOMPARE(board.requests(), QStringList({"eeprom", "-Ulock:w:0xfe:m"}));
+        QVERIFY(board.avrdude.log().toPlainText().contains(QRegularExpression("(?s) eeprom\n.* -Ulock:w:0xfe:m\n")));
         QCOMPARE(board.folder.runs().last().section('\t', 1, 1), QString("m16"));
+    }
+
+    void pressedAgainInTheMiddle_data()
+    {
+        casesFrom("presses.txt", {"ticked", "running", "tickedThen", "requests", "told"});
+    }
+
+    void pressedAgainInTheMiddle()
+    {
+        QFETCH(QString, ticked);
+        QFETCH(QString, running);
+        QFETCH(QString, tickedThen);
+        QFETCH(QString, told);
+        Board board;
+        board.tick(ticked);
+        board.writeUntil(running);
+        board.tick(tickedThen);
+        board.write->click();
+        board.finish();
+        QString box = "Profiles: ";
+        for (const QString& area : told.split(", "))
+            box += area + " write successfully.\n" + area + " verify successfully." + (area == "Fuse bits" ? "" : "\n");
+        QCOMPARE(board.boxes.wait(), QStringList {box});
+        QTEST(board.requests().join(' ').replace("-Ulock:w:0xfe:m", "lock"), "requests");
+    }
+
+    void anAreaThatIsTickedLaterHasToFitToo()
+    {
+        Board board;
+        board.folder.write("mcu/ATmega16.json", R"({"id": "m16", "eeprom": 4})");
+        board.folder.write("a.bin", "12345");
+        board.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:a.bin:r"};
+        board.tick("f..");
+        board.writeUntil("flash");
+        board.tick("fe.");
+        board.write->click();
+        QCOMPARE(board.boxes.take(), QStringList {"EEPROM: The file has 5 bytes, the memory only 4."});
+        board.finish(); // what was running goes on
+        QCOMPARE(board.boxes.wait().size(), 1);
+        QCOMPARE(board.requests(), QStringList {"flash"});
     }
 };
 

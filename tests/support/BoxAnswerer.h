@@ -3,6 +3,7 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <functional>
 #include <utility>
 
 /// Stands in for the person at the screen: writes down every message box that opens and presses a button of it, from
@@ -17,6 +18,9 @@ public:
 
     /// How long each box stays open, in milliseconds.
     int delay = 0;
+
+    /// What to do while a box is open, before its button is pressed.
+    std::function<void()> onOpen = [] {};
 
     /// The boxes since the last call, oldest first, as "title: text" or, where it was set which button the Enter key
     /// presses, "title, by default No: text".
@@ -40,6 +44,7 @@ public:
         const QString byDefault = chosen ? ", by default " + chosen->text().remove('&') : QString();
         m_boxes.append(box->windowTitle() + byDefault + QLatin1String(": ") + box->text());
         QTimer::singleShot(delay, box, [this, box] {
+            onOpen();
             QAbstractButton* widget = box->button(button);
             widget ? widget->click() : box->accept();
         });
