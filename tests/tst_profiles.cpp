@@ -169,11 +169,15 @@ private slots:
     void nothingStartsWhileSomethingElseRuns()
     {
         Board board;
-        board.areas[0]->click();
+        board.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 1})");
+        board.settings.cmdFlashWrite = QStringList {"-U", "flash:w:a.bin:r"};
+        board.tick("f..");
+        board.click(board.write);
+        board.folder.write("a.bin", "12"); // now the former board could not be written any more
         board.avrdude.execute({"else"});
         board.write->click();
         QTRY_VERIFY(board.isIdle());
-        QCOMPARE(board.boxes.take() + board.requests(), QStringList {"else"});
+        QCOMPARE(board.boxes.take() + board.requests(), QStringList({"-U flash:w:a.bin:r", "else"}));
     }
 
     void aBoardIsFinishedWithWhatWasSetAtFirst()
@@ -217,16 +221,19 @@ private slots:
         QTEST(board.requests().join(' ').replace("-Ulock:w:0xfe:m", "lock"), "requests");
     }
 
-    void anAreaThatIsTickedLaterHasToFitToo()
+    void anAreaThatIsTickedLaterHasToBeOneThatCanBeWritten()
     {
         Board board;
         board.folder.write("mcu/ATmega16.json", R"({"id": "m16", "eeprom": 4})");
         board.folder.write("a.bin", "12345");
         board.settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:a.bin:r"};
+        board.settings.fusesBytes.clear();
         board.tick("f..");
         board.writeUntil("flash");
-        board.tick("fe.");
-        board.write->click();
+        for (const QString areas : {"fe.", "..f"}) { // a file that is too large, and nothing to write
+            board.tick(areas);
+            board.write->click();
+        }
         QCOMPARE(board.boxes.take(), QStringList {"EEPROM: The file has 5 bytes, the memory only 4."});
         board.finish(); // what was running goes on
         QCOMPARE(board.boxes.wait().size(), 1);

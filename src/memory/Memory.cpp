@@ -64,17 +64,20 @@ void Memory::refresh()
 
 void Memory::startWrite(Avrdude::Callback whenDone)
 {
-    start(m_avrdude.settings().*m_kind.writeCommand, std::move(whenDone));
+    const QStringList command = m_avrdude.settings().*m_kind.writeCommand; // a profile brings its own
+    start(MemoryRequest::from(command), command, std::move(whenDone));
 }
 
 void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 {
-    start(request("v", file).arguments(), std::move(whenDone));
+    const MemoryRequest verification = request("v", file);
+    start(verification, verification.arguments(), std::move(whenDone));
 }
 
 void Memory::startRead(Avrdude::Callback whenDone)
 {
-    start(request("r", fileToRead()).arguments(), std::move(whenDone));
+    const MemoryRequest reading = request("r", fileToRead());
+    start(reading, reading.arguments(), std::move(whenDone));
 }
 
 void Memory::showWritten()
@@ -100,11 +103,11 @@ MemoryRequest Memory::request(const char* operation, const QString& path) const
             setFormatFile(QFileInfo(path).suffix().toLower())};
 }
 
-void Memory::start(const QStringList& arguments, Avrdude::Callback whenDone)
+void Memory::start(const MemoryRequest& request, const QStringList& arguments, Avrdude::Callback whenDone)
 {
     if (m_avrdude.isBusy())
         return; // no box belongs over a run
-    const QString fault = RawFile::fault(m_avrdude.settings(), MemoryRequest::from(arguments));
+    const QString fault = RawFile::fault(m_avrdude.settings(), request);
     if (fault.isEmpty())
         m_avrdude.execute(arguments, std::move(whenDone));
     else

@@ -61,8 +61,8 @@ protected:
 private:
     /// What does @p operation ("r", "w", "v") with the file at @p path.
     [[nodiscard]] MemoryRequest request(const char* operation, const QString& path) const;
-    /// Runs @p arguments, a request, unless its file does not fit.
-    void start(const QStringList& arguments, Avrdude::Callback whenDone);
+    /// Runs @p arguments, which are those of @p request, unless its file does not fit.
+    void start(const MemoryRequest& request, const QStringList& arguments, Avrdude::Callback whenDone);
     void showBox(const QString& text);
 
     MemoryView& m_view;

@@ -14,6 +14,6 @@ struct MemoryRequest {
     /// "-U" and the operation in avrdude's words, "flash:w:C:/fw/app.hex:i".
     [[nodiscard]] QStringList arguments() const;
 
-    /// The request that makes @p arguments. Fields are empty where they hold no such request.
+    /// The request that makes @p arguments. All fields are empty when they are not one such request.
     [[nodiscard]] static MemoryRequest from(const QStringList& arguments);
 };

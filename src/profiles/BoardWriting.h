@@ -19,6 +19,7 @@ struct BoardWriting {
 
     QVector<Step> steps; ///< of the last press, in order
     int nextStep = 0;
-    QString log; ///< the logs of the runs since then
+    QString log; ///< what the log showed at that press, then that of each run which has ended since
+    bool isRunning = false; ///< the run in progress is one of this board's
     QMap<Area, QString> written; ///< since the first press, each with its lines of the closing box
 };

@@ -22,6 +22,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <utility>
+
 ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
                                      ProgrammingView& programmingView, QObject* parent)
     : QObject(parent)
@@ -42,7 +44,7 @@ ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, C
     connect(programmingView.writeButton(), &QPushButton::clicked, this, &ProfilesPresenter::startWriting);
     connect(&avrdude, &Avrdude::runningChanged, this, [this](bool isRunning) {
         if (!isRunning)
-            m_isWriting = false; // until the next step begins
+            m_board.isRunning = false; // until the next step begins
     });
     loadProfileFiles();
 }
@@ -166,39 +168,45 @@ void ProfilesPresenter::updateWriteButton()
 
 void ProfilesPresenter::startWriting()
 {
-    if (!m_avrdude.isBusy()) {
+    const bool isNewBoard = !m_avrdude.isBusy();
+    if (isNewBoard) {
         m_board = {};
         m_board.settings = m_avrdude.settings();
-    } else if (!m_isWriting) {
+    } else if (!m_board.isRunning) {
         return; // it is something else that is running
     }
 
-    const bool flash = m_selectView.flash()->isChecked();
-    const bool eeprom = m_selectView.eeprom()->isChecked();
-    const bool fuses = m_selectView.fuses()->isChecked();
-    if ((flash && !mayWrite(m_board.settings.cmdFlashWrite)) || (eeprom && !mayWrite(m_board.settings.cmdEepromWrite)))
-        return; // before any area is written; pressed in the middle of a writing, that goes on as it was
+    const SettingsRecord& settings = m_board.settings;
+    // In the middle of a writing an area that had nothing to write at first has nothing now.
+    const auto counts = [isNewBoard](const QCheckBox* area, bool isEmpty) {
+        return area->isChecked() && (isNewBoard || !isEmpty);
+    };
+    const bool flash = counts(m_selectView.flash(), settings.cmdFlashWrite.isEmpty());
+    const bool eeprom = counts(m_selectView.eeprom(), settings.cmdEepromWrite.isEmpty());
+    const bool fuses = counts(m_selectView.fuses(), settings.fusesBytes.isEmpty());
+    for (const auto& [isTicked, command] :
+         {std::pair(flash, settings.cmdFlashWrite), {eeprom, settings.cmdEepromWrite}}) {
+        const MemoryRequest request = MemoryRequest::from(command);
+        const QString fault = isTicked ? RawFile::fault(settings, request) : QString();
+        if (!fault.isEmpty()) { // before any area is written; what is running goes on as it was
+            QMessageBox::information(&m_programmingView, request.memory.toUpper(), fault);
+            return;
+        }
+    }
 
-    m_board.steps.clear();
+    QVector<BoardWriting::Step> steps;
+    if (flash)
+        steps.append(&ProfilesPresenter::writeFlash);
+    if (eeprom)
+        steps.append(&ProfilesPresenter::writeEeprom);
+    if (fuses)
+        steps.append(&ProfilesPresenter::writeFuses);
+    if (steps.isEmpty())
+        return;
+    m_board.steps = steps;
     m_board.nextStep = 0;
     m_board.log.clear();
-    if (flash)
-        m_board.steps.append(&ProfilesPresenter::writeFlash);
-    if (eeprom)
-        m_board.steps.append(&ProfilesPresenter::writeEeprom);
-    if (fuses)
-        m_board.steps.append(&ProfilesPresenter::writeFuses);
     nextStep();
-}
-
-bool ProfilesPresenter::mayWrite(const QStringList& command)
-{
-    const MemoryRequest request = MemoryRequest::from(command);
-    const QString fault = RawFile::fault(m_board.settings, request);
-    if (fault.isEmpty())
-        return true;
-    QMessageBox::information(&m_programmingView, request.memory.toUpper(), fault);
-    return false;
 }
 
 void ProfilesPresenter::nextStep()
@@ -206,8 +214,8 @@ void ProfilesPresenter::nextStep()
     m_board.log += m_avrdude.log().toPlainText();
     if (m_board.nextStep >= m_board.steps.size()) {
         m_avrdude.log().replace(m_board.log);
-        const QStringList told = m_board.written.values();
-        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Profiles"), told.join(QString()));
+        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Profiles"),
+                                 QStringList(m_board.written.values()).join(QString()));
         return;
     }
     const BoardWriting::Step step = m_board.steps.at(m_board.nextStep);
@@ -217,7 +225,7 @@ void ProfilesPresenter::nextStep()
 
 void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told)
 {
-    m_isWriting = true;
+    m_board.isRunning = true;
     m_avrdude.execute(m_board.settings, arguments, [this, area, told] {
         m_board.written.insert(area, told); // only now: a step that the runner dropped has written nothing
         nextStep();

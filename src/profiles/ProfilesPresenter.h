@@ -45,7 +45,6 @@ public slots:
 
 private:
     void startWriting();
-    [[nodiscard]] bool mayWrite(const QStringList& command);
     void nextStep();
     void writeFlash();
     void writeEeprom();
@@ -59,5 +58,4 @@ private:
     ProgrammingView& m_programmingView;
 
     BoardWriting m_board; ///< the present or last one
-    bool m_isWriting = false; ///< the run in progress is one of the board's
 };
