@@ -137,6 +137,9 @@ private slots:
         QCOMPARE(bit->accessibleDescription(), m_clock + m_factoryClock);
         QVERIFY(!bit->font().bold());
 
+        fuses.rebuild(); // while the tab is shown
+        QVERIFY(!fuses.findChildren<FusesByteView*>().last()->value()->toolTip().isEmpty());
+
         fuses.hide();
         bench.avrdude.settings().mcuId = "another";
         fuses.rebuild();

@@ -3,6 +3,7 @@
 #include "about/AboutView.h"
 #include "about/SocialLinksWidget.h"
 #include "app/log/AvrdudeMessage.h"
+#include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"

@@ -109,21 +109,21 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     return 0;
 }
 
-int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, ReadingCallback callback)
+int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, Callback callback)
 {
     if (isBusy())
         return 0; // the files may be those of the run in progress
     const bool mayStart = isFound(m_settings.avrdude);
-    QStringList newFiles;
+    m_filesOfReading.clear();
     for (const QString& file : files) {
         if (mayStart)
             QFile::remove(file);
         if (!QFile::exists(file))
-            newFiles += file;
+            m_filesOfReading += file;
     }
-    return execute(arguments, [this, newFiles, generation = m_settings.generation, callback = std::move(callback)] {
+    return execute(arguments, [this, generation = m_settings.generation, callback = std::move(callback)] {
         if (m_settings.generation == generation)
-            callback(newFiles);
+            callback();
     });
 }
 

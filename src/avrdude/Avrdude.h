@@ -21,7 +21,6 @@ class Avrdude : public QObject
 
 public:
     using Callback = std::function<void()>;
-    using ReadingCallback = std::function<void(const QStringList& files)>;
 
     Avrdude(QObject* parent, AvrdudeMessage* log);
     ~Avrdude() override;
@@ -42,9 +41,13 @@ public:
 
     /// execute() for a run that writes what it reads from the chip into @p files, for the record. Files of former
     /// readings go before it starts, so that none of them is taken for its own; they stay when avrdude cannot be found.
-    /// @p callback gets the files but those that could not be removed. It is left out when another microcontroller or
-    /// profile has taken the record over meanwhile: what was read is not theirs.
-    int executeReading(const QStringList& arguments, const QStringList& files, ReadingCallback callback);
+    /// @p callback is left out when another microcontroller or profile has taken the record over meanwhile: what was
+    /// read is not theirs.
+    int executeReading(const QStringList& arguments, const QStringList& files, Callback callback);
+
+    /// Of the last executeReading() the files but those that could not be removed: these would tell of a former
+    /// reading.
+    [[nodiscard]] const QStringList& filesOfReading() const { return m_filesOfReading; }
 
     /// True while avrdude runs, and for good once it could not be started: a call of execute() would be dropped.
     [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
@@ -79,6 +82,7 @@ private:
     QString m_text; ///< the command line and the output of the current or last run, as they came
     int m_outputBegin = 0; ///< in that text
     Message::Findings m_findings; ///< in that text
+    QStringList m_filesOfReading;
     Toolkit::Utf8Decoder m_errorDecoder; ///< one a channel, begun anew with each run
     Toolkit::Utf8Decoder m_outputDecoder;
 };

@@ -52,12 +52,16 @@ const char* JsonFile::fault() const
     return nullptr;
 }
 
+QString JsonFile::faultText() const
+{
+    return QCoreApplication::translate("JsonFile", fault());
+}
+
 QString JsonFile::reason() const
 {
     if (state == State::ParseError)
         return error;
-    return QCoreApplication::translate(
-        "JsonFile", state == State::Parsed ? QT_TRANSLATE_NOOP("JsonFile", "no JSON object") : fault());
+    return state == State::Parsed ? QCoreApplication::translate("JsonFile", "no JSON object") : faultText();
 }
 
 bool writeFile(const QString& path, const QByteArray& content)

@@ -19,9 +19,10 @@ struct JsonFile {
     /// True when the file held a JSON object; document.object() is that object.
     [[nodiscard]] bool isObject() const { return document.isObject(); }
 
-    /// What is wrong with the file, as boxes say it: the source text of a translation in the context "JsonFile". Null
-    /// when the file was parsed.
+    /// What is wrong with the file, as boxes say it, in English; null when the file was parsed. And the same
+    /// translated.
     [[nodiscard]] const char* fault() const;
+    [[nodiscard]] QString faultText() const;
 
     /// Why the file is no JSON object, in words for the log.
     [[nodiscard]] QString reason() const;

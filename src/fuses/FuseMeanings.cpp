@@ -170,6 +170,11 @@ void FuseMeanings::clear()
     *this = {};
 }
 
+quint32 FuseMeanings::changed(const FuseByte& byte) const
+{
+    return existing(byte, byte.currentValue ^ factoryValue(byte));
+}
+
 quint32 FuseMeanings::factoryValue(const FuseByte& byte) const
 {
     return m_factoryValues.value(byte.id, byte.defaultValue);
@@ -199,10 +204,9 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
             : digitsOf(value, bits) + QStringLiteral(": ") + meaningOf(field.name, symbol(value));
     };
     QStringList lines {field.text, namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
-    const quint32 factory = factoryValue(byte);
-    if (((byte.currentValue ^ factory) & bits) != 0) {
-        lines +=
-            QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ") + setting(factory);
+    if ((changed(byte) & bits) != 0) {
+        lines += QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ")
+            + setting(factoryValue(byte));
         const QString warning = warningFor(field.name + QLatin1Char(':') + symbol(byte.currentValue));
         if (!warning.isEmpty())
             lines += warning;

@@ -32,8 +32,9 @@ public:
 
     [[nodiscard]] bool isLoaded() const { return m_isLoaded; }
 
-    /// The value that @p byte leaves the factory with: the description's, else the byte's own default.
-    [[nodiscard]] quint32 factoryValue(const FuseByte& byte) const;
+    /// Those bits of @p byte whose setting is not the factory's: the description's, or the byte's own default while
+    /// none is loaded.
+    [[nodiscard]] quint32 changed(const FuseByte& byte) const;
 
     /// One text for each known field of @p byte, from the highest bit down: the field in words, its present setting
     /// with its meaning, the factory's if that is another, and what to expect where a setting locks the programmer out.
@@ -47,6 +48,7 @@ private:
         QJsonObject symbols; ///< by value, "*" for all others; without any the field holds a number
     };
 
+    [[nodiscard]] quint32 factoryValue(const FuseByte& byte) const;
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
 

@@ -1,5 +1,6 @@
 #include "fuses/Fuses.h"
 
+#include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "fuses/FusesButtons.h"
 #include "fuses/FusesButtonsView.h"
@@ -16,8 +17,8 @@
 
 Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     : QWidget(parent)
-    , m_avrdude(avrdude)
-    , m_bytesModel(new BytesModel(avrdude.settings(), this))
+    , m_settings(avrdude.settings())
+    , m_bytesModel(new BytesModel(m_settings, this))
     , m_scrollArea(new QScrollArea(this))
 {
     auto* bytesView = new FusesBytesView;
@@ -33,7 +34,7 @@ Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     layout->addWidget(m_scrollArea);
     layout->addWidget(buttonsView);
 
-    m_bytes = new FusesBytes(avrdude.settings(), *bytesView, this);
+    m_bytes = new FusesBytes(m_settings, *bytesView, this);
     auto* buttons = new FusesButtons(avrdude, *buttonsView, this);
     connect(buttons, &FusesButtons::setReadingFusesEmit, this, &Fuses::refresh);
     connect(buttonsView->defaultButton(), &QPushButton::clicked, this, &Fuses::onClickDefault);
@@ -57,7 +58,7 @@ void Fuses::refresh()
 
 void Fuses::onClickDefault()
 {
-    restoreDefaults(m_avrdude.settings().fusesBytes);
+    restoreDefaults(m_settings.fusesBytes);
     refresh();
     QMessageBox::information(this, QStringLiteral("FUSES"), tr("Fuse bytes set to default values successfully."));
 }

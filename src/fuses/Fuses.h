@@ -6,6 +6,7 @@ class Avrdude;
 class BytesModel;
 class FusesBytes;
 class QScrollArea;
+struct SettingsRecord;
 
 /// The Fuses tab: an editor for each fuse byte of the microcontroller, and what is done with all of them. Made by the
 /// main window, which owns it; picking a microcontroller in the Programming tab fills it anew.
@@ -24,13 +25,13 @@ public:
     /// replaced.
     void rebuild();
 
-    /// Shows the record's values in the editors that are there.
+    /// Takes every byte's value over into its bits and lets the editors show both.
     void refresh();
 
 private:
     void onClickDefault();
 
-    Avrdude& m_avrdude;
+    SettingsRecord& m_settings;
     BytesModel* m_bytesModel;
     QScrollArea* m_scrollArea;
     FusesBytes* m_bytes;

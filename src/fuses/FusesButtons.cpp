@@ -35,7 +35,7 @@ void FusesButtons::onClickReadBt()
     SettingsRecord& settings = m_avrdude.settings();
     settings.fileNamesReading = FuseRequests::files(settings.fusesBytes);
     m_avrdude.executeReading(FuseRequests::read(settings.fusesBytes), settings.fileNamesReading,
-                             [this](const QStringList& files) { readFuseBytesMcu(files); });
+                             [this] { readFuseBytesMcu(); });
 }
 
 void FusesButtons::onClickWriteMessage()
@@ -48,12 +48,13 @@ void FusesButtons::onClickVerifyMessage()
     QMessageBox::information(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes verified successfully."));
 }
 
-void FusesButtons::readFuseBytesMcu(const QStringList& files)
+void FusesButtons::readFuseBytesMcu()
 {
     SettingsRecord& settings = m_avrdude.settings();
     QStringList texts; // one a byte, empty where avrdude made no file: the chip has no such memory
     for (const QString& file : std::as_const(settings.fileNamesReading)) {
-        m_readFile.readFiles(files.contains(file) ? QStringList(file) : QStringList(),
+        const bool isNew = m_avrdude.filesOfReading().contains(file);
+        m_readFile.readFiles(isNew ? QStringList(file) : QStringList(),
                              [&texts](const QStringList& read) { texts += read.value(0); });
     }
     const QStringList unread = takeReadValues(settings.fusesBytes, texts);

@@ -16,9 +16,9 @@ class FusesButtons : public QObject
 public:
     FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* parent = nullptr);
 
-    /// Takes the files of a reading over into the record's bytes, each its own as far as it is among @p files, and
-    /// tells the user what came of it.
-    void readFuseBytesMcu(const QStringList& files);
+    /// Takes the files of the last reading over into the record's bytes, each its own, and tells the user what came of
+    /// it.
+    void readFuseBytesMcu();
 
 public slots:
     void onClickWriteBt();

@@ -140,7 +140,7 @@ void FusesBytePresenter::showMeanings()
         }
     }
     tell(m_view.value(), byteTexts);
-    const quint32 changed = byte.currentValue ^ m_meanings.factoryValue(byte);
+    const quint32 changed = m_meanings.changed(byte);
     for (int i = 0; i < bitTexts.size(); ++i) {
         QCheckBox* checkBox = m_view.fusesBit().at(i);
         tell(checkBox, bitTexts.at(i));

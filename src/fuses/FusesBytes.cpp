@@ -31,10 +31,9 @@ void FusesBytes::rebuild()
     m_editors.clear();
 
     bringTogether(m_settings.fusesBytes);
-    if (m_view.isVisible())
+    m_meanings.clear();
+    if (m_view.isVisible()) // else when somebody looks
         m_meanings.load(m_settings);
-    else
-        m_meanings.clear(); // until somebody looks
     for (int i = 0; i < m_settings.fusesBytes.size(); ++i)
         m_view.editors()->addWidget(makeEditor(i));
     m_settings.fusesEnable = !m_settings.fusesBytes.isEmpty();
@@ -54,8 +53,8 @@ void FusesBytes::refresh()
 
 void FusesBytes::explain()
 {
-    if (m_meanings.isLoaded())
-        return;
+    if (m_meanings.isLoaded() || m_settings.fusesBytes.size() != m_editors.size())
+        return; // or the editors are about to be made anew
     m_meanings.load(m_settings);
     for (FusesBytePresenter* editor : std::as_const(m_editors))
         editor->showMeanings();

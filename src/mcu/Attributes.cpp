@@ -1,6 +1,7 @@
 #include "mcu/Attributes.h"
 
 #include "app/log/AvrdudeMessage.h"
+#include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "base/JsonFile.h"
 #include "mcu/AttributesView.h"
@@ -67,12 +68,12 @@ void Attributes::setAvrdudeCmdReadCallByte()
 {
     m_view.calibrationByte()->clear();
     m_avrdude.executeReading({QStringLiteral("-U"), QStringLiteral("calibration:r:%1:r").arg(calibrationFile())},
-                             {calibrationFile()}, [this](const QStringList& files) { readFileCallByte(files); });
+                             {calibrationFile()}, [this] { readFileCallByte(); });
 }
 
-void Attributes::readFileCallByte(const QStringList& files)
+void Attributes::readFileCallByte()
 {
-    m_readFile.readFiles(files, [this](const QStringList& texts) {
+    m_readFile.readFiles(m_avrdude.filesOfReading(), [this](const QStringList& texts) {
         if (texts.isEmpty())
             return;
         showCalibration(texts.constFirst());

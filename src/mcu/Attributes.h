@@ -30,9 +30,9 @@ public:
     /// Empties the field and reads the chip's calibration bytes into a file, then from there into the field.
     void setAvrdudeCmdReadCallByte();
 
-    /// Takes the file of a reading, the only one of @p files, over into the field and the record, and tells so. Without
-    /// a file both stay as they are.
-    void readFileCallByte(const QStringList& files);
+    /// Takes the file of the last reading over into the field and the record, and tells so. Without a file both stay as
+    /// they are.
+    void readFileCallByte();
 
 private:
     void showCalibration(const QString& text);

@@ -1,5 +1,6 @@
 #include "mcu/Program.h"
 
+#include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "base/BoxText.h"
 #include "fuses/Fuses.h"
@@ -16,7 +17,7 @@
 
 Program::Program(Avrdude& avrdude, Fuses& fuses, QWidget* parent)
     : QWidget(parent)
-    , m_avrdude(avrdude)
+    , m_settings(avrdude.settings())
     , m_fuses(fuses)
     , m_attributesView(new AttributesView(this))
 {
@@ -44,7 +45,7 @@ void Program::refresh()
 
 void Program::onMcuSelected(const QString& name)
 {
-    m_avrdude.settings().mcuName = name;
+    m_settings.mcuName = name;
     m_fuses.loadMcu(name);
     m_fuses.rebuild();
     QMessageBox::information(

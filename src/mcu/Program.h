@@ -10,6 +10,7 @@ class Avrdude;
 class Eeprom;
 class Flash;
 class Fuses;
+struct SettingsRecord;
 
 /// The Programming tab: the microcontroller panel and the panels of the two memories, with their logic. Made by the
 /// main window, which owns it, as it does the Fuses tab and the runner; both outlive it.
@@ -26,7 +27,7 @@ public:
 private:
     void onMcuSelected(const QString& name);
 
-    Avrdude& m_avrdude;
+    SettingsRecord& m_settings;
     Fuses& m_fuses;
     SignatureIndex m_signatures;
     AttributesView* m_attributesView;

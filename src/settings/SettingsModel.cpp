@@ -3,6 +3,7 @@
 #include "base/JsonFile.h"
 
 #include <QDir>
+#include <QJsonObject>
 
 SettingsModel::SettingsModel(QObject* parent, PortSource ports)
     : QObject(parent)
@@ -35,7 +36,10 @@ QStringList SettingsModel::languageList() const
     return jsonBaseNames(QStringLiteral("Languages"));
 }
 
-QString SettingsModel::programmerFile(const QString& name)
+ProgrammerEntry SettingsModel::programmerEntry(const QString& name)
 {
-    return QDir(programmerFolder()).filePath(name + QLatin1String(".json"));
+    const JsonFile file = JsonFile::read(QDir(programmerFolder()).filePath(name + QLatin1String(".json")));
+    const QJsonObject entry = file.document.object();
+    const auto text = [&entry](const char* key) { return entry.value(QLatin1String(key)).toString(); };
+    return {file.fault() ? file.faultText() : QString(), text("id"), text("arguments"), text("port")};
 }

@@ -7,8 +7,9 @@
 
 #include <functional>
 
-/// What the catalogue says of a programmer.
+/// What the catalogue says of a programmer. A plain value.
 struct ProgrammerEntry {
+    QString fault; ///< what keeps the entry from being read, for the user; empty when it was read
     QString id; ///< avrdude's "-c"
     QString arguments; ///< further avrdude arguments, separated by blanks
     QString portMode; ///< "usb": a fixed port; "com": a choice of serial ports; anything else: none
@@ -40,8 +41,8 @@ public:
 
     [[nodiscard]] QVector<SerialPort> serialPorts() const { return m_ports(); }
 
-    /// Path of the catalogue entry of the programmer called @p name.
-    [[nodiscard]] static QString programmerFile(const QString& name);
+    /// The catalogue entry of the programmer called @p name. A text that is missing or none is empty.
+    [[nodiscard]] static ProgrammerEntry programmerEntry(const QString& name);
 
 private:
     PortSource m_ports;

@@ -2,12 +2,11 @@
 
 #include <QObject>
 
-#include <optional>
-
 class Avrdude;
 class QComboBox;
 struct ProgrammerEntry;
 class SettingsModel;
+struct SettingsRecord;
 class SettingsView;
 
 /// Fills the settings panel and writes every choice into the settings record at once. Lives as long as the panel, which
@@ -19,9 +18,9 @@ class SettingsPresenter : public QObject
 public:
     SettingsPresenter(Avrdude& avrdude, SettingsModel& model, SettingsView& view, QObject* parent = nullptr);
 
-    /// Shows the settings record again, which takes identifier, fixed port and, where it has none of its own, arguments
-    /// from its programmer's catalogue entry. A stored programmer or port that is in no list shows as blank, and stays
-    /// stored; with a speed or language that is in none, the list shows what it did.
+    /// Shows the settings record again. One that was replaced takes identifier, fixed port and, where it has none of
+    /// its own, arguments from its programmer's catalogue entry. A stored programmer or port that is in no list shows
+    /// as blank, and stays stored; with a speed or language that is in none, the list shows what it did.
     void refreshFromSettings();
 
     /// The user picked the programmer called @p name: takes its catalogue entry into the record, offers its kind of
@@ -48,18 +47,18 @@ public slots:
     void setComPorts(const QString& comPort);
 
 private:
-    /// The catalogue entry of the programmer called @p name; none, after a box, when there is none or it is broken.
-    [[nodiscard]] std::optional<ProgrammerEntry> readEntry(const QString& name);
+    /// Takes what the catalogue has of the programmer called @p name into the record, and offers its kind of port. An
+    /// entry that could not be read changes nothing.
     void choose(const QString& name, const ProgrammerEntry& entry);
+
+    /// Tells in a box why @p entry could not be read, if it could not.
+    void tell(const ProgrammerEntry& entry);
+
     void showProgrammer();
     void showPort();
 
-    /// Makes the record's port current, whole or as a name in "/dev", and stores it as it is listed. Returns false,
-    /// with nothing changed, when it is not in the list.
-    bool selectStoredPort(QComboBox* comboBox);
-
-    Avrdude& m_avrdude;
+    SettingsRecord& m_settings;
     SettingsModel& m_model;
     SettingsView& m_view;
-    bool m_hasStarted = false; ///< the record that the program started with has been shown
+    int m_shownGeneration = -1; ///< of the record, when it was last shown; -1: never
 };

@@ -1,7 +1,5 @@
 #include "app/record/FuseByte.h"
 
-#include <algorithm>
-
 namespace {
 
 void recomputeValue(FuseByte& byte)
@@ -47,12 +45,12 @@ QStringList takeReadValues(FuseBytes& bytes, const QStringList& texts)
 {
     constexpr int digitsOfByte = 2;
     QStringList unread;
-    const auto count = std::min(bytes.size(), texts.size());
-    for (auto i = decltype(count) {0}; i < count; ++i) {
-        if (texts.at(i).size() == digitsOfByte)
-            bytes[i].currentValue = texts.at(i).toUInt(nullptr, 16);
+    auto byte = bytes.begin();
+    for (auto text = texts.begin(); text != texts.end() && byte != bytes.end(); ++text, ++byte) {
+        if (text->size() == digitsOfByte)
+            byte->currentValue = text->toUInt(nullptr, 16);
         else
-            unread += bytes.at(i).name;
+            unread += byte->name;
     }
     return unread;
 }

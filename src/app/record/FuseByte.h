@@ -19,8 +19,9 @@ struct FuseBit {
 };
 
 /// One fuse or lock byte of a microcontroller. A plain value, copied whole with the list that holds it. Its value is
-/// there twice, as a number and as bits: who reads a description or a file fills both, the functions below keep them
-/// together, and nothing else changes either.
+/// there twice, as a number and as bits: who reads a description or a file fills both. setValue(), setBit() and
+/// bringTogether() keep them together; the other functions below change the number alone, and bringTogether() is due
+/// after them. Nothing else changes either.
 struct FuseByte {
     QString name; ///< shown to the user
     QString id; ///< avrdude's name of the memory ("lfuse"); "lock..." marks the lock byte
@@ -47,7 +48,7 @@ void bringTogether(FuseBytes& bytes);
 /// Gives every byte its default value.
 void restoreDefaults(FuseBytes& bytes);
 
-/// Gives the bytes the values read from the chip, in order, as far as both lists go. @p texts are hexadecimal, one byte
-/// each; any other leaves its byte as it is: the chip has no such memory, or what came is none. Returns the names of
-/// the bytes so left.
+/// Gives the bytes the values read from the chip, in order, as far as both lists go. @p texts are hexadecimal, two
+/// digits each; any other leaves its byte as it is: the chip has no such memory, or what came is none. Returns the
+/// names of the bytes so left.
 [[nodiscard]] QStringList takeReadValues(FuseBytes& bytes, const QStringList& texts);

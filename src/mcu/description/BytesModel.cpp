@@ -82,8 +82,7 @@ int BytesModel::load(const QString& name)
     if (const char* fault = file.fault()) {
         const bool isMissing = file.state == JsonFile::State::NotFound;
         QMessageBox::information(QApplication::activeWindow(), isMissing ? ProductInfo::name : QLatin1String(fault),
-                                 isMissing ? tr("MCU JSON FILE NOT FOUND")
-                                           : QCoreApplication::translate("JsonFile", fault));
+                                 isMissing ? tr("MCU JSON FILE NOT FOUND") : file.faultText());
         return 0;
     }
 
