@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds the descriptions of microcontrollers and programmers, and the samples, against facts: the table in
-tests/data/parts.txt, the installed avrdude, and what docs/devices.md says. Prints a line for each difference and ends with
-1 when there is one."""
+tests/data/parts.txt, the installed avrdude, which may be any from 7.0 to 8.2, and what docs/devices.md says. Prints a
+line for each difference and ends with 1 when there is one."""
 import json
 import pathlib
 import re
@@ -25,16 +25,33 @@ def load(folder):
     return files
 
 
+def avrdude_says(*arguments):
+    run = subprocess.run(['avrdude', *arguments], capture_output=True, text=True)
+    return run.stdout + run.stderr
+
+
 def avrdude_table(option):
-    """avrdude's own description of its parts ("-p") or programmers ("-c")."""
-    run = subprocess.run(['avrdude', option, '*/St'], capture_output=True, text=True)
-    return [line.split('\t') for line in (run.stdout + run.stderr).split('\n')]
+    """avrdude's own description of its parts ("-p") or programmers ("-c"), in cells: kind, name, property, value. All
+    that 7.0 has is a list of identifiers and names."""
+    kind = {'-p': '.pt', '-c': '.prog'}[option]
+    table = [line.split('\t') for line in avrdude_says(option, '*/St').split('\n')]
+    if not any(cells[0] == kind for cells in table):
+        listed = re.findall(r'^  (\S+) += (.+)$', avrdude_says(option, '?'), re.MULTILINE)
+        table = [[kind, name if option == '-p' else identifier, 'id', f'"{identifier}"'] for identifier, name in listed]
+    return table
 
 
 def devices(title=''):
     """A section of the list of devices, or what stands above the first."""
     text = (top / 'docs/devices.md').read_text()
     return (text.split('\n## ' + title, 1)[1] if title else text).split('\n## ')[0]
+
+
+def is_known_rightly(known, is_newer):
+    """Whether it is in order that the installed avrdude knows something or not. What docs/devices.md lists as newer
+    than 7.1 came with some version up to 8.2; what 7.0 lacks of the rest is not listed."""
+    may, must = not is_newer or version > (7, 1), version >= ((8, 2) if is_newer else (7, 1))
+    return may if known else not must
 
 
 def has_word(text, word):
@@ -54,13 +71,18 @@ for line in (top / 'tests/data/parts.txt').read_text().splitlines():
     bytes_ = [m.replace('*', '') + ('' if '/' in m else '/FF') for m in memories if not m.startswith('(')]
     facts[name] = description, 'ISP' in interfaces, bytes_
 
-installed = {}  # identifier, and the memories of one byte, of the parts that avrdude knows
+found = re.search(r'version (\d+)\.(\d+)', avrdude_says('-?'), re.IGNORECASE)
+check(found, 'avrdude does not tell its version')
+version = tuple(map(int, found.groups())) if found else (7, 1)
+identifiers, memories_of = {}, {}  # of the parts that avrdude knows; the memories are those of one byte
 for cells in avrdude_table('-p'):
     if len(cells) > 3 and cells[0] == '.pt' and cells[2] == 'id':
-        installed.setdefault(cells[1], [cells[3].strip('"')])
+        identifiers[cells[1]] = re.findall('"(.+?)"', cells[3])
     elif len(cells) > 4 and cells[3:5] == ['size', '1']:
-        installed[cells[1]].append(cells[2])
-check('lfuse' in installed.get('ATmega16', []), 'avrdude does not describe its parts')
+        memories_of.setdefault(cells[1], set()).add(cells[2])
+check('m16' in identifiers.get('ATmega16', []), 'avrdude does not list its parts')
+check(version < (7, 1) or 'lfuse' in memories_of.get('ATmega16', []), 'avrdude does not describe its parts')
+newer = devices('What needs avrdude 8')
 
 other_names = re.compile('LVL|OSCSEL|OSCHFFRQ|PLLCK|NVLB|JTAGUSERID')  # than their field's
 ships = load('mcu')
@@ -68,14 +90,15 @@ seen = set()  # fields that some part has
 factory = {}  # identifier, and the factory values
 for name, found in sorted(ships.items()):
     expected, is_serial, memories = facts.get(name, ({}, False, []))
-    known = installed.get(name, [])
+    known = identifiers.get(name)
     listed = []
     factory[name] = found['id'], [(byte['id'], sum(bit['default'] << 7 - place for place, bit in enumerate(byte['bits'])))
                                   for byte in found['FuseBytes']]
     for byte in found.pop('FuseBytes'):
         seen |= set(byte['fields'].values())
         where = f'{name} {byte["id"]}'
-        check(byte['name'].strip() and (not known or byte['id'] in known), where, 'is no memory of this avrdude')
+        check(byte['name'].strip() and byte['id'] in memories_of.get(name, [byte['id']]), where,
+              'is no memory of this avrdude')
         names = [bit['name'] for bit in byte['bits']]
         exists = [bit != 'NOT USED' for bit in names]
         may_change = [here and not (bit == 'SPIEN' and is_serial) for here, bit in zip(exists, names)]
@@ -98,10 +121,11 @@ for name, found in sorted(ships.items()):
                 check(before == int(number or 0) + 1, where, bit, 'does not follow', before)
                 last[(owners[:1] + [''])[0] + stem] = int(number or 0)
     check(listed == memories, name, 'has', listed, 'instead of', memories)
-    if name.lower() in known:  # newer ones know the part by its name too
+    if name.startswith('AVR') and not has_word(newer, name):  # 7.1 has the whole name, which newer ones take too
         expected = dict(expected, id=name.lower())
     check(found == expected, name, 'is', found, 'instead of', expected)
-    check(not known or known[0] == found['id'], name, 'is called', known[:1], 'by avrdude')
+    accepted = (known or [found['id']]) + [name.lower()] * (version > (7, 1))
+    check(found['id'] in accepted, name, 'is called', known, 'by avrdude')
 
 meanings, words = load('mcu/meanings')['fields'], load('mcu/meanings')['words']
 rules = [(re.compile(pattern), replacement) for pattern, replacement in words['rules']]
@@ -122,29 +146,43 @@ for name, sample in samples.items():
     values = [(byte['id'], byte['defaultValue']) for byte in sample['fusesBytes']]
     check((sample['mcuId'], values) == factory.get(sample['mcuName']), 'sample', name, 'does not fit its part')
 
-missing, newer = devices('Microcontrollers that do not ship'), devices('What needs avrdude 8')
+missing = devices('Microcontrollers that do not ship')
 for name in facts:
     check((name in ships) != has_word(missing, name), name, 'ships, or is listed as missing')
-    check(has_word(newer, name) == (name in ships and name not in installed), name, 'needs a newer avrdude')
+for name in ships:
+    check(is_known_rightly(name in identifiers, has_word(newer, name)), name, 'needs a newer avrdude')
 
-ports = {}
-for cells in avrdude_table('-c'):  # each with its id first, and not always with a connection
+ports = {}  # of the programmers that avrdude knows; none where it does not tell
+optional = {'linuxspi'}  # not every build of avrdude has these
+for cells in avrdude_table('-c'):  # each with its names first, and not always with a connection
+    if len(cells) > 3 and cells[2] == 'id':
+        names = re.findall('"(.+?)"', cells[3])
     if len(cells) > 3 and cells[2] in ('id', 'connection_type'):
-        ports[cells[1]] = 'com' if cells[3] == 'serial' else 'usb'
+        port = 'com' if cells[3] == 'serial' else 'usb' if version >= (7, 1) else None
+        ports.update(dict.fromkeys(names, port))
+    if cells[2:] in (['type', '"par"'], ['type', '"linuxgpio"']):
+        optional.update(names)
 offered = set()
+older = 0  # those that 7.1 knows
 programmers = load('programmer')
 for name, entry in programmers.items():
     identifier, arguments = entry['id'], entry['arguments']
-    row = f'| {name} | `{identifier}` | {entry["port"]} |'
-    check((identifier in ports) != (row in newer), name, 'needs a newer avrdude')
-    port = 'usb' if '-P ' in arguments else ports.get(identifier, entry['port'])
+    is_newer = f'| {name} | `{identifier}` | {entry["port"]} |' in newer
+    older += not is_newer
+    check(identifier in optional or is_known_rightly(identifier in ports, is_newer), name, 'needs a newer avrdude')
+    port = 'usb' if '-P ' in arguments else ports.get(identifier) or entry['port']
     check(entry == {'id': identifier, 'arguments': arguments, 'port': port}, name, 'is', entry, 'not on', port)
     check((identifier, arguments) not in offered, name, 'is there twice')
     offered |= {identifier, (identifier, arguments)}
 missing = devices('Programmers that do not ship')
 for identifier in ports:
-    check((identifier in offered) != (re.search('[ ]' + re.escape(identifier) + r'\b', missing) is not None),
+    is_missing = re.search('[ ]' + re.escape(identifier) + r'\b', missing) is not None
+    # Newer ones have more, which are told in words, and 7.0 spells some in another way.
+    check(not is_missing if identifier in offered else is_missing or identifier in optional or version != (7, 1),
           identifier, 'is offered, or listed as missing')
+known = sum(not has_word(newer, name) for name in ships)
+counts = f'avrdude 7.1 knows {known} of the microcontrollers and {older} of the programmers'
+check(counts in newer, 'docs/devices.md does not say:', counts)
 counts = f'descriptions of {len(ships)} microcontrollers (`data/mcu`) and entries for {len(programmers)} programmers'
 check(counts in devices(), 'docs/devices.md does not say:', counts)
 

@@ -40,9 +40,10 @@ struct Desk {
     /// Runs avrdude behind the window's back.
     int runAvrdude(const QStringList& arguments) const
     {
-        return QProcess::execute("avrdude",
-                                 QStringList {"-p", "m16", "-c", "stk500v1", "-P", "net:127.0.0.1" + port} + arguments);
+        return QProcess::execute("avrdude", QStringList {"-pm16", "-cstk500v1", "-Pnet:127.0.0.1" + port} + arguments);
     }
+
+    bool logHas(const QString& text) const { return avrdude->log().toPlainText().contains(text); }
 
     /// Clicks, waits for the end of the run, and returns the boxes that told it.
     QString boxAfter(QPushButton* button)
@@ -78,8 +79,10 @@ private slots:
                 firmware.append(static_cast<char>(i * i / 7 + i));
             desk.folder.write("my firmware.bin", firmware);
             memory->writePath()->setText("my firmware.bin");
-            QCOMPARE(desk.boxAfter(memory->writeButton()),
-                     QString("%1: %1 written successfully.\n%1 verified successfully.").arg(name));
+            const QString box = desk.boxAfter(memory->writeButton());
+            // avrdude 8, which takes leave so, does not say that it verifies what it wrote.
+            const QString verified = desk.logHas("\nAvrdude done.") ? "" : "\n%1 verified successfully.";
+            QCOMPARE(box, QString("%1: %1 written successfully." + verified).arg(name));
             desk.folder.write("my firmware.bin", firmware + "one byte more");
             QCOMPARE(desk.boxAfter(memory->writeVerifyButton()), QString("AVRDUDE: Verification error."));
 
@@ -146,16 +149,19 @@ private slots:
         QTest::keyClicks(desk.window->findChild<FusesByteView*>()->value(), "ef"); // a crystal
         QCOMPARE(desk.boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
         const QString read = "FUSES: Fuse bytes read successfully.";
-        // What avrdude 7.1 says to an STK500 without a chip ends with "use -F to override this check".
-        const QString lost = "AVRDUDE: Wrong microcontroller selected.";
-        for (const auto& [bench, box, fuses] : {std::tuple("", lost, "EF99FF"),
-                                                {"--clock=8000000", read, "EF99FF"},
-                                                {"--clock=32768", lost, "EF99FF"}, // slower than the bit clock allows
-                                                {"--rescue", read, "E199FF"},
-                                                {"", read, "E199FF"}}) {
+        const QString wrongPart = "AVRDUDE: Wrong microcontroller selected.";
+        const QString noAnswer = "AVRDUDE: Programmer did not detect the microcontroller";
+        for (const auto& [bench, answers, fuses] : {std::tuple("", false, "EF99FF"),
+                                                    {"--clock=8000000", true, "EF99FF"},
+                                                    {"--clock=32768", false, "EF99FF"}, // slower than the bit clock
+                                                    {"--rescue", true, "E199FF"},
+                                                    {"", true, "E199FF"}}) {
             desk.startProgrammer(bench);
-            QCOMPARE(bench + desk.boxAfter(buttons->readButton()), bench + box);
-            QCOMPARE(desk.avrdude->log().toPlainText().contains("error: no device"), box == lost);
+            const QString box = desk.boxAfter(buttons->readButton()).section('\n', 0, 0);
+            QCOMPARE(desk.logHas("no device"), !answers);
+            // avrdude 7.1 ends that with the advice that it has for a wrong part; others break the line or reword it.
+            const QString lost = desk.logHas("use -F to override this check") ? wrongPart : noAnswer;
+            QCOMPARE(bench + box, bench + (answers ? read : lost));
             QCOMPARE(shownFuses(*desk.window), QString(fuses));
         }
     }
