@@ -4,10 +4,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 build_packages=(g++ cmake ninja-build qtbase5-dev libqt5serialport5-dev avrdude python3)
 
-# Installs those of the named Debian packages that are missing; elsewhere names them all and gives up.
+# Installs those of the named Debian packages that are missing; where there is no apt, names them all and gives up.
 need_packages() {
+    [ -z "${KORVEL_SKIP_PACKAGES:-}" ] || return 0
     if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
-        [ -n "${KORVEL_SKIP_PACKAGES:-}" ] && return
         echo "This system has no apt. Install what these Debian packages hold, set KORVEL_SKIP_PACKAGES=1, and start" \
             "again: $*" >&2
         exit 1
