@@ -10,7 +10,9 @@ seconds=${1:-600}
 readers=("$@")
 [ ${#readers[@]} -gt 0 ] || readers=(settings description translation update output)
 
-need_packages "${build_packages[@]}" clang libclang-rt-14-dev
+need_packages "${build_packages[@]}" clang
+version=$(clang++ -dumpversion)
+[ "${version%%.*}" -lt 14 ] || need_packages "libclang-rt-${version%%.*}-dev" # before 14 clang brings the sanitizers
 CXX=clang++ cmake --preset dev -B build/fuzz -DKORVEL_FUZZ=ON -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all" >/dev/null
 cmake --build build/fuzz --target "${readers[@]/#/fuzz-}"
