@@ -36,8 +36,11 @@ if [ -n "$demo" ]; then
         ../../data/save.json >demo/save.json
     cd demo
     ./korvel-virtual-programmer --state chip.json >programmer.log 2>&1 &
-    started+=($!)
-    if ! wait_for grep -q Listening programmer.log; then
+    programmer=$!
+    started+=("$programmer")
+    is_up() { grep -q Listening programmer.log; }
+    is_up_or_gone() { is_up || ! kill -0 "$programmer"; }
+    if ! wait_for is_up_or_gone || ! is_up; then
         cat programmer.log >&2
         exit 1
     fi
