@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>JSON-DATEI DER MCU NICHT GEFUNDEN</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Datei lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>FEHLER IN DER JSON-DATEI</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Der Weg zurück: alles löschen.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>JSON-DATEI NICHT GEFUNDEN</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Datei lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>FEHLER IN DER JSON-DATEI</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>kein JSON-Objekt</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Der Weg zurück: alles löschen.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Einstellungen ließen sich nicht aus dieser Datei laden: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Datei lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>kein JSON-Objekt</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Trotzdem löschen?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>JSON-DATEI NICHT GEFUNDEN</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Datei lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>FEHLER IN DER JSON-DATEI</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Die neue Sprache gilt nach einem Neustart des Programms.</translation>

@@ -61,14 +61,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>MCU JSON FILE NOT FOUND</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Cannot open file</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON FILE ERROR</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -212,6 +204,25 @@ The way back: erase all of it.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>JSON FILE NOT FOUND</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Cannot open file</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>JSON FILE ERROR</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>no JSON object</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -220,14 +231,6 @@ The way back: erase all of it.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Failed to load settings from file: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Cannot open file</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>no JSON object</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -767,18 +770,6 @@ Do you want to delete it anyway?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>JSON FILE NOT FOUND</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Cannot open file</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON FILE ERROR</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Please restart the application to apply language changes.</translation>

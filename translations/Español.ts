@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>ARCHIVO JSON DEL MCU NO ENCONTRADO</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>No se puede abrir el archivo</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERROR EN EL ARCHIVO JSON</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Para recuperarlo: bórrelo todo.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>ARCHIVO JSON NO ENCONTRADO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>No se puede abrir el archivo</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERROR EN EL ARCHIVO JSON</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>no es un objeto JSON</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>No se pudieron cargar los ajustes del archivo: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>No se puede abrir el archivo</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>no es un objeto JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Do you want to delete it anyway?</source>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>ARCHIVO JSON NO ENCONTRADO</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>No se puede abrir el archivo</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERROR EN EL ARCHIVO JSON</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Reinicie el programa para aplicar el cambio de idioma.</translation>

@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>FICHIER JSON DU MCU INTROUVABLE</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Impossible d&apos;ouvrir le fichier</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERREUR DANS LE FICHIER JSON</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>FICHIER JSON INTROUVABLE</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Impossible d&apos;ouvrir le fichier</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERREUR DANS LE FICHIER JSON</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>ce n&apos;est pas un objet JSON</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Impossible de charger les réglages du fichier&#xa0;: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Impossible d&apos;ouvrir le fichier</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>ce n&apos;est pas un objet JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Le supprimer quand même ?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>FICHIER JSON INTROUVABLE</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Impossible d&apos;ouvrir le fichier</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERREUR DANS LE FICHIER JSON</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Redémarrez le programme pour changer de langue.</translation>

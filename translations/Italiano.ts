@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>FILE JSON DELL&apos;MCU NON TROVATO</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Impossibile aprire il file</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERRORE NEL FILE JSON</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Per recuperarlo: cancellare tutto.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>FILE JSON NON TROVATO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Impossibile aprire il file</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERRORE NEL FILE JSON</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>non è un oggetto JSON</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Impossibile caricare le impostazioni dal file: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Impossibile aprire il file</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>non è un oggetto JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Eliminarlo comunque?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>FILE JSON NON TROVATO</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Impossibile aprire il file</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERRORE NEL FILE JSON</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Riavviare il programma per cambiare la lingua.</translation>

@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>NIE ZNALEZIONO PLIKU JSON DLA MCU</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Nie można otworzyć pliku</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>BŁĄD W PLIKU JSON</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>NIE ZNALEZIONO PLIKU JSON</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Nie można otworzyć pliku</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>BŁĄD W PLIKU JSON</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>to nie jest obiekt JSON</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Nie udało się wczytać ustawień z pliku: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Nie można otworzyć pliku</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>to nie jest obiekt JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Usunąć mimo to?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>NIE ZNALEZIONO PLIKU JSON</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Nie można otworzyć pliku</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>BŁĄD W PLIKU JSON</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Uruchom program ponownie, aby zmienić język.</translation>

@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>ARQUIVO JSON DO MCU NÃO ENCONTRADO</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Não foi possível abrir o arquivo</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERRO NO ARQUIVO JSON</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Para recuperá-lo: apague tudo.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>ARQUIVO JSON NÃO ENCONTRADO</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Não foi possível abrir o arquivo</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ERRO NO ARQUIVO JSON</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>não é um objeto JSON</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Não foi possível carregar as configurações do arquivo: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Não foi possível abrir o arquivo</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>não é um objeto JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Excluir mesmo assim?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>ARQUIVO JSON NÃO ENCONTRADO</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Não foi possível abrir o arquivo</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ERRO NO ARQUIVO JSON</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Reinicie o programa para mudar o idioma.</translation>

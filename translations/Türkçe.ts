@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>MCU&apos;NUN JSON DOSYASI BULUNAMADI</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Dosya açılamıyor</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON DOSYASI HATALI</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ Kurtarmak için: tümünü silin.</translation>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>JSON DOSYASI BULUNAMADI</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Dosya açılamıyor</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>JSON DOSYASI HATALI</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>JSON nesnesi değil</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Ayarlar şu dosyadan yüklenemedi: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Dosya açılamıyor</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>JSON nesnesi değil</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Yine de silinsin mi?</translation>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>JSON DOSYASI BULUNAMADI</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Dosya açılamıyor</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON DOSYASI HATALI</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Dil değişikliği için programı yeniden başlatın.</translation>

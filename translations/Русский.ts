@@ -62,14 +62,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>ФАЙЛ JSON ДЛЯ МК НЕ НАЙДЕН</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Не удаётся открыть файл</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ОШИБКА В ФАЙЛЕ JSON</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -213,6 +205,25 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>ФАЙЛ JSON НЕ НАЙДЕН</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>Не удаётся открыть файл</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>ОШИБКА В ФАЙЛЕ JSON</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>не объект JSON</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -221,14 +232,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>Не удалось загрузить настройки из файла: </translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Не удаётся открыть файл</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>не объект JSON</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -768,18 +771,6 @@ Do you want to delete it anyway?</source>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>ФАЙЛ JSON НЕ НАЙДЕН</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>Не удаётся открыть файл</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>ОШИБКА В ФАЙЛЕ JSON</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>Перезапустите программу, чтобы сменить язык.</translation>

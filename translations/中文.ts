@@ -61,14 +61,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>找不到 MCU 的 JSON 文件</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>无法打开文件</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON 文件错误</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -212,6 +204,25 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>找不到 JSON 文件</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>JSON 文件错误</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>不是 JSON 对象</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -220,14 +231,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>无法从文件加载设置：</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>无法打开文件</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>不是 JSON 对象</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -767,18 +770,6 @@ Do you want to delete it anyway?</source>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>找不到 JSON 文件</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>无法打开文件</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON 文件错误</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>请重新启动程序以更改语言。</translation>

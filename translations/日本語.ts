@@ -61,14 +61,6 @@
         <source>MCU JSON FILE NOT FOUND</source>
         <translation>MCU の JSON ファイルが見つかりません</translation>
     </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>ファイルを開けません</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON ファイルエラー</translation>
-    </message>
 </context>
 <context>
     <name>ConfigurationView</name>
@@ -212,6 +204,25 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>JsonFile</name>
+    <message>
+        <source>JSON FILE NOT FOUND</source>
+        <translation>JSON ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>Cannot open file</source>
+        <translation>ファイルを開けません</translation>
+    </message>
+    <message>
+        <source>JSON FILE ERROR</source>
+        <translation>JSON ファイルエラー</translation>
+    </message>
+    <message>
+        <source>no JSON object</source>
+        <translation>JSON オブジェクトではありません</translation>
+    </message>
+</context>
+<context>
     <name>KorvelApp</name>
     <message>
         <source>Failed to save settings to file: </source>
@@ -220,14 +231,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Failed to load settings from file: </source>
         <translation>設定を読み込めませんでした。ファイル：</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>ファイルを開けません</translation>
-    </message>
-    <message>
-        <source>no JSON object</source>
-        <translation>JSON オブジェクトではありません</translation>
     </message>
     <message>
         <source>The file is kept as %1.</source>
@@ -767,18 +770,6 @@ Do you want to delete it anyway?</source>
 </context>
 <context>
     <name>SettingsPresenter</name>
-    <message>
-        <source>JSON FILE NOT FOUND</source>
-        <translation>JSON ファイルが見つかりません</translation>
-    </message>
-    <message>
-        <source>Cannot open file</source>
-        <translation>ファイルを開けません</translation>
-    </message>
-    <message>
-        <source>JSON FILE ERROR</source>
-        <translation>JSON ファイルエラー</translation>
-    </message>
     <message>
         <source>Please restart the application to apply language changes.</source>
         <translation>言語の変更はプログラムの再起動後に有効になります。</translation>
