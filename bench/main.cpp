@@ -74,8 +74,10 @@ QString run(const QString& program, const QStringList& arguments = {})
     return process.readAll();
 }
 
-Start startOnce(const QString& program)
+/// @p withOpenGl: as the toolkit does where it is not told otherwise.
+Start startOnce(const QString& program, bool withOpenGl = true)
 {
+    withOpenGl ? qunsetenv("QT_XCB_GL_INTEGRATION") : qputenv("QT_XCB_GL_INTEGRATION", "none");
     const auto figures =
         QRegularExpression("^([\\d.]+) (\\d+)$", QRegularExpression::MultilineOption).match(run(program));
     if (!figures.hasMatch())
@@ -88,20 +90,23 @@ void benchStart()
     constexpr int repetitions = 21;
     const WorkFolder folder;
     shipData();
-    Samples ours, theirs, ourMemory, theirMemory;
+    Samples ours, theirs, ourMemory, theirMemory, theirsWithoutOpenGl;
     for (int i = 0; i <= repetitions; ++i) {
         const Start empty = startOnce(EMPTY_WINDOW);
         const Start korvel = startOnce(KORVEL);
+        const Start emptyWithoutOpenGl = startOnce(EMPTY_WINDOW, false);
         if (i == 0)
             continue; // warms the disk
         ours += korvel.time;
         theirs += empty.time;
         ourMemory += korvel.memory;
         theirMemory += empty.memory;
+        theirsWithoutOpenGl += emptyWithoutOpenGl.time;
     }
     row("start to first painted window, CPU time", "empty window with four tabs", median(ours), median(theirs), "ms",
         1.3);
     row("the same, peak memory", "the same", median(ourMemory), median(theirMemory), "MiB", 1.12);
+    row("the same, CPU time", "empty window without OpenGL", median(ours), median(theirsWithoutOpenGl), "ms", 2);
 }
 
 /// How many instructions a start takes, in millions. Unlike times, which sway more than some files cost, it is the same

@@ -27,7 +27,8 @@
 
 namespace {
 
-/// Waits for the first painting of the widget that it is installed on and owned by, and goes then.
+/// Waits for the first painting of the window that owns it, and goes then. Asks all widgets: of the window itself
+/// nothing may be left to paint between its children.
 class FirstPaint : public QObject
 {
 public:
@@ -35,15 +36,16 @@ public:
         : QObject(&window)
         , m_then(std::move(then))
     {
-        window.installEventFilter(this);
+        qApp->installEventFilter(this);
     }
 
     bool eventFilter(QObject* object, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint) {
-            object->removeEventFilter(this);
-            // Its children are painted in the same go, before the event loop turns.
-            QTimer::singleShot(0, this, [this] {
+        const auto* widget = event->type() == QEvent::Paint ? qobject_cast<QWidget*>(object) : nullptr;
+        if (widget && widget->window() == parent()) {
+            qApp->removeEventFilter(this);
+            constexpr int pause = 100; // milliseconds, in which the rest is painted and the first click is taken
+            QTimer::singleShot(pause, this, [this] {
                 m_then();
                 deleteLater();
             });
@@ -165,6 +167,17 @@ void Startup::moveToPointerScreen(QWidget& window)
         window.resize(std::min(window.width() + scrollBar, area.width()), area.height() - frame);
     }
     window.move(area.left() + (area.width() - window.width()) / 2, y);
+}
+
+void Startup::leaveOutOpenGl()
+{
+    static constexpr char choice[] = "QT_XCB_GL_INTEGRATION"; // read when the first window is made
+    if (qEnvironmentVariableIsSet(choice))
+        return;
+    qputenv(choice, "none");
+    // None of avrdude's business, nor of a browser's. An event loop turns once the window, or a box before it, is
+    // there.
+    QTimer::singleShot(0, qApp, [] { qunsetenv(choice); });
 }
 
 void Startup::afterFirstPaint(QWidget& window, std::function<void()> then)

@@ -17,12 +17,17 @@ namespace Startup {
 /// is open. Before the desktop session ends the settings are saved.
 void closeOnRequest();
 
+/// Keeps the toolkit from loading OpenGL with the first window on X11. Nothing here is drawn with it, and it takes
+/// longer to load, and more memory, than all the rest of the program. To be called when the application object is there
+/// and the first window is not; whatever the environment says of it is left alone.
+void leaveOutOpenGl();
+
 /// Centres @p window on the available area of the screen under the mouse pointer, else of the primary screen. On a
 /// screen that is lower than the window the window becomes as high as the screen allows, with its title at the top.
 void moveToPointerScreen(QWidget& window);
 
-/// Calls @p then once, when @p window has been painted for the first time: what nobody waits for is not to hold that
-/// up.
+/// Calls @p then once, shortly after @p window has been painted for the first time: what nobody waits for is not to
+/// hold that up.
 void afterFirstPaint(QWidget& window, std::function<void()> then);
 
 } // namespace Startup

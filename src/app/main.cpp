@@ -15,7 +15,7 @@ int main(int argc, char* argv[])
     Toolkit::useHighDpi();
     QApplication application(argc, argv);
     Toolkit::useUtf8Names();
-    Toolkit::leaveOutOpenGl();
+    Startup::leaveOutOpenGl();
 
     // Before any widget: the texts that widgets show are translated while they are built.
     auto* translator = new JsonToQtTranslator(&application);

@@ -1,7 +1,6 @@
 #include "base/Toolkit.h"
 
 #include <QCoreApplication>
-#include <QTimer>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
@@ -51,17 +50,6 @@ void Toolkit::useUtf8Names() { }
 void Toolkit::keepWindowsOnCommit() { }
 
 #endif
-
-void Toolkit::leaveOutOpenGl()
-{
-    static constexpr char choice[] = "QT_XCB_GL_INTEGRATION"; // read when the first window is made
-    if (qEnvironmentVariableIsSet(choice))
-        return;
-    qputenv(choice, "none");
-    // None of avrdude's business, nor of a browser's. An event loop turns once the window, or a box before it, is
-    // there.
-    QTimer::singleShot(0, qApp, [] { qunsetenv(choice); });
-}
 
 Toolkit::Utf8Decoder::Utf8Decoder()
 {

@@ -14,11 +14,6 @@ void useHighDpi();
 /// as their speakers write them. To be called before the first file is opened.
 void useUtf8Names();
 
-/// Keeps the toolkit from loading OpenGL with the first window on X11. Nothing here is drawn with it, and it takes
-/// longer to load, and more memory, than all the rest of the program. To be called before that window is shown;
-/// whatever the environment says of it is left alone.
-void leaveOutOpenGl();
-
 /// Keeps the windows open when the session manager asks for what is to be saved: the session may go on after it.
 void keepWindowsOnCommit();
 

@@ -72,6 +72,7 @@ AvrdudeMessage::AvrdudeMessage(QWidget* parent)
 {
     setFixedHeight(logHeight);
     setReadOnly(true);
+    setUndoRedoEnabled(false); // which would keep every piece of output twice
     setAccessibleName(QStringLiteral("avrdude"));
     const int margins = style()->pixelMetric(QStyle::PM_LayoutLeftMargin)
         + style()->pixelMetric(QStyle::PM_LayoutRightMargin) + 2 * frameWidth()
@@ -108,6 +109,7 @@ void AvrdudeMessage::appendLine(const QString& line)
     if (!end.atBlockStart())
         end.insertBlock();
     end.insertText(line + QLatin1Char('\n'));
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
 void AvrdudeMessage::replace(const QString& text)

@@ -16,7 +16,7 @@ public:
     /// out whole it would hold up the window.
     void insertAtCursor(const QString& text);
 
-    /// Adds a line of the program's own to the end; output of a run goes on below it.
+    /// Adds a line of the program's own to the end, and shows it; output of a run goes on below it.
     void appendLine(const QString& line);
 
     /// Shows @p text instead of what is there.
