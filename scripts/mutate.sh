@@ -27,6 +27,8 @@ fi
 first_tests() {
     case $1 in
         src/app/main.cpp) echo tst_start ;;
+        src/app/log/*) echo tst_avrdude ;;
+        src/app/record/FuseByte.cpp) echo tst_fuses ;;
         src/app/*) echo 'tst_app|tst_start' ;;
         src/about/*) echo tst_update ;;
         src/base/*) echo 'tst_settings|tst_app' ;;
