@@ -58,10 +58,9 @@ private slots:
 
     void typing()
     {
-        QFETCH(QString, keys);
         const Tab tab;
         QApplication::clipboard()->setText("11");
-        for (const QString& key : keys.split(','))
+        for (const QString& key : cell("keys").split(','))
             QTest::keySequence(tab.field(), QKeySequence(key));
         QTEST(tab.field()->text(), "text");
         QTEST(QString::number(tab.field()->cursorPosition()), "cursor");
@@ -151,26 +150,21 @@ private slots:
 
     void settingsAndWarnings()
     {
-        QFETCH(QString, mcu);
-        QFETCH(QString, id);
-        QFETCH(QString, value);
-        QFETCH(QString, setting);
-        QFETCH(QString, warning);
         Bench bench;
-        bench.folder.copy({"mcu/" + mcu + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
-        BytesModel(bench.avrdude.settings()).load(mcu);
+        bench.folder.copy({"mcu/" + cell("mcu") + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
+        BytesModel(bench.avrdude.settings()).load(cell("mcu"));
         FuseMeanings meanings;
         meanings.load(bench.avrdude.settings());
-        QStringList changed; // title, setting, factory setting, warning
+        QStringList changed; // title, cell("setting"), factory cell("setting"), cell("warning")
         for (FuseByte byte : bench.avrdude.settings().fusesBytes) {
-            if (byte.id == id)
-                byte.currentValue = value.toUInt(nullptr, 0);
+            if (byte.id == cell("id"))
+                byte.currentValue = cell("value").toUInt(nullptr, 0);
             for (const FuseMeanings::Text& about : meanings.of(byte))
                 changed += about.text.contains("Factory setting") ? about.text.split("\n    ") : QStringList();
         }
-        QCOMPARE(changed.value(1).left(setting.size()), setting);
-        QCOMPARE(changed.value(3).left(warning.size()), warning);
-        QCOMPARE(changed.value(3).isEmpty(), warning.isEmpty());
+        QCOMPARE(changed.value(1).left(cell("setting").size()), cell("setting"));
+        QCOMPARE(changed.value(3).left(cell("warning").size()), cell("warning"));
+        QCOMPARE(changed.value(3).isEmpty(), cell("warning").isEmpty());
     }
 
     void aReadingTakesItsOwnFiles()

@@ -204,18 +204,14 @@ private slots:
 
     void pressedAgainInTheMiddle()
     {
-        QFETCH(QString, ticked);
-        QFETCH(QString, running);
-        QFETCH(QString, tickedThen);
-        QFETCH(QString, told);
         Board board;
-        board.tick(ticked);
-        board.writeUntil(running);
-        board.tick(tickedThen);
+        board.tick(cell("ticked"));
+        board.writeUntil(cell("running"));
+        board.tick(cell("tickedThen"));
         board.write->click();
         board.finish();
         QString box = "Profiles: ";
-        for (const QString& area : told.split(", "))
+        for (const QString& area : cell("told").split(", "))
             box += area + " write successfully.\n" + area + " verify successfully." + (area == "Fuse bits" ? "" : "\n");
         QCOMPARE(board.boxes.wait(), QStringList {box});
         QTEST(board.requests().join(' ').replace("-Ulock:w:0xfe:m", "lock"), "requests");

@@ -45,14 +45,12 @@ private slots:
 
     void answers()
     {
-        QFETCH(QString, source);
-        QFETCH(QString, pressed);
         BoxAnswerer boxes;
-        boxes.button = pressed == "Yes" ? QMessageBox::Yes : QMessageBox::No;
+        boxes.button = cell("pressed") == "Yes" ? QMessageBox::Yes : QMessageBox::No;
         m_opened.clear();
-        if (source.startsWith("http"))
+        if (cell("source").startsWith("http"))
             QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^Update check error: ")); // has to come
-        UpdateChecker checker(source);
+        UpdateChecker checker(cell("source"));
         checker.checkForUpdates();
         QVERIFY(checker.findChild<QNetworkReply*>());
         QTRY_VERIFY(!checker.findChild<QNetworkReply*>()); // released in every case
