@@ -35,7 +35,7 @@ export QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=fast_unwind_on_malloc=0 \
 status=0
 for reader in "${readers[@]}"; do # paths are absolute, because the harness changes its working folder
     echo "== $reader"
-    tests/fuzz/bin/fuzz-"$reader" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -dict=words \
+    fuzz/bin/fuzz-"$reader" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 -dict=words \
         -artifact_prefix="$PWD/findings/$reader-" -print_final_stats=1 "$PWD/corpus/$reader" 2>"findings/$reader.log" || status=1
     grep -E 'ERROR|SUMMARY|stat::number_of_executed_units|stat::average_exec|cov:' "findings/$reader.log" | tail -n 4
 done

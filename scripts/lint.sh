@@ -13,7 +13,7 @@ scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
 scripts/check-includes.py
 
 mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' \
-    'bench/*.cpp' 'translations/*.cpp')
+    'bench/*.cpp' 'fuzz/*.cpp' 'translations/*.cpp')
 clang-format --dry-run --Werror "${sources[@]}"
 echo "clang-format: ${#sources[@]} files are in order"
 
