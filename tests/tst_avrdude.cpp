@@ -1,20 +1,6 @@
+#include "avrdude/ReadFile.h"
 #include "support/Bench.h"
 #include "support/Table.h"
-
-/// The boxes that tell of a failure, by the letters of the tests' tables.
-const QHash<QChar, QString> failures {
-    {'N', "AVRDUDE: Programmer not found."},
-    {'U', "AVRDUDE: UsbAsp not found."},
-    {'D',
-     "AVRDUDE: Programmer did not detect the microcontroller\n\n"
-     "- Check connections and power supply\n- Set a lower speed (Port & Speed)"},
-    {'W', "AVRDUDE: Wrong microcontroller selected."},
-    {'V', "AVRDUDE: Verification error."},
-    {'F', "AVRDUDE: No such file or directory."},
-    {'I', "AVRDUDE: Invalid file format. Please choose another file."},
-    {'E', "AVRDUDE: Could not read contents\nDevice is either blank or read-protected (Lock Bits are set)."},
-    {'S', "AVRDUDE: See the message in the dialog box."},
-};
 
 class tst_Avrdude : public QObject
 {
@@ -35,54 +21,51 @@ private slots:
         }
     }
 
+    void everyVersion_data()
+    {
+        for (const char* column : {"recorded", "options", "verdict"})
+            QTest::addColumn<QString>(column);
+        const auto table = linesOf("verdicts.txt");
+        for (int column = 2; column < table[0].size(); ++column) {
+            const QString version = table[0][column];
+            const QString recordings = WorkFolder::read(TEST_FOLDER "/recordings/avrdude-" + version + ".txt");
+            const QStringList commands = recordings.split("### -").mid(1);
+            QCOMPARE(commands.size(), table.size() - 1);
+            for (int i = 1; i < table.size(); ++i)
+                QTest::newRow(qPrintable(version + ": " + table[i][0] + ", " + table[i][1]))
+                    << '-' + commands[i - 1] << table[i][1] << table[i][column];
+        }
+    }
+
     void everyVersion()
     {
-        Bench bench;
-        // A letter for each command, in the order of the recordings; the callback runs in '-' alone.
-        for (const auto& [version, expected] : {std::pair("6.3", "--IIFIVW-E--SSNNNSND"),
-                                                {"7.0", "--IIFIVW-E--SSNNNNND"},
-                                                {"7.1", "--SSFSVW-----SSNNNNS"},
-                                                {"7.3", "--SSFSVW----SSSSNSNS"},
-                                                {"8.2", "--IIFIVW----SSNSNNND"}}) {
-            const QString path = QString(TEST_FOLDER "/recordings/avrdude-%1.txt").arg(version);
-            const QStringList commands = QString('\n' + bench.folder.read(path)).split("\n### -").mid(1);
-            QCOMPARE(commands.size(), static_cast<int>(qstrlen(expected)));
-            for (int i = 0; i < commands.size(); ++i) {
-                const QString command = version + (" -" + commands[i].section('\n', 0, 0));
-                bench.folder.write("recorded", commands[i].section('\n', 1).section("### exit", 0, 0).toUtf8());
-                const int calls = bench.run("print recorded\nexit" + commands[i].section("### exit", 1).toUtf8());
-                const QStringList told = calls == 1 ? bench.boxes.take() : bench.boxes.wait();
-                QCOMPARE(command + told.join('|'), command + failures.value(expected[i]));
-            }
-        }
+        const QString recorded = cell("recorded"); // a command, what avrdude printed, and its exit code
+        QVERIFY2(recorded.section('\n', 0, 0).contains(cell("options")), qPrintable(recorded));
+        const QString printed = recorded.section('\n', 1).section("### exit", 0, 0);
+        judge("print recorded\nexit" + recorded.section("### exit", 1), printed.toUtf8());
     }
 
-    void lines_data() { casesFrom("lines.txt", {"line", "exitCode", "box"}); }
+    void lines_data() { casesFrom("lines.txt", {"printed", "exitCode", "verdict"}); }
+    void lines() { judge(cell("printed") + "\nexit " + cell("exitCode")); }
 
-    void lines()
+    void silentProgrammer_data() { casesFrom("silent.txt", {"printed", "exitCode", "verdict"}); }
+    void silentProgrammer() { judge(cell("printed") + "\nexit " + cell("exitCode"), {}, 100); }
+
+    void aFailureThatComesInTwoPiecesIsFound()
     {
-        QFETCH(QString, line);
-        QFETCH(QString, exitCode);
-        QFETCH(QString, box);
         Bench bench;
-        QCOMPARE(bench.run(QString("err %1\nexit %2").arg(line, exitCode).toUtf8()), box == "-" ? 1 : 0);
-        QCOMPARE((box == "-" ? bench.boxes.take() : bench.boxes.wait()).join('|'), failures.value(box[0]));
+        bench.begin("error: program enable: target doe", "err s not answer");
+        bench.finish();
+        QCOMPARE(bench.boxes.wait(), QStringList {lookUp("boxes.txt", "no chip")}); // "error:" alone: see log
     }
 
-    void silentProgrammer()
+    void aSilentProgrammerIsToldOfOnce()
     {
         Bench bench;
-        bench.boxes.delay = 100; // the box stays open while more arrives and the process ends, killed or by itself
-        for (const QByteArray& said :
-             QByteArrayList {"stk500_getsync() attempt 1", "programmer is not responding", "failed to synchronize",
-                             "recv(): timeout", "Can't find programmer id \"x\"", "not in sync: resp=0x00",
-                             "avrdude error: timeout", "getsync()\nerr not in sync\nerr error: x\nexit 1",
-                             QByteArray("getsync() ").repeated(20000)}) {
-            QVERIFY2(bench.run("err " + said + "\nwait 60000") == 0, said);
-            QCOMPARE(bench.boxes.wait(), QStringList {"AVRDUDE: Programmer not found."});
-        }
-        // In other letter case, or on standard output, the phrases mean nothing.
-        QCOMPARE(bench.run("out stk500_getsync() attempt\nerr Not In Sync, Verification Error, Error: x"), 1);
+        bench.boxes.delay = 100; // more arrives meanwhile
+        QCOMPARE(bench.run("err error: " + QByteArray("getsync() ").repeated(20000) + "\nwait 60000"), 0);
+        QCOMPARE(bench.boxes.wait(), QStringList {"AVRDUDE: Programmer not found."});
+        QCOMPARE(bench.run(""), 1); // it answers again
     }
 
     void endings()
@@ -98,48 +81,99 @@ private slots:
         QTRY_COMPARE(calls, QStringList({"1", "2"}));
         QCOMPARE(bench.run("err verification error\ncrash"), 0);
         QCOMPARE(bench.boxes.wait(), QStringList {"Information: Process avrdude error"});
-
-        bench.avrdude.settings().avrdude = "./no-such-program";
-        QCOMPARE(bench.avrdude.execute({}, [] { QFAIL("called back"); }), -1);
-        QVERIFY(bench.avrdude.log().toPlainText().contains("\navrdude not found"));
-        QCOMPARE(bench.avrdude.execute({}), 0); // dropped: busy for good
     }
 
-    void outputGoesToTheCursor()
+    void anAvrdudeThatCannotBeFound()
+    {
+        for (const char* program : {"./no-such-program", "no-such-program"}) {
+            Bench bench;
+            bench.avrdude.settings().avrdude = program;
+            bench.folder.write("lfuse.hex", "of a former reading");
+            QCOMPARE(bench.avrdude.executeReading({}, {"lfuse.hex"}, [] { QFAIL("read"); }), -1);
+            QVERIFY(bench.avrdude.log().toPlainText().contains("\navrdude not found"));
+            QVERIFY(QFile::exists("lfuse.hex"));
+            QCOMPARE(bench.avrdude.execute({}), 0); // dropped: busy for good
+        }
+    }
+
+    void aReadingIsToldOnce()
+    {
+        int calls = 0;
+        ReadFile reader;
+        reader.readFiles({}, [&calls](const QStringList&) { ++calls; });
+        emit reader.emitFinishedReadFile();
+        QCOMPARE(calls, 1);
+    }
+
+    void outputGoesWhereTheUserClicked()
     {
         Bench bench;
-        bench.folder.write("script", "err first\nawait go\nerr second\nout third");
-        bench.avrdude.execute({});
-        QTRY_VERIFY(bench.avrdude.log().toPlainText().contains("first"));
+        bench.begin("first\n", "err second\nout third");
         bench.log.moveCursor(QTextCursor::Start);
         bench.log.moveCursor(QTextCursor::EndOfWord);
-        bench.folder.write("go", "");
-        QTRY_VERIFY(bench.isIdle() && bench.avrdude.log().toPlainText().startsWith("Korvelsecond\nthird\n: "));
+        bench.finish();
+        QVERIFY2(bench.log.toPlainText().startsWith("Korvelsecond\nthird\n: "), qPrintable(bench.log.toPlainText()));
+        QCOMPARE(bench.avrdude.output(), QString("first\nsecond\nthird\n")); // whole, and without the command line
+    }
 
-        // A selection, even of all there is, stays as it is.
-        QFile::remove("go");
-        bench.avrdude.execute({});
-        QTRY_VERIFY(bench.avrdude.log().toPlainText().contains("first"));
+    void outputLeavesASelectionAsItIs()
+    {
+        Bench bench;
+        bench.begin("first\n", "err second\nout third");
         bench.log.selectAll();
         const QString selected = bench.log.textCursor().selectedText();
-        bench.folder.write("go", "");
-        QTRY_VERIFY(bench.isIdle() && bench.avrdude.log().toPlainText().endsWith("first\nsecond\nthird\n"));
+        bench.finish();
+        QVERIFY2(bench.log.toPlainText().endsWith("first\nsecond\nthird\n"), qPrintable(bench.log.toPlainText()));
         QCOMPARE(bench.log.textCursor().selectedText(), selected);
+    }
 
-        QElapsedTimer timer; // one line of a megabyte
+    void aLineOfAMegabyteDoesNotHoldUpTheWindow()
+    {
+        Bench bench;
+        QElapsedTimer timer;
         timer.start();
         bench.log.resize(520, 180);
         bench.log.show();
         bench.folder.write("line", QByteArray("0xff,").repeated(200000));
         bench.run("print line");
-        QCOMPARE(bench.avrdude.log().toPlainText().remove('\n').count("0xff,"), 200000);
+        QCOMPARE(bench.log.toPlainText().remove('\n').count("0xff,"), 200000);
         QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
-        QVERIFY(bench.log.verticalScrollBar()->value() >= bench.log.verticalScrollBar()->maximum() - 1);
-        QVERIFY(bench.log.isReadOnly());
+    }
 
-        // Characters that are split between two pieces of output stay whole.
+    void theLogEndsScrolledToItsEndAndIsReadOnly()
+    {
+        Bench bench;
+        bench.log.show();
+        bench.folder.write("lines", QByteArray("line\n").repeated(1000));
+        bench.run("print lines");
+        const int end = bench.log.verticalScrollBar()->maximum();
+        QVERIFY(end > 900 && bench.log.verticalScrollBar()->value() >= end - 1);
+        QVERIFY(bench.log.isReadOnly());
+    }
+
+    void aCharacterSplitBetweenTwoPiecesStaysWhole()
+    {
+        Bench bench;
         bench.run("err second\nout x" + QByteArray("я").repeated(40000));
-        QCOMPARE(bench.avrdude.log().toPlainText().count(QStringLiteral("я")), 40000);
+        QCOMPARE(bench.log.toPlainText().count(QStringLiteral("я")), 40000);
+        bench.folder.write("half", "\xD1"); // the other half does not come
+        bench.run("print half");
+        bench.run("err x");
+        QCOMPARE(bench.avrdude.output(), QString("x\n"));
+    }
+
+private:
+    /// Plays a run that may print @p recorded, and sees that it comes to the case's verdict: the callback, or a box
+    /// that stays open for @p delay milliseconds while the process ends.
+    static void judge(const QString& script, const QByteArray& recorded = {}, int delay = 0)
+    {
+        Bench bench;
+        bench.boxes.delay = delay;
+        bench.folder.write("recorded", recorded);
+        const bool isSuccess = bench.run(script.toUtf8()) == 1;
+        QCOMPARE(isSuccess, cell("verdict") == "success");
+        const QStringList told = isSuccess ? bench.boxes.take() : bench.boxes.wait();
+        QCOMPARE(told.join('|'), lookUp("boxes.txt", cell("verdict")));
     }
 };
 

@@ -26,79 +26,94 @@ private slots:
 
     void formats()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, flash);
-        QFETCH(QString, eeprom);
         const Panels panels;
+        const QString path = cell("path");
         panels.flashView.writePath()->setText(path);
-        QCOMPARE(panels.settings.cmdFlashWrite, QStringList({"-U", "flash:w:" + path + ":" + flash}));
+        QCOMPARE(panels.settings.cmdFlashWrite, QStringList({"-U", "flash:w:" + path + ":" + cell("flash")}));
         panels.eepromView.writePath()->setText(path);
-        QCOMPARE(panels.settings.cmdEepromWrite, QStringList({"-U", "eeprom:w:" + path + ":" + eeprom}));
+        QCOMPARE(panels.settings.cmdEepromWrite, QStringList({"-U", "eeprom:w:" + path + ":" + cell("eeprom")}));
     }
+
+    void buttonsNeedAPath_data() { casesFrom("buttons.txt", {"written", "read", "enabled"}); }
 
     void buttonsNeedAPath()
     {
         const Panels panels;
         const EepromView& view = panels.eepromView;
-        const QString none = "off off off off, profiles off off";
-        for (const auto& [written, read, expected] : {std::tuple("", "", none),
-                                                      {"a.eep", "", QString("on on off off, profiles on off")},
-                                                      {"", "b.eep", QString("off off on on, profiles off off")},
-                                                      {"", "", none}}) {
-            view.writePath()->setText(written);
-            view.readPath()->setText(read);
-            QString enabled = "%1 %2 %3 %4, profiles %5 %6"; // may write the EEPROM, may write the flash
-            for (const bool is : {view.writeButton()->isEnabled(), view.writeVerifyButton()->isEnabled(),
-                                  view.readButton()->isEnabled(), view.readVerifyButton()->isEnabled(),
-                                  panels.settings.eepromEnable, panels.settings.flashEnable})
-                enabled = enabled.arg(is ? "on" : "off");
-            QCOMPARE(enabled, expected);
-        }
+        for (const QString& path : cell("written").split(','))
+            view.writePath()->setText(path);
+        for (const QString& path : cell("read").split(','))
+            view.readPath()->setText(path);
+        QString enabled = "%1 %2 %3 %4, %5 %6";
+        for (const bool is :
+             {view.writeButton()->isEnabled(), view.writeVerifyButton()->isEnabled(), view.readButton()->isEnabled(),
+              view.readVerifyButton()->isEnabled(), panels.settings.eepromEnable, panels.settings.flashEnable})
+            enabled = enabled.arg(is ? "on" : "off");
+        QCOMPARE(enabled, cell("enabled"));
     }
+
+    void filesThatDoNotFit_data() { casesFrom("sizes.txt", {"file", "content", "written", "verified", "read"}); }
 
     void filesThatDoNotFit()
     {
         Panels panels;
         panels.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 4})"); // and no word of the EEPROM's size
-        panels.folder.write("fits.bin", "1234");
-        panels.folder.write("large.bin", "12345");
-        panels.folder.write("large.hex", "12345"); // holds addresses: avrdude has the say
-        const QString box = "FLASH: The file has 5 bytes, the memory only 4.";
-        const QString done = "FLASH: FLASH %1 successfully.|-U flash:%2";
-        for (const auto& [file, written, verified] :
-             {std::array {QString("fits.bin"), done.arg("written", "w:fits.bin:r"),
-                          done.arg("verified", "v:fits.bin:r")},
-              {"large.hex", done.arg("written", "w:large.hex:i"), done.arg("verified", "v:large.hex:i")},
-              {"large.bin", box, box}}) { // and avrdude is not started
-            panels.flashView.writePath()->setText(file);
-            QCOMPARE(panels.click(panels.flashView.writeButton()), written);
-            QCOMPARE(panels.click(panels.flashView.writeVerifyButton()), verified);
+        panels.folder.write(cell("file"), cell("content").toUtf8());
+        panels.flashView.writePath()->setText(cell("file"));
+        panels.flashView.readPath()->setText(cell("file"));
+        QCOMPARE(panels.click(panels.flashView.writeButton()).replace("|", ", "), cell("written"));
+        QCOMPARE(panels.click(panels.flashView.writeVerifyButton()).replace("|", ", "), cell("verified"));
+        QCOMPARE(panels.click(panels.flashView.readButton()).replace("|", ", "), cell("read"));
+    }
+
+    void aWritingTellsOfItsVerification()
+    {
+        for (const auto& [begin, told] : {std::pair("verifying fl", "\nFLASH verified successfully."), {"fl", ""}}) {
+            Panels panels;
+            panels.flashView.writePath()->setText("verifying flash.hex"); // which is no verification
+            panels.begin(begin, "err ash", panels.flashView.writeButton());
+            panels.log.moveCursor(QTextCursor::Start);
+            panels.finish();
+            QCOMPARE(panels.boxes.wait(), QStringList {QString("FLASH: FLASH written successfully.") + told});
         }
-        panels.flashView.readPath()->setText("large.bin"); // is to be replaced
-        QCOMPARE(panels.click(panels.flashView.readButton()), done.arg("read", "r:large.bin:r"));
+    }
+
+    void choosingAFile_data() { casesFrom("paths.txt", {"chosen", "shown", "folder"}); }
+
+    void choosingAFile()
+    {
+        const QFileInfo app(QCoreApplication::applicationFilePath());
+        const auto path = [&app](const char* column) {
+            const QString inApp = cell(column).replace("{app}", app.path()).replace("{name}", app.fileName());
+            return QString(inApp).replace("{tests}", TEST_FOLDER);
+        };
+        PathField field;
+        field.setFile(path("chosen"));
+        QCOMPARE(field.text(), path("shown"));
+        QCOMPARE(field.startFolder(), path("folder"));
     }
 
     void browse()
     {
         const Panels panels;
-        const QFileInfo app(QCoreApplication::applicationFilePath()); // as good as a firmware beside the application
         const QFileInfo hex(DATA_FOLDER "/demo/blink.hex");
         QStringList seen; // the folder that the dialog opens in, and what the field holds after it
-        for (const QString& chosen : {app.filePath(), hex.filePath(), QString()}) { // the last is cancelled
-            QTimer::singleShot(0, this, [&seen, chosen] {
+        for (const char* end : {"accept", "reject"}) {
+            const QObject row; // which the timer ends with
+            QTimer::singleShot(0, &row, [&seen, &hex, end] {
                 auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
                 seen += dialog->directory().path();
-                dialog->selectFile(chosen);
-                QMetaObject::invokeMethod(dialog, chosen.isEmpty() ? "reject" : "accept", Qt::QueuedConnection);
+                dialog->selectFile(hex.filePath());
+                QMetaObject::invokeMethod(dialog, end, Qt::QueuedConnection);
             });
             panels.flashView.findChild<QPushButton*>()->click();
             seen += panels.settings.flashWrite;
         }
         QCOMPARE(seen,
-                 QStringList({app.path(), app.fileName(), app.path(), hex.filePath(), hex.path(), hex.filePath()}));
+                 QStringList({QCoreApplication::applicationDirPath(), hex.filePath(), hex.path(), hex.filePath()}));
     }
 
-    void droppingAndHovering()
+    void aDroppedFileStaysWhereItIs()
     {
         const Panels panels;
         const QFileInfo app(QCoreApplication::applicationFilePath());
@@ -108,23 +123,32 @@ private slots:
         QCoreApplication::sendEvent(panels.flashView.writePath(), &enter); // refused, no drop would follow
         QDropEvent drop(QPointF(3, 3), Qt::MoveAction | Qt::CopyAction, &dragged, Qt::LeftButton, Qt::ShiftModifier);
         QCoreApplication::sendEvent(panels.flashView.writePath(), &drop);
-        QCOMPARE(drop.dropAction(), Qt::CopyAction); // the file stays where it is
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QCOMPARE(panels.settings.flashWrite, app.fileName());
-        panels.flashView.writePath()->setText("<b>a  b</b>.hex");
-        QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3}); // the whole path: no markup, every blank
-        QCoreApplication::sendEvent(panels.flashView.writePath(), &hover);
+    }
+
+    void theTooltipIsTheWholePath()
+    {
+        PathField field;
+        field.setText("<b>a  b</b>.hex"); // no markup, and every blank
+        QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3});
+        QCoreApplication::sendEvent(&field, &hover);
         QTextDocument shown;
-        shown.setHtml(panels.flashView.writePath()->toolTip());
+        shown.setHtml(field.toolTip());
         QCOMPARE(shown.toPlainText(), QDir::toNativeSeparators(QDir().absoluteFilePath("<b>a  b</b>.hex")));
     }
 
+    void pasting_data() { casesFrom("pastes.txt", {"copied", "pasted"}); }
+
     void pasting()
     {
-        const Panels panels;
-        QLineEdit* field = panels.flashView.writePath();
-        QApplication::clipboard()->setText("  \"/my fw/a.hex\" \n");
-        QTest::keySequence(field, QKeySequence::Paste);
-        QCOMPARE(panels.settings.flashWrite, QString("/my fw/a.hex"));
+        PathField field;
+        QApplication::clipboard()->setText(cell("copied"));
+        QTest::keySequence(&field, QKeySequence::Paste);
+        for (QAction* action : field.createStandardContextMenu()->actions())
+            if (action->text().contains("Paste"))
+                action->trigger();
+        QCOMPARE(field.text(), cell("pasted") + cell("pasted"));
     }
 };
 

@@ -8,9 +8,9 @@
 namespace {
 
 #ifdef Q_OS_WIN
-const QString firstPort = "COM1|COM1"; // Windows lists all of them
+const QString device = "COM1", listed = device, dev = ""; // Windows lists all of them
 #else
-const QString firstPort = "/dev/ttyUSB0|ttyUSB0 (FT232R)";
+const QString device = "/dev/ttyUSB0", listed = "ttyUSB0 (FT232R)", dev = "/dev/";
 #endif
 
 /// The panel over a catalogue of the test's choice, with serial ports that are not there.
@@ -47,21 +47,19 @@ private slots:
 
     void findingInAList()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, keys);
         ListComboBox list(ListComboBox::Width::Any);
         list.addItems({"first", "ATmega1608", "ATmega16", "ATmega328P"});
         list.show();
         QVERIFY(QTest::qWaitForWindowActive(&list));
         QString picked;
-        connect(&list, &QComboBox::textActivated, this, [&picked](const QString& name) { picked += name; });
+        connect(&list, &QComboBox::textActivated, &list, [&picked](const QString& name) { picked += name; });
         list.setFocus();
         QWidget* target = &list;
-        for (const QChar letter : typed) {
+        for (const QChar letter : cell("typed")) {
             QTest::keyClick(target, letter.toLatin1());
             target = list.findChild<QLineEdit*>();
         }
-        for (const QString& key : keys.split(','))
+        for (const QString& key : cell("keys").split(','))
             QTest::keySequence(target, QKeySequence(key));
         QTEST(picked, "picked");
         QCOMPARE(list.currentText(), picked.isEmpty() ? "first" : picked);
@@ -80,6 +78,11 @@ private slots:
         QCoreApplication::sendEvent(&list, &wheel);
         QVERIFY(!wheel.isAccepted()); // so the page scrolls
         QTest::keyClick(&list, Qt::Key_A, Qt::AltModifier); // a shortcut of the window's, not "ATmega1608"
+        for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
+            QTest::keyClick(&list, key);
+            QVERIFY2(list.view()->isVisible(), qPrintable(QKeySequence(key).toString()));
+            list.hidePopup();
+        }
         QCOMPARE(list.currentText(), QString("first"));
         QHelpEvent hover(QEvent::ToolTip, inside, inside);
         QCoreApplication::sendEvent(&list, &hover);
@@ -107,60 +110,55 @@ private slots:
         }
     }
 
-    void choosing()
+    void pickingAndShowing_data()
+    {
+        casesFrom("programmers.txt", {"steps", "shown", "programmer", "id", "arguments", "port", "listed", "told"});
+    }
+
+    void pickingAndShowing()
+    {
+        const auto text = [](const char* column) {
+            return cell(column).replace("{device}", device).replace("{listed}", listed).replace("{dev}", dev);
+        };
+        Panel panel;
+        SettingsRecord& record = panel.settings;
+        record.language = "New";
+        for (const QString& step : text("steps").split(", ")) {
+            const QStringList words = step.split(' ');
+            if (words[0] == "pick") {
+                panel.view.programmer()->setCurrentText(words[1]);
+                continue;
+            }
+            record.programmer = {words[1], "other"};
+            record.port = words[2];
+            record.arguments = words.mid(3).join(' ');
+            ++record.generation;
+            panel.presenter->refreshFromSettings();
+            QCOMPARE(panel.view.language()->currentText(), QString("New"));
+        }
+        QCOMPARE(panel.view.programmer()->currentText(), text("shown"));
+        QCOMPARE(record.programmer.name, text("programmer"));
+        QCOMPARE(record.programmer.id, text("id"));
+        QCOMPARE(record.arguments, text("arguments"));
+        QCOMPARE(record.port, text("port"));
+        QCOMPARE(panel.view.port()->currentText() + (panel.view.port()->isEnabled() ? "" : " (fixed)"), text("listed"));
+        QCOMPARE(panel.boxes.take().join(", "), text("told")); // none tells to restart
+        QCOMPARE(record.speed, QString("-B 4")); // a new record's, which the list does not have
+    }
+
+    void aNewLanguageIsAnnounced_data() { casesFrom("notices.txt", {"file", "content", "told"}); }
+
+    void aNewLanguageIsAnnounced()
     {
         Panel panel;
-        for (const auto& [programmer, expected] :
-             {std::pair("USBasp", "USBasp|usbasp|-F|usb|usb, fixed|"),
-              {"Serial", "Serial|stk500v1||*|"}, // "-F" is gone; * stands for the first port, stored and shown
-              {"none", "Serial|stk500v1||*|JSON FILE NOT FOUND: JSON FILE NOT FOUND"}, // all but the box stays
-              {"Broken", "Serial|stk500v1||*|JSON FILE ERROR: JSON FILE ERROR"}}) {
-            panel.view.programmer()->setCurrentText(programmer);
-            const SettingsRecord& now = panel.settings;
-            const QString state = now.programmer.name + '|' + now.programmer.id + '|' + now.arguments + '|' + now.port
-                + '|' + panel.view.port()->currentText() + (panel.view.port()->isEnabled() ? "|" : ", fixed|");
-            QCOMPARE(panel.view.programmer()->currentText(), now.programmer.name);
-            QCOMPARE(state + panel.boxes.take().join('|'), QString(expected).replace('*', firstPort));
-        }
-
-        const QString english = "Please restart the application to apply language changes.";
         qputenv("APPIMAGE", QDir::current().filePath("package/Korvel.AppImage").toUtf8());
-        for (const QString& content : {"{\"" + english + "\": \"Neu starten.\"}", QString("{}"), QString("{")}) {
-            panel.folder.write("package/Languages/Deutsch.json", content.toUtf8());
-            panel.presenter->setLanguage("Deutsch");
-        }
-        qunsetenv("APPIMAGE");
-        panel.view.language()->setCurrentText("New"); // listed from the working folder, looked for beside the package
-        QCOMPARE(panel.boxes.take().join('|').replace(english, "*"),
-                 QString("Korvel: Neu starten.|Korvel: *|Korvel: *|Korvel: *"));
+        panel.folder.write("package/Languages/" + cell("file"), cell("content").toUtf8());
+        panel.view.language()->setCurrentText("New"); // listed from the working folder
+        QCOMPARE(panel.boxes.take(), QStringList {cell("told")});
         QCOMPARE(panel.settings.language, QString("New"));
     }
 
-    void refresh()
-    {
-        Panel panel;
-        panel.settings.language = "New";
-        for (const auto& [programmer, stored, expected] :
-             {std::array {"Serial", "/dev/ttyUSB7", "Serial|Serial|/dev/ttyUSB7|"}, // not plugged in
-#ifdef Q_OS_WIN
-              {"Serial", "ttyACM0", "Serial|Serial|ttyACM0|ttyACM0"},
-#else
-              {"Serial", "/dev/ttyACM0", "Serial|Serial|/dev/ttyACM0|ttyACM0"},
-              {"Serial", "ttyUSB0", "Serial|Serial|/dev/ttyUSB0|ttyUSB0 (FT232R)"}, // found by its name
-#endif
-              {"Sold", "/dev/ttyUSB0", "|Sold|/dev/ttyUSB0|"}, // not in the catalogue: is offered no ports
-              {"USBasp", "COM1", "USBasp|USBasp|usb|usb"}}) {
-            panel.settings.programmer.name = programmer;
-            panel.settings.port = stored;
-            panel.presenter->refreshFromSettings();
-            const SettingsRecord& now = panel.settings; // programmer shown|stored|port stored|shown
-            const QString port = "|" + now.port + '|' + panel.view.port()->currentText();
-            QCOMPARE(panel.view.programmer()->currentText() + '|' + now.programmer.name + port, QString(expected));
-            QCOMPARE(now.speed, QString("-B 4")); // a new record's, which the list does not have
-            QCOMPARE(panel.view.language()->currentText(), QString("New"));
-            QCOMPARE(panel.boxes.take(), QStringList()); // none tells to restart
-        }
-    }
+    void cleanup() { qunsetenv("APPIMAGE"); }
 };
 
 QTEST_MAIN(tst_Settings)

@@ -1,4 +1,4 @@
-// The whole program with its own main(), looked at while its event loop runs.
+// The whole program with its own main(), which each test starts, looks at while its event loop runs, and ends.
 
 #define main startProgram
 #include "app/main.cpp"
@@ -11,22 +11,35 @@
 #include <QtTest>
 #include <QtWidgets>
 
+using Look = std::function<void()>;
+Q_DECLARE_METATYPE(Look)
+
 namespace {
 
-QTcpServer* proxy; ///< sees where the check for a newer version goes
-std::function<void()> look; ///< what to do when the window is there
+KorvelApp* window; ///< from the time when it is about to be shown
+Look look; ///< what to do when it is there
 
-void prepare()
+/// Waits for the window, keeps it from being painted, and ends the program after the look.
+struct Watcher : QObject {
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() != QEvent::Polish || !qobject_cast<KorvelApp*>(object))
+            return false;
+        window = qobject_cast<KorvelApp*>(object);
+        window->setUpdatesEnabled(false);
+        QTimer::singleShot(0, window, [] {
+            look();
+            QCoreApplication::exit();
+        });
+        return false;
+    }
+} watcher;
+
+void watch()
 {
-    proxy = new QTcpServer(qApp);
-    proxy->listen(QHostAddress::LocalHost);
-    QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, "127.0.0.1", proxy->serverPort()});
-    QTimer::singleShot(0, qApp, [] {
-        look();
-        QCoreApplication::exit();
-    });
+    qApp->installEventFilter(&watcher);
 }
-Q_COREAPP_STARTUP_FUNCTION(prepare)
+Q_COREAPP_STARTUP_FUNCTION(watch)
 
 } // namespace
 
@@ -35,41 +48,59 @@ class tst_Start : public QObject
     Q_OBJECT
 
 private slots:
-    void everythingIsInItsPlace()
+    void afterTheStart_data()
     {
-        const WorkFolder folder;
-        qputenv("APPIMAGE", QDir::current().filePath("Korvel.AppImage").toUtf8());
-        folder.write("save.json", R"({"language": "X"})");
-        folder.write("Languages/X.json", R"({"Erase all": "All gone"})");
-        look = [] {
-            KorvelApp* window = nullptr;
-            for (QWidget* widget : QApplication::topLevelWidgets())
-                window = window ? window : qobject_cast<KorvelApp*>(widget);
-            QVERIFY(window->windowTitle() == "Korvel " KORVEL_VERSION && !window->windowIcon().isNull());
+        QTest::addColumn<Look>("check");
+        QTest::newRow("title, icon and place") << Look([] {
+            QCOMPARE(window->windowTitle(), QString("Korvel " KORVEL_VERSION));
+            QVERIFY(!window->windowIcon().isNull());
             QCOMPARE(window->x(), (window->screen()->availableGeometry().width() - window->width()) / 2);
-            QCOMPARE(window->findChild<AttributesView*>()->eraseButton()->text(), QString("All gone"));
+        });
+        QTest::newRow("texts are translated")
+            << Look([] { QCOMPARE(window->findChild<AttributesView*>()->eraseButton()->text(), QString("All gone")); });
+        QTest::newRow("nothing is scrolled at the smallest size") << Look([] {
             window->resize(window->sizeHint());
             QTest::qWait(0);
             const auto* central = qobject_cast<QScrollArea*>(window->centralWidget());
             QVERIFY(!central->horizontalScrollBar()->isVisible() && !central->verticalScrollBar()->isVisible());
-
-            QWidget tall;
-            tall.resize(300, 5000);
-            Startup::moveToPointerScreen(tall);
-            QVERIFY(tall.height() < window->screen()->availableGeometry().height());
-
-            QVERIFY(proxy->hasPendingConnections() || proxy->waitForNewConnection(5000));
-            QTcpSocket* checker = proxy->nextPendingConnection();
-            QVERIFY(checker->bytesAvailable() > 0 || checker->waitForReadyRead(5000));
+        });
+        QTest::newRow("a window too high for the screen is made lower") << Look([] {
+            window->resize(520, 5000);
+            Startup::moveToPointerScreen(*window);
+            QVERIFY(window->height() < window->screen()->availableGeometry().height());
+        });
+        QTest::newRow("the update check waits for the first painting, and goes to its host") << Look([] {
+            QTcpServer proxy;
+            proxy.listen(QHostAddress::LocalHost);
+            QNetworkProxy::setApplicationProxy({QNetworkProxy::HttpProxy, "127.0.0.1", proxy.serverPort()});
+            QTest::qWait(500);
+            QVERIFY(!proxy.hasPendingConnections());
+            window->setUpdatesEnabled(true);
+            window->update();
+            QTRY_VERIFY(proxy.hasPendingConnections());
+            QTcpSocket* checker = proxy.nextPendingConnection();
+            QTRY_VERIFY(checker->canReadLine());
             QCOMPARE(checker->readLine(), QByteArray("CONNECT " KORVEL_UPDATE_HOST ":443 HTTP/1.1\r\n"));
-
-            // What the session manager asks for at the end of a session, and whenever it notes how things stand.
+        });
+        QTest::newRow("avrdude hears nothing of OpenGL")
+            << Look([] { QTRY_VERIFY(!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")); });
+        QTest::newRow("settings are saved at the end of the session") << Look([] {
             QVERIFY(QFile::remove("save.json"));
-            void* arguments[] = {nullptr, window};
+            void* arguments[] = {nullptr, window}; // who asks for it is not looked at
             qApp->qt_metacall(QMetaObject::InvokeMetaMethod,
                               qApp->metaObject()->indexOfSignal("commitDataRequest(QSessionManager&)"), arguments);
             QVERIFY(QFile::exists("save.json") && window->isVisible());
-        };
+        });
+    }
+
+    void afterTheStart()
+    {
+        QFETCH(Look, check);
+        look = check;
+        const WorkFolder folder;
+        folder.write("save.json", R"({"language": "X"})");
+        folder.write("Languages/X.json", R"({"Erase all": "All gone"})");
+        qputenv("APPIMAGE", QDir::current().filePath("Korvel.AppImage").toUtf8());
         char name[] = "korvel";
         char* arguments[] = {name, nullptr};
         QCOMPARE(startProgram(1, arguments), 0);

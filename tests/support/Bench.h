@@ -14,10 +14,25 @@ struct Bench {
     /// Lets the stand-in play @p script and waits for the run's end. Returns how often the callback ran.
     int run(const QByteArray& script, const QStringList& arguments = {})
     {
-        int calls = 0;
+        const auto calls = std::make_shared<int>(0); // a run that takes too long may end when nobody waits any more
         folder.write(QStringLiteral("script"), script);
-        avrdude.execute(arguments, [&calls] { ++calls; });
-        return QTest::qWaitFor([this] { return isIdle(); }) ? calls : -1;
+        avrdude.execute(arguments, [calls] { ++*calls; });
+        return QTest::qWaitFor([this] { return isIdle(); }) ? *calls : -1;
+    }
+
+    /// Begins a run, with @p button if there is one, that prints @p first, and after finish() does the @p rest.
+    void begin(const QByteArray& first, const QByteArray& rest, QPushButton* button = nullptr)
+    {
+        folder.write("first", first);
+        folder.write("script", "print first\nawait go\n" + rest);
+        button ? button->click() : static_cast<void>(avrdude.execute({}));
+        QTRY_VERIFY(log.toPlainText().endsWith(first));
+    }
+
+    void finish() const
+    {
+        folder.write("go", "");
+        QTRY_VERIFY(isIdle());
     }
 
     /// What avrdude was asked for, run by run, without the arguments that all runs begin with.
