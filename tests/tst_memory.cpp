@@ -68,9 +68,10 @@ private slots:
 
     void aWritingTellsOfItsVerification()
     {
-        for (const auto& [begin, told] : {std::pair("verifying fl", "\nFLASH verified successfully."), {"fl", ""}}) {
+        for (const auto& [file, begin, told] : {std::tuple("a.hex", "verifying fl", "\nFLASH verified successfully."),
+                                                {"verifying flash.hex", "fl", ""}}) {
             Panels panels;
-            panels.flashView.writePath()->setText("verifying flash.hex"); // which is no verification
+            panels.flashView.writePath()->setText(file);
             panels.begin(begin, "err ash", panels.flashView.writeButton());
             panels.log.moveCursor(QTextCursor::Start);
             panels.finish();
