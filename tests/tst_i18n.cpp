@@ -10,6 +10,7 @@ class tst_I18n : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QVERIFY(m_alone.lock()); }
     void cleanup() { QDir(m_languages).removeRecursively(); }
 
     void interfaceTexts()
@@ -53,6 +54,7 @@ private slots:
 
 private:
     const QString m_languages = QCoreApplication::applicationDirPath() + "/Languages/";
+    QLockFile m_alone {QCoreApplication::applicationDirPath() + "/tst_i18n.lock"}; // with the program's folder
 };
 
 QTEST_GUILESS_MAIN(tst_I18n)
