@@ -82,6 +82,17 @@ private slots:
             QTRY_VERIFY(checker->canReadLine());
             QCOMPARE(checker->readLine(), QByteArray("CONNECT " KORVEL_UPDATE_HOST ":443 HTTP/1.1\r\n"));
         });
+        QTest::newRow("who waits for the first painting is content with that of a child") << Look([] {
+            QWidget parent;
+            QWidget child(&parent);
+            int calls = 0;
+            Startup::afterFirstPaint(parent, [&calls] { ++calls; });
+            for (int i = 0; i < 2; ++i) {
+                QPaintEvent paint(child.rect()); // all that X11 sends where children cover their parent
+                QCoreApplication::sendEvent(&child, &paint);
+            }
+            QTRY_COMPARE(calls, 1);
+        });
         QTest::newRow("avrdude hears nothing of OpenGL")
             << Look([] { QTRY_VERIFY(!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION")); });
         QTest::newRow("settings are saved at the end of the session") << Look([] {
