@@ -129,9 +129,11 @@ private slots:
         chip.setClockInput(cell("crystal").toInt());
 
         Stk500 programmer(chip);
-        const auto answers = [&programmer](int sckDuration) {
-            const QString number = QString::number(sckDuration, 16).toUpper();
-            return programmer.receive(bytesOf("set parameter 89 " + number + ", start")) == bytesOf("ok, ok");
+        QByteArray sent = bytesOf("set parameter 89 00, start");
+        const QByteArray answered = bytesOf("ok, ok");
+        const auto answers = [&](int sckDuration) {
+            sent[2] = static_cast<char>(sckDuration);
+            return programmer.receive(sent) == answered;
         };
         int shortest = 1;
         while (shortest < 256 && !answers(shortest))
