@@ -226,7 +226,7 @@ private slots:
         board.settings.fusesBytes.clear();
         board.tick("f..");
         board.writeUntil("flash");
-        for (const QString areas : {"fe.", "..f"}) { // a file that is too large, and nothing to write
+        for (const QString areas : {"fe.", "f.f"}) { // a file that is too large, and nothing to write
             board.tick(areas);
             board.write->click();
         }

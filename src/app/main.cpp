@@ -29,9 +29,8 @@ int main(int argc, char* argv[])
     window.resize(QSize(520, 655).expandedTo(window.sizeHint()));
     window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));
     Startup::moveToPointerScreen(window);
-    window.show();
-
     std::optional<UpdateChecker> updateChecker;
     Startup::afterFirstPaint(window, [&updateChecker] { updateChecker.emplace().checkForUpdates(); });
+    window.show(); // which paints at once on some platforms
     return QApplication::exec();
 }
