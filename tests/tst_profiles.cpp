@@ -47,12 +47,16 @@ struct Board : Tab {
     /// Presses Write and lets one run after another end until one with @p request is running.
     void writeUntil(const QString& request)
     {
-        folder.write("script", "await go0");
+        const auto prepare = [this](const QByteArray& run) {
+            folder.write("script", "err this is run " + run + "\nawait go" + run); // has been read when it says so
+        };
+        prepare("0");
         write->click();
-        for (int run = 0;
-             QTest::qWaitFor([&] { return requests().size() > run; }) && !requests()[run].contains(request); ++run) {
-            folder.write("script", "await go" + QByteArray::number(run + 1)); // for the next one
-            folder.write("go" + QString::number(run), "");
+        for (int run = 0; QTest::qWaitFor([&] { return log.toPlainText().contains(QString("run %1\n").arg(run)); })
+             && !requests()[run].contains(request);
+             ++run) {
+            prepare(QByteArray::number(run + 1));
+            folder.write(QString("go%1").arg(run), "");
         }
     }
 
