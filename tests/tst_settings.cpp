@@ -146,6 +146,33 @@ private slots:
         QCOMPARE(record.speed, QString("-B 4")); // a new record's, which the list does not have
     }
 
+    void aPortThatIsTheFormerProgrammersIsAskedAbout()
+    {
+        const QString question = "Korvel, by default No: No serial port was found for Serial: the port is still usb. + "
+                                 "Do you want to use it all "
+                                 "the same?";
+        for (const auto& [answer, arguments, asked, isRun] : {std::tuple(QMessageBox::No, "", question, false),
+                                                              {QMessageBox::Yes, "", question, true},
+                                                              {QMessageBox::No, "-F -Pnet:x", QString(), true}}) {
+            Panel panel;
+            panel.ports.clear();
+            panel.boxes.button = answer;
+            panel.view.programmer()->setCurrentText("Serial");
+            panel.settings.arguments = arguments;
+            for (int press = 0; press < 2; ++press)
+                panel.run("");
+            QCOMPARE(panel.boxes.take().join(QString()), asked.repeated(isRun ? 1 : 2));
+            QCOMPARE(panel.requests().size(), isRun ? 2 : 0); // who said yes is not asked again
+        }
+        Panel panel;
+        panel.ports.clear();
+        panel.view.programmer()->setCurrentText("Serial");
+        QVERIFY(panel.settings.saveToFile("settings") && panel.settings.loadFromFile("settings"));
+        panel.presenter->refreshFromSettings(); // with the port that is stored
+        panel.run("");
+        QCOMPARE(panel.boxes.take(), QStringList());
+    }
+
     void aNewLanguageIsAnnounced_data() { casesFrom("notices.txt", {"file", "content", "told"}); }
 
     void aNewLanguageIsAnnounced()

@@ -1,6 +1,7 @@
 #include "avrdude/Avrdude.h"
 
 #include "app/log/AvrdudeMessage.h"
+#include "base/Box.h"
 #include "base/ProductInfo.h"
 
 #include <QApplication>
@@ -8,6 +9,8 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -63,7 +66,7 @@ Avrdude::~Avrdude()
 
 int Avrdude::execute(const QStringList& arguments, Callback callback)
 {
-    return execute(m_settings, arguments, std::move(callback));
+    return mayUsePort() ? execute(m_settings, arguments, std::move(callback)) : 0;
 }
 
 int Avrdude::execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback)
@@ -111,7 +114,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
 
 int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, Callback callback)
 {
-    if (isBusy())
+    if (isBusy() || !mayUsePort())
         return 0; // the files may be those of the run in progress
     const bool mayStart = isFound(m_settings.avrdude);
     m_filesOfReading.clear();
@@ -125,6 +128,21 @@ int Avrdude::executeReading(const QStringList& arguments, const QStringList& fil
         if (m_settings.generation == generation)
             callback();
     });
+}
+
+bool Avrdude::mayUsePort()
+{
+    const QStringList arguments = m_settings.arguments.split(QLatin1Char(' '));
+    const bool hasOwnPort = std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+        return argument.startsWith(QLatin1String("-P"));
+    });
+    if (isBusy() || !m_settings.hasFormerPort || hasOwnPort)
+        return true;
+    const QString question = tr("No serial port was found for %1: the port is still %2.");
+    m_settings.hasFormerPort =
+        !Box::ask(QApplication::activeWindow(), ProductInfo::name,
+                  question.arg(m_settings.programmer.name, m_settings.port), tr("Do you want to use it all the same?"));
+    return !m_settings.hasFormerPort;
 }
 
 int Avrdude::addEditText()

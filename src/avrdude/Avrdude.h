@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/record/FusesOnChip.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Message.h"
 #include "base/Toolkit.h"
@@ -30,8 +31,9 @@ public:
     /// ended normally and of which no failure is known; then the next run may be started. Failures show their own
     /// boxes.
     ///
-    /// A call during a run is dropped: it returns 0 and its callback never runs. Returns -1 when avrdude could not be
-    /// started within 30 seconds; the log says why, and the runner stays busy until the program ends.
+    /// A call during a run is dropped, as is one that the user forbids: it returns 0 and its callback never runs.
+    /// Returns -1 when avrdude could not be started within 30 seconds; the log says why, and the runner stays busy
+    /// until the program ends.
     int execute(
         const QStringList& arguments, Callback callback = [] {});
 
@@ -52,7 +54,18 @@ public:
     /// True while avrdude runs, and for good once it could not be started: a call of execute() would be dropped.
     [[nodiscard]] bool isBusy() const { return m_process != nullptr; }
 
+    /// True while avrdude runs.
+    [[nodiscard]] bool isRunning() const { return m_process && m_process->state() == QProcess::Running; }
+
+    /// Whether a run may go out to the record's port. Asks the user, once, when that port belongs to the programmer
+    /// before and the present one has none: what is plugged in there may be another chip. What runs with the record's
+    /// settings asks by itself, and does nothing when the answer is no.
+    [[nodiscard]] bool mayUsePort();
+
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
+
+    /// What is known of the fuse bytes of chips. Who reads or writes them notes it.
+    [[nodiscard]] FusesOnChip& fusesOnChip() { return m_fusesOnChip; }
 
     /// What avrdude has printed in the current or last run, as it came, without the command line. What the log shows of
     /// it may be cut in two where the user clicked, or hold other lines.
@@ -77,6 +90,7 @@ private:
     QProcess* m_process = nullptr; ///< the current run; null when idle
     AvrdudeMessage* m_log;
     SettingsRecord m_settings;
+    FusesOnChip m_fusesOnChip;
     Message m_messages;
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
     QString m_text; ///< the command line and the output of the current or last run, as they came

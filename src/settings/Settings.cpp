@@ -12,6 +12,7 @@ Settings::Settings(Avrdude& avrdude, QWidget* parent)
     auto* view = new SettingsView(this);
     auto* model = new SettingsModel(this);
     m_presenter = new SettingsPresenter(avrdude, *model, *view, this);
+    connect(m_presenter, &SettingsPresenter::chosen, this, &Settings::chosen);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

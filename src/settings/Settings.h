@@ -17,6 +17,10 @@ public:
     /// Shows the settings record again.
     void updateView();
 
+signals:
+    /// The user chose another programmer, port or speed, which stands in the settings record.
+    void chosen();
+
 private:
     SettingsPresenter* m_presenter;
 };

@@ -67,10 +67,15 @@ void SettingsPresenter::loadProgrammer(const QString& name)
 {
     const ProgrammerEntry entry = SettingsModel::programmerEntry(name);
     choose(name, entry);
-    if (entry.portMode == QLatin1String("com") && m_view.port()->count() > 0) {
+    if (entry.portMode == QLatin1String("com")) {
         m_view.port()->setCurrentIndex(0); // the port of another programmer is not meant
-        setComPorts(m_view.port()->currentText());
+        if (m_view.port()->count() > 0)
+            setComPorts(m_view.port()->currentText());
+        else
+            m_settings.hasFormerPort = true;
     }
+    if (entry.fault.isEmpty())
+        emit chosen();
     tell(entry);
     const QSignalBlocker blocker(m_view.programmer());
     showProgrammer(); // the one that the next run uses
@@ -83,6 +88,7 @@ void SettingsPresenter::choose(const QString& name, const ProgrammerEntry& entry
     m_settings.programmer.name = name;
     m_settings.programmer.id = entry.id;
     m_settings.arguments = entry.arguments;
+    m_settings.hasFormerPort = false;
     setPortMode(entry.portMode);
 }
 
@@ -154,6 +160,7 @@ void SettingsPresenter::availableComPortsLin(QComboBox* comboBox)
 void SettingsPresenter::setSpeedProgrammer(const QString& speed)
 {
     m_settings.speed = speed;
+    emit chosen();
 }
 
 void SettingsPresenter::setLanguage(const QString& language)
@@ -180,4 +187,5 @@ void SettingsPresenter::setLanguage(const QString& language)
 void SettingsPresenter::setComPorts(const QString&)
 {
     m_settings.port = m_view.port()->currentData().toString();
+    emit chosen();
 }

@@ -46,6 +46,10 @@ public slots:
     /// Stores the port list's current device; the text shown, @p comPort, is not what avrdude needs.
     void setComPorts(const QString& comPort);
 
+signals:
+    /// The user chose another programmer, port or speed, which stands in the settings record.
+    void chosen();
+
 private:
     /// Takes what the catalogue has of the programmer called @p name into the record, and offers its kind of port. An
     /// entry that could not be read changes nothing.

@@ -199,6 +199,7 @@ bool SettingsRecord::loadFromFile(const QString& path)
     if (!file.isObject())
         return false;
     ++generation;
+    hasFormerPort = false;
     Reader reader(file.document.object());
     visitRecord(*this, reader);
     return true;

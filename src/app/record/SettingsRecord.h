@@ -52,6 +52,9 @@ struct SettingsRecord {
     /// waits for something from the chip can see whether it still belongs to what the record holds.
     int generation = 0;
 
+    /// Not stored either: the port is still that of the programmer before, as there was none to choose for this one.
+    bool hasFormerPort = false;
+
     /// Writes the whole record to @p path. The file is replaced at once or not at all.
     /// Returns false, with the old file untouched, when it cannot be written.
     [[nodiscard]] bool saveToFile(const QString& path) const;
