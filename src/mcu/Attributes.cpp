@@ -3,6 +3,7 @@
 #include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "base/Box.h"
 #include "base/JsonFile.h"
 #include "mcu/AttributesView.h"
 #include "mcu/description/BytesModel.h"
@@ -50,6 +51,12 @@ void Attributes::showCalibration(const QString& text)
     m_view.calibrationByte()->setCursorPosition(0); // a long one is read from its beginning
 }
 
+void Attributes::clearCalibration()
+{
+    m_avrdude.settings().callByte.clear();
+    showCalibration({});
+}
+
 void Attributes::eraseAllMcu()
 {
     m_avrdude.execute({QStringLiteral("-e")}, [this] {
@@ -73,11 +80,12 @@ void Attributes::setAvrdudeCmdReadCallByte()
 
 void Attributes::readFileCallByte()
 {
-    m_readFile.readFiles(m_avrdude.filesOfReading(), [this](const QStringList& texts) {
-        if (texts.isEmpty())
-            return;
-        showCalibration(texts.constFirst());
-        m_avrdude.settings().callByte = texts.constFirst();
-    });
-    QMessageBox::information(&m_view, QStringLiteral("Calibration Byte"), tr("Calibration byte read successfully."));
+    QString value;
+    m_readFile.readFiles(m_avrdude.filesOfReading(), [&value](const QStringList& texts) { value = texts.value(0); });
+    showCalibration(value);
+    m_avrdude.settings().callByte = value;
+    const bool hasValue = !value.isEmpty();
+    Box::tell(&m_view, QStringLiteral("Calibration Byte"), tr("Calibration byte read successfully."),
+              hasValue ? QString() : tr("avrdude has read none: most likely the microcontroller has no such byte."),
+              hasValue ? QMessageBox::Information : QMessageBox::Warning);
 }

@@ -22,6 +22,9 @@ public:
     /// have the microcontroller: another one would not be what the next run uses.
     void refresh();
 
+    /// Forgets the calibration byte: it is another chip's.
+    void clearCalibration();
+
     void eraseAllMcu();
 
     /// Lets avrdude check the signature, and asks whether to go on. The answer changes nothing.
@@ -30,8 +33,8 @@ public:
     /// Empties the field and reads the chip's calibration bytes into a file, then from there into the field.
     void setAvrdudeCmdReadCallByte();
 
-    /// Takes the file of the last reading over into the field and the record, and tells so. Without a file both stay as
-    /// they are.
+    /// Takes the file of the last reading over into the field and the record, and tells so. Without a value both are
+    /// empty then, and the box says why.
     void readFileCallByte();
 
 private:

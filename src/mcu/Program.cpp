@@ -46,6 +46,7 @@ void Program::refresh()
 void Program::onMcuSelected(const QString& name)
 {
     m_settings.mcuName = name;
+    m_attributes->clearCalibration();
     m_fuses.loadMcu(name);
     m_fuses.rebuild();
     QMessageBox::information(
