@@ -121,6 +121,8 @@ for name, found in sorted(ships.items()):
                 check(before == int(number or 0) + 1, where, bit, 'does not follow', before)
                 last[(owners[:1] + [''])[0] + stem] = int(number or 0)
     check(listed == memories, name, 'has', listed, 'instead of', memories)
+    reason = found.pop('withoutFuseBytes', None)
+    check(reason is None if listed else reason in ('unreachable', 'unreliable'), name, 'has no fuse bytes, as', reason)
     if name.startswith('AVR') and not has_word(newer, name):  # 7.1 has the whole name, which newer ones take too
         expected = dict(expected, id=name.lower())
     check(found == expected, name, 'is', found, 'instead of', expected)

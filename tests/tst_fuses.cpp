@@ -1,7 +1,9 @@
+#include "base/ElidedLabel.h"
 #include "fuses/FuseMeanings.h"
 #include "fuses/FuseRequests.h"
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
+#include "fuses/FusesBytesView.h"
 #include "mcu/description/BytesModel.h"
 #include "support/Bench.h"
 #include "support/ShownFuses.h"
@@ -214,7 +216,60 @@ private slots:
         tab.click(tab.buttons->defaultButton());
         QCOMPARE(shownFuses(tab.tab), QString("62"));
         tab.bytes = {}; // as of parts that serial programming does not reach
-        QCOMPARE(tab.click(tab.buttons->readButton()), QString("FUSES: Fuse bytes read successfully.|"));
+        const QString remark = " successfully. + There is no fuse byte here: none was sent.";
+        for (const auto& [button, told] : {std::pair(tab.buttons->readButton(), "FUSES: Fuse bytes read%1|"),
+                                           {tab.buttons->writeButton(), "Information: Fuse bytes written%1|"},
+                                           {tab.buttons->verifyButton(), "FUSES: Fuse bytes verified%1|"},
+                                           {tab.buttons->defaultButton(), "FUSES: Fuse bytes set to default values%1"}})
+            QCOMPARE(tab.click(button), QString(told).arg(remark));
+    }
+
+    void whyThereIsNoByte()
+    {
+        Tab tab;
+        const auto* reason = tab.tab.findChild<FusesBytesView*>()->findChild<QLabel*>();
+        QVERIFY(!reason->isVisibleTo(&tab.tab));
+        tab.bytes = {};
+        for (const auto& [key, text] :
+             {std::pair("unreachable", "A serial programmer does not reach the fuse bytes of this microcontroller."),
+              {"unreliable", "avrdude cannot be relied on for the fuse bytes of this microcontroller."},
+              {"", "No fuse bytes are loaded. Choose the microcontroller in the first tab."}}) {
+            tab.folder.write("mcu/ATmega16.json", R"({"id": "m16", "withoutFuseBytes": "%1"})");
+            tab.folder.write("mcu/ATmega16.json", tab.folder.read("mcu/ATmega16.json").replace("%1", key));
+            tab.tab.rebuild();
+            QVERIFY(reason->isVisibleTo(&tab.tab));
+            QCOMPARE(reason->text(), QString(text));
+        }
+    }
+
+    void whatMayLockOutIsAskedOnce()
+    {
+        Bench bench;
+        Fuses fuses(bench.avrdude, nullptr);
+        loadMega328P(bench, fuses);
+        const auto* buttons = fuses.findChild<FusesButtonsView*>();
+        const auto* legend = fuses.findChild<ElidedLabel*>();
+        QCOMPARE(legend->accessibleName(), QString("not read from the chip"));
+        const auto editors = fuses.findChildren<FusesByteView*>();
+        QTest::keyClicks(editors[1]->value(), "59"); // RSTDISBL
+        QTest::keyClicks(editors[3]->value(), "FC"); // locked
+        const QString asked =
+            "FUSES, by default No: High Fuse: The reset pin becomes an ordinary pin: a serial programmer can no longer "
+            "reach the chip. The way back: a high-voltage programmer.\nLock Bits: A programmer can no longer read or "
+            "write the chip. The way back: erase all of it. + Do you want to write the fuse bytes all the same?";
+        const QString written = "Information: Fuse bytes written successfully.";
+        const auto press = [&] { return bench.click(buttons->writeButton()).section("|-U", 0, 0); };
+        QCOMPARE(press(), asked);
+        QVERIFY(bench.requests().isEmpty() && legend->isVisible());
+        bench.boxes.button = QMessageBox::Yes;
+        QCOMPARE(press(), asked + '|' + written);
+        QVERIFY(!legend->isVisible());
+        QCOMPARE(press(), written); // it is on the chip already
+        bench.folder.write("script", "make hfuse.hex 99"); // debugWIRE, as the chip says
+        bench.click(buttons->readButton());
+        QCOMPARE(press(), written);
+        editors[1]->fusesBit()[7]->click(); // RSTDISBL again
+        QVERIFY(press().startsWith(asked.section(" The way", 0, 0)));
     }
 
     void editorsOnTheirWayOutLeaveTheListAlone()

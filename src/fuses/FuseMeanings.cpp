@@ -1,5 +1,6 @@
 #include "fuses/FuseMeanings.h"
 
+#include "app/record/SettingsRecord.h"
 #include "base/JsonFile.h"
 #include "mcu/description/BytesModel.h"
 
@@ -81,7 +82,7 @@ struct Warning {
 
 // Fields that begin with "safe" lock nobody out: PDI works without the reset pin, and a part that knows high-voltage
 // programming only gets its clock from there.
-constexpr std::array<Warning, 10> warnings = {{
+constexpr std::array<Warning, 10> lockOuts = {{
     {"^rstdisbl:gpio",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.\n"
@@ -127,10 +128,10 @@ constexpr std::array<Warning, 10> warnings = {{
 /// The warning for @p setting, a field's name, a colon and the symbol; empty for most.
 QString warningFor(const QString& setting)
 {
-    const auto* const found = std::find_if(warnings.begin(), warnings.end(), [&setting](const Warning& warning) {
+    const auto* const found = std::find_if(lockOuts.begin(), lockOuts.end(), [&setting](const Warning& warning) {
         return setting.contains(QRegularExpression(QLatin1String(warning.settings)));
     });
-    return found == warnings.end() ? QString() : QCoreApplication::translate("FuseMeanings", found->text);
+    return found == lockOuts.end() ? QString() : QCoreApplication::translate("FuseMeanings", found->text);
 }
 
 } // namespace
@@ -191,23 +192,50 @@ QVector<FuseMeanings::Text> FuseMeanings::of(const FuseByte& byte) const
     return texts;
 }
 
+QStringList FuseMeanings::warnings(const SettingsRecord& settings, const QVector<FusesOnChip>& known)
+{
+    FuseMeanings meanings;
+    meanings.load(settings);
+    QStringList lines;
+    for (const FuseByte& byte : settings.fusesBytes) {
+        const auto fields = meanings.m_fields.value(byte.id);
+        for (const Field& field : fields) {
+            const QString warning = meanings.warningOf(field, byte).replace(QLatin1Char('\n'), QLatin1Char(' '));
+            const bool isKnown = std::any_of(known.begin(), known.end(), [&](const FusesOnChip& chip) {
+                return chip.has(settings.mcuId, byte, existing(byte, field.bits));
+            });
+            if (!warning.isEmpty() && !isKnown)
+                lines += byte.name + QStringLiteral(": ") + warning;
+        }
+    }
+    return lines;
+}
+
+QString FuseMeanings::symbolOf(const Field& field, quint32 value) const
+{
+    const QJsonValue others = field.symbols.value(QLatin1String("*"));
+    return field.symbols.value(QString::number(numberIn(value, field.bits))).toString(others.toString());
+}
+
+QString FuseMeanings::warningOf(const Field& field, const FuseByte& byte) const
+{
+    const bool isFactory = (changed(byte) & field.bits) == 0; // which locks nobody out
+    return isFactory ? QString() : warningFor(field.name + QLatin1Char(':') + symbolOf(field, byte.currentValue));
+}
+
 QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
 {
     const quint32 bits = existing(byte, field.bits);
-    const auto symbol = [&field](quint32 value) {
-        const QJsonValue others = field.symbols.value(QLatin1String("*"));
-        return field.symbols.value(QString::number(numberIn(value, field.bits))).toString(others.toString());
-    };
     const auto setting = [&](quint32 value) {
         return field.symbols.isEmpty()
             ? QString::number(numberIn(value, field.bits))
-            : digitsOf(value, bits) + QStringLiteral(": ") + meaningOf(field.name, symbol(value));
+            : digitsOf(value, bits) + QStringLiteral(": ") + meaningOf(field.name, symbolOf(field, value));
     };
     QStringList lines {field.text, namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
     if ((changed(byte) & bits) != 0) {
         lines += QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ")
             + setting(factoryValue(byte));
-        const QString warning = warningFor(field.name + QLatin1Char(':') + symbol(byte.currentValue));
+        const QString warning = warningOf(field, byte);
         if (!warning.isEmpty())
             lines += warning;
     }

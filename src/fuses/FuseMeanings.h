@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/record/FuseByte.h"
+#include "app/record/FusesOnChip.h"
 
 #include <QHash>
 #include <QJsonObject>
@@ -40,6 +40,10 @@ public:
     /// with its meaning, the factory's if that is another, and what to expect where a setting locks the programmer out.
     [[nodiscard]] QVector<Text> of(const FuseByte& byte) const;
 
+    /// What to expect of those settings among the fuse bytes of @p settings that lock the programmer out, as in their
+    /// texts, a line each with the byte's name. Left out are those that the part has according to one of @p known.
+    [[nodiscard]] static QStringList warnings(const SettingsRecord& settings, const QVector<FusesOnChip>& known = {});
+
 private:
     struct Field {
         quint32 bits;
@@ -49,6 +53,8 @@ private:
     };
 
     [[nodiscard]] quint32 factoryValue(const FuseByte& byte) const;
+    [[nodiscard]] QString symbolOf(const Field& field, quint32 value) const;
+    [[nodiscard]] QString warningOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
 

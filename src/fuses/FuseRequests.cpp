@@ -1,5 +1,7 @@
 #include "fuses/FuseRequests.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 /// @p operation is "w" or "v". The value goes out as "0x3f": no leading zeros.
@@ -52,4 +54,10 @@ QStringList FuseRequests::files(const FuseBytes& bytes)
     for (const FuseByte& byte : bytes)
         names += fileName(byte);
     return names;
+}
+
+QString FuseRequests::remark(const FuseBytes& bytes)
+{
+    return bytes.isEmpty() ? QCoreApplication::translate("FuseRequests", "There is no fuse byte here: none was sent.")
+                           : QString();
 }

@@ -21,4 +21,8 @@ namespace FuseRequests {
 /// The files that read() makes avrdude write, in the working directory.
 [[nodiscard]] QStringList files(const FuseBytes& bytes);
 
+/// What is to be added, for the user, when an operation on all of @p bytes is told to have succeeded: that there was
+/// none. Empty when there was one.
+[[nodiscard]] QString remark(const FuseBytes& bytes);
+
 } // namespace FuseRequests

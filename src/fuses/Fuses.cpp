@@ -2,6 +2,8 @@
 
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "base/Box.h"
+#include "fuses/FuseRequests.h"
 #include "fuses/FusesButtons.h"
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesBytes.h"
@@ -9,7 +11,6 @@
 #include "fuses/FusesTextView.h"
 #include "mcu/description/BytesModel.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -18,7 +19,9 @@
 Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     : QWidget(parent)
     , m_settings(avrdude.settings())
+    , m_onChip(avrdude.fusesOnChip())
     , m_bytesModel(new BytesModel(m_settings, this))
+    , m_legend(new FusesTextView(this))
     , m_scrollArea(new QScrollArea(this))
 {
     auto* bytesView = new FusesBytesView;
@@ -30,13 +33,15 @@ Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     auto* buttonsView = new FusesButtonsView(this);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new FusesTextView(this));
+    layout->addWidget(m_legend);
     layout->addWidget(m_scrollArea);
     layout->addWidget(buttonsView);
 
     m_bytes = new FusesBytes(m_settings, *bytesView, this);
     auto* buttons = new FusesButtons(avrdude, *buttonsView, this);
     connect(buttons, &FusesButtons::setReadingFusesEmit, this, &Fuses::refresh);
+    connect(buttons, &FusesButtons::known, this, &Fuses::showLegend);
+    connect(buttons, &FusesButtons::known, this, &Fuses::chipKnown);
     connect(buttonsView->defaultButton(), &QPushButton::clicked, this, &Fuses::onClickDefault);
 }
 
@@ -49,6 +54,7 @@ void Fuses::rebuild()
 {
     m_bytes->rebuild();
     m_scrollArea->verticalScrollBar()->setValue(0);
+    showLegend();
 }
 
 void Fuses::refresh()
@@ -60,5 +66,11 @@ void Fuses::onClickDefault()
 {
     restoreDefaults(m_settings.fusesBytes);
     refresh();
-    QMessageBox::information(this, QStringLiteral("FUSES"), tr("Fuse bytes set to default values successfully."));
+    Box::tell(this, QStringLiteral("FUSES"), tr("Fuse bytes set to default values successfully."),
+              FuseRequests::remark(m_settings.fusesBytes));
+}
+
+void Fuses::showLegend()
+{
+    m_legend->setUnread(!m_settings.fusesBytes.isEmpty() && !m_onChip.knows(m_settings.mcuId));
 }

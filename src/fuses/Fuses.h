@@ -5,6 +5,8 @@
 class Avrdude;
 class BytesModel;
 class FusesBytes;
+class FusesOnChip;
+class FusesTextView;
 class QScrollArea;
 struct SettingsRecord;
 
@@ -28,11 +30,20 @@ public:
     /// Takes every byte's value over into its bits and lets the editors show both.
     void refresh();
 
+    /// Says whether anything is known of a chip of this kind.
+    void showLegend();
+
+signals:
+    /// Fuse bytes were read from a chip, or written to it, in this tab.
+    void chipKnown();
+
 private:
     void onClickDefault();
 
     SettingsRecord& m_settings;
+    const FusesOnChip& m_onChip;
     BytesModel* m_bytesModel;
+    FusesTextView* m_legend;
     QScrollArea* m_scrollArea;
     FusesBytes* m_bytes;
 };

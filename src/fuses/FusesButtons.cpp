@@ -1,11 +1,11 @@
 #include "fuses/FusesButtons.h"
 
 #include "avrdude/Avrdude.h"
-#include "base/BoxText.h"
+#include "base/Box.h"
+#include "fuses/FuseMeanings.h"
 #include "fuses/FuseRequests.h"
 #include "fuses/FusesButtonsView.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 
 #include <utility>
@@ -22,12 +22,38 @@ FusesButtons::FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* pa
 
 void FusesButtons::onClickWriteBt()
 {
-    m_avrdude.execute(FuseRequests::write(m_avrdude.settings().fusesBytes), [this] { onClickWriteMessage(); });
+    if (m_avrdude.isBusy())
+        return; // no box belongs over a run
+    const SettingsRecord& settings = m_avrdude.settings();
+    const FuseBytes bytes = settings.fusesBytes;
+    const QStringList warnings = FuseMeanings::warnings(settings, {m_avrdude.fusesOnChip(), m_accepted});
+    if (!warnings.isEmpty()) {
+        if (!Box::ask(&m_view, QStringLiteral("FUSES"), warnings.join(QLatin1Char('\n')),
+                      tr("Do you want to write the fuse bytes all the same?")))
+            return;
+        m_accepted.note(settings.mcuId, bytes);
+    }
+    m_avrdude.execute(FuseRequests::write(bytes), [this, part = settings.mcuId, bytes] {
+        setKnown(part, bytes);
+        m_remark = FuseRequests::remark(bytes);
+        onClickWriteMessage();
+    });
 }
 
 void FusesButtons::onClickVerifyBt()
 {
-    m_avrdude.execute(FuseRequests::verify(m_avrdude.settings().fusesBytes), [this] { onClickVerifyMessage(); });
+    const FuseBytes bytes = m_avrdude.settings().fusesBytes;
+    m_avrdude.execute(FuseRequests::verify(bytes), [this, bytes] {
+        m_remark = FuseRequests::remark(bytes);
+        onClickVerifyMessage();
+    });
+}
+
+void FusesButtons::setKnown(const QString& part, const FuseBytes& bytes, const QStringList& except)
+{
+    m_accepted = {};
+    m_avrdude.fusesOnChip().note(part, bytes, except);
+    emit known();
 }
 
 void FusesButtons::onClickReadBt()
@@ -40,12 +66,12 @@ void FusesButtons::onClickReadBt()
 
 void FusesButtons::onClickWriteMessage()
 {
-    QMessageBox::information(&m_view, QStringLiteral("Information"), tr("Fuse bytes written successfully."));
+    Box::tell(&m_view, QStringLiteral("Information"), tr("Fuse bytes written successfully."), m_remark);
 }
 
 void FusesButtons::onClickVerifyMessage()
 {
-    QMessageBox::information(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes verified successfully."));
+    Box::tell(&m_view, QStringLiteral("FUSES"), tr("Fuse bytes verified successfully."), m_remark);
 }
 
 void FusesButtons::readFuseBytesMcu()
@@ -59,11 +85,13 @@ void FusesButtons::readFuseBytesMcu()
     }
     const QStringList unread = takeReadValues(settings.fusesBytes, texts);
     emit setReadingFusesEmit();
+    setKnown(settings.mcuId, settings.fusesBytes, unread);
 
     QStringList told;
     if (unread.isEmpty() || unread.size() < texts.size())
         told += tr("Fuse bytes read successfully.");
     if (!unread.isEmpty())
         told += tr("Not read: %1").arg(unread.join(QLatin1String(", ")));
-    QMessageBox::information(&m_view, QStringLiteral("FUSES"), boxText(told.join(QLatin1Char('\n'))));
+    Box::tell(&m_view, QStringLiteral("FUSES"), told.join(QLatin1Char('\n')),
+              FuseRequests::remark(settings.fusesBytes));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/record/FusesOnChip.h"
 #include "avrdude/ReadFile.h"
 
 #include <QObject>
@@ -28,11 +29,19 @@ public slots:
     void onClickVerifyMessage();
 
 signals:
+    /// Bytes were just read from a chip or written to it; the settings record tells what is known of it.
+    void known();
+
     /// The values read stand in the settings record; the bits do not follow them yet.
     void setReadingFusesEmit();
 
 private:
+    /// Notes that a chip has @p bytes, but for those called one of @p except.
+    void setKnown(const QString& part, const FuseBytes& bytes, const QStringList& except = {});
+
     Avrdude& m_avrdude;
     FusesButtonsView& m_view;
+    QString m_remark; ///< that the closing box of a run adds
+    FusesOnChip m_accepted; ///< what the user has said yes to since the last run that succeeded
     ReadFile m_readFile;
 };

@@ -5,8 +5,10 @@
 #include "fuses/FusesBytePresenter.h"
 #include "fuses/FusesByteView.h"
 #include "fuses/FusesBytesView.h"
+#include "mcu/description/BytesModel.h"
 
 #include <QHBoxLayout>
+#include <QJsonObject>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -37,6 +39,7 @@ void FusesBytes::rebuild()
     for (int i = 0; i < m_settings.fusesBytes.size(); ++i)
         m_view.editors()->addWidget(makeEditor(i));
     m_settings.fusesEnable = !m_settings.fusesBytes.isEmpty();
+    explainAbsence();
 }
 
 void FusesBytes::refresh()
@@ -53,11 +56,27 @@ void FusesBytes::refresh()
 
 void FusesBytes::explain()
 {
+    explainAbsence();
     if (m_meanings.isLoaded() || m_settings.fusesBytes.size() != m_editors.size())
         return; // or the editors are about to be made anew
     m_meanings.load(m_settings);
     for (FusesBytePresenter* editor : std::as_const(m_editors))
         editor->showMeanings();
+}
+
+void FusesBytes::explainAbsence()
+{
+    if (!m_settings.fusesBytes.isEmpty()) {
+        m_view.setReason({});
+        return;
+    }
+    const QString reason = BytesModel::description(m_settings).value(QLatin1String("withoutFuseBytes")).toString();
+    if (reason == QLatin1String("unreachable"))
+        m_view.setReason(tr("A serial programmer does not reach the fuse bytes of this microcontroller."));
+    else if (reason == QLatin1String("unreliable"))
+        m_view.setReason(tr("avrdude cannot be relied on for the fuse bytes of this microcontroller."));
+    else
+        m_view.setReason(tr("No fuse bytes are loaded. Choose the microcontroller in the first tab."));
 }
 
 QWidget* FusesBytes::makeEditor(int index)

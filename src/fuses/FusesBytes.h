@@ -28,6 +28,7 @@ public:
 private:
     QWidget* makeEditor(int index);
     void explain();
+    void explainAbsence();
 
     SettingsRecord& m_settings;
     FusesBytesView& m_view;

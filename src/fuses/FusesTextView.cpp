@@ -1,5 +1,7 @@
 #include "fuses/FusesTextView.h"
 
+#include "base/ElidedLabel.h"
+
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -7,6 +9,7 @@
 
 FusesTextView::FusesTextView(QWidget* parent)
     : QWidget(parent)
+    , m_unread(new ElidedLabel(Qt::ElideRight, this))
 {
     // The datasheets' words, the same in every language.
     auto* label = new QLabel(QStringLiteral("Datasheet:"), this);
@@ -21,8 +24,20 @@ FusesTextView::FusesTextView(QWidget* parent)
         row->addWidget(widget);
     }
     row->addStretch();
+    QFont small = m_unread->font();
+    small.setPointSizeF(0.85 * QFontInfo(small).pointSizeF());
+    m_unread->setFont(small);
+    m_unread->setEnabled(false);
+    m_unread->showLine(tr("not read from the chip"));
+    row->addWidget(m_unread);
+    setUnread(false);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(row);
+}
+
+void FusesTextView::setUnread(bool isUnread)
+{
+    m_unread->setVisible(isUnread);
 }
