@@ -4,6 +4,7 @@
 #include "app/KorvelApp.h"
 #include "avrdude/Avrdude.h"
 #include "fuses/Fuses.h"
+#include "memory/FirmwareFile.h"
 #include "memory/FlashView.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
@@ -232,6 +233,29 @@ void benchLog()
     row("the same, longest wait of an event", "50 ms", longestWait, patience, "ms", 1);
 }
 
+/// A file of 1 MB, which is three times as much as the largest microcontroller takes.
+void benchFile()
+{
+    constexpr int repetitions = 21;
+    constexpr double patience = 50; // milliseconds, between a click on Write and the start of avrdude
+    const WorkFolder folder;
+    QByteArray records;
+    while (records.size() < 1'000'000)
+        records += ":10000000000102030405060708090A0B0C0D0E0F78\n";
+    for (const auto& [what, content] : {std::pair("looking through 1 MB of Intel hex", records),
+                                        {"looking through 1 MB without a line break", QByteArray(1'000'000, '\0')}}) {
+        folder.write("a.hex", content);
+        Samples samples;
+        for (int i = 0; i < repetitions; ++i) {
+            QElapsedTimer timer;
+            timer.start();
+            static_cast<void>(FirmwareFile::read("a.hex", "i", "flash", 1024));
+            samples += static_cast<double>(timer.nsecsElapsed()) / 1e6;
+        }
+        row(what, "50 ms", median(samples), patience, "ms", 1);
+    }
+}
+
 void benchPicking()
 {
     constexpr int repetitions = 5;
@@ -320,7 +344,8 @@ int main(int argc, char* argv[])
     const QVector<QPair<QString, void (*)()>> benches {
         {"start", benchStart},     {"descriptions", benchManyDescriptions},
         {"write", benchWrite},     {"log", benchLog},
-        {"picking", benchPicking}, {"kills", benchKills}};
+        {"picking", benchPicking}, {"file", benchFile},
+        {"kills", benchKills}};
     for (const auto& [name, bench] : benches) {
         if (only.isEmpty() || only.contains(name))
             bench();

@@ -12,6 +12,7 @@
 #include "i18n/TsConverter.h"
 #include "mcu/description/BytesModel.h"
 #include "mcu/description/SignatureIndex.h"
+#include "memory/FirmwareFile.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 #include "update/UpdateChecker.h"
@@ -111,6 +112,16 @@ void output(Fuzz& fuzz, const QByteArray& input)
         if (values.size() != 1)
             std::abort();
     });
+}
+
+/// A file for a memory, of whatever format.
+void firmware(Fuzz& fuzz, const QByteArray& input)
+{
+    fuzz.folder.write("a.hex", input);
+    for (const char* format : {"i", "r", "e", "a", "m"}) {
+        for (const char* memory : {"flash", "eeprom"})
+            static_cast<void>(FirmwareFile::read("a.hex", format, memory, 4096));
+    }
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

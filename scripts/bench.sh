@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds Korvel with its measurements of speed and prints one table. Arguments name the measurements to take: start,
-# descriptions, write, log, picking, kills; all without any. Nothing of it is part of CI.
+# descriptions, write, log, picking, file, kills; all without any. Nothing of it is part of CI.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the language files
 

@@ -8,7 +8,7 @@ export LC_ALL=C.UTF-8
 seconds=${1:-600}
 [ $# -gt 0 ] && shift
 readers=("$@")
-[ ${#readers[@]} -gt 0 ] || readers=(settings description translation update output)
+[ ${#readers[@]} -gt 0 ] || readers=(settings description translation update output firmware)
 
 need_packages "${build_packages[@]}" clang
 version=$(clang++ -dumpversion)
@@ -23,6 +23,8 @@ seed() { mkdir -p "corpus/$1" && cp -n "${@:2}" "corpus/$1/"; }
 seed settings ../../data/save.json ../../data/profiles/*
 seed description ../../data/mcu/ATmega16.json ../../data/mcu/ATtiny10.json
 seed translation ../../translations/Deutsch.ts
+seed firmware ../../data/demo/* ../../tests/data/*.elf
+printf 'S105000001FEFB\nS5030001FB\nS9030000FC\n' >corpus/firmware/srecords
 mkdir -p corpus/update corpus/output
 echo '{"version": "6.0", "url": "https://korvel.example", "url_linux": ""}' >corpus/update/newer
 echo 'avrdude: error: program enable: target does not answer. Device signature = 0xffffff' >corpus/output/error

@@ -66,6 +66,77 @@ private slots:
         QCOMPARE(panels.click(panels.flashView.readButton()).replace("|", ", "), cell("read"));
     }
 
+    void onlyWhereTheChipIsErasedFirstIsAsked()
+    {
+        const QString question = "FLASH, by default No: Line 1 is not Intel HEX. + The chip would be erased for "
+                                 "nothing.\nDo you want to go on all the same?";
+        for (const auto& [part, arguments, answer, told] : {std::tuple("m16", "-F", QMessageBox::No, question),
+                                                            {"m16", "-V -D", QMessageBox::No, "-U"},
+                                                            {"x128a1", "", QMessageBox::No, "-U"},
+                                                            {"m16", "", QMessageBox::Yes, question}}) {
+            Panels panels;
+            panels.boxes.button = answer;
+            panels.settings.mcuId = part;
+            panels.settings.arguments = arguments;
+            for (PathField* path : {panels.flashView.writePath(), panels.eepromView.writePath()})
+                path->setText("a.hex");
+            panels.folder.write("a.hex", "garbage");
+            panels.folder.write("script", "err verification error");
+            const QString writing = panels.click(panels.flashView.writeButton());
+            QVERIFY2(writing.startsWith(told == question ? question : "AVRDUDE: "), qPrintable(writing));
+            QCOMPARE(writing.contains("flash:w:"), told != question || answer == QMessageBox::Yes);
+            for (QPushButton* button : {panels.flashView.writeVerifyButton(), panels.eepromView.writeButton()})
+                QVERIFY(panels.click(button).startsWith("AVRDUDE: "));
+        }
+    }
+
+    void aFileOfTheUsersOwnIsNotReplacedUnasked()
+    {
+        Panels panels;
+        const MemoryView& view = panels.flashView;
+        PathField* path = view.readPath();
+        QTest::keyClicks(path, "mine.bin");
+        const auto asked = [&] {
+            const QString told = panels.click(view.readButton());
+            const QString name = QDir::toNativeSeparators(QDir().absoluteFilePath("mine.bin"));
+            return told.startsWith("FLASH, by default No: Reading would replace this file: + " + name
+                                   + "\n8 bytes, changed on ")
+                && told.contains("flash:r:") == (panels.boxes.button == QMessageBox::Yes);
+        };
+        QVERIFY(!asked()); // there is none
+        panels.folder.write("mine.bin", "");
+        QVERIFY(!asked());
+        panels.folder.write("mine.bin", "firmware");
+        QVERIFY(asked());
+        panels.boxes.button = QMessageBox::Yes;
+        panels.folder.write("script", "make mine.bin 0102030405060708");
+        QVERIFY(asked());
+        QVERIFY(!asked()); // a reading wrote it
+        QTest::qWait(20); // for a later time of change
+        panels.folder.write("mine.bin", "my notes");
+        QVERIFY(asked());
+        panels.folder.write("mine.bin", "my notes");
+        path->setFile(QDir().absoluteFilePath("mine.bin")); // as in the dialog
+        QVERIFY(!asked());
+    }
+
+    void aReadingThatBroughtNothing()
+    {
+        Panels panels;
+        panels.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 4})");
+        const QString read = "FLASH, warning: FLASH read successfully. + The file is ";
+        const QString empty = read + "empty: the chip is blank or locked, or the disk is full.";
+        for (const auto& [file, script, told] :
+             {std::tuple("a.bin", "", read + "not there: avrdude has not written it."),
+              {"a.bin", "make a.bin -", empty},
+              {"a.hex", "make a.hex 3A30303030303030314646", empty},
+              {"a.bin", "make a.bin FF", "FLASH: FLASH read successfully."}}) {
+            panels.flashView.readPath()->setText(file);
+            panels.folder.write("script", script);
+            QCOMPARE(panels.click(panels.flashView.readButton()).section('|', 0, 0), told);
+        }
+    }
+
     void aWritingTellsOfItsVerification()
     {
         for (const auto& [file, begin, told] : {std::tuple("a.hex", "verifying fl", "\nFLASH verified successfully."),
@@ -128,15 +199,22 @@ private slots:
         QCOMPARE(panels.settings.flashWrite, app.fileName());
     }
 
-    void theTooltipIsTheWholePath()
+    void theTooltipTellsOfTheFile()
     {
-        PathField field;
-        field.setText("<b>a  b</b>.hex"); // no markup, and every blank
-        QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3});
-        QCoreApplication::sendEvent(&field, &hover);
-        QTextDocument shown;
-        shown.setHtml(field.toolTip());
-        QCOMPARE(shown.toPlainText(), QDir::toNativeSeparators(QDir().absoluteFilePath("<b>a  b</b>.hex")));
+        const Panels panels;
+        panels.folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 64})");
+        panels.folder.write("a.hex", ":0200000001FEFF\n:00000001FF\n");
+        const QString facts = "\n2 bytes of data, 3.1 % of the memory\nchanged on ";
+        for (const auto& [path, known] : {std::pair("<b>a  b</b>.hex", QString()), {"a.hex", facts}}) {
+            panels.flashView.writePath()->setText(path); // no markup, and every blank
+            QHelpEvent hover(QEvent::ToolTip, {3, 3}, {3, 3});
+            QCoreApplication::sendEvent(panels.flashView.writePath(), &hover);
+            QTextDocument shown;
+            shown.setHtml(panels.flashView.writePath()->toolTip().replace('\n', known.isEmpty() ? "\n" : "<br>"));
+            const QString expected = QDir::toNativeSeparators(QDir().absoluteFilePath(path)) + known;
+            QCOMPARE(shown.toPlainText().left(expected.size()), expected);
+            QCOMPARE(shown.toPlainText() == expected, known.isEmpty());
+        }
     }
 
     void pasting_data() { casesFrom("pastes.txt", {"copied", "pasted"}); }

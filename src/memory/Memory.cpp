@@ -1,15 +1,28 @@
 #include "memory/Memory.h"
 
+#include "base/Box.h"
+#include "base/JsonFile.h"
+#include "mcu/description/BytesModel.h"
+#include "memory/FileCheck.h"
+#include "memory/FirmwareFile.h"
 #include "memory/MemoryRequest.h"
 #include "memory/MemoryView.h"
-#include "memory/RawFile.h"
 
 #include <QFileInfo>
-#include <QHash>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include <utility>
+
+namespace {
+
+QString timeOf(const QFileInfo& info)
+{
+    return Memory::tr("changed on %1").arg(QLocale().toString(info.lastModified(), QLocale::ShortFormat));
+}
+
+} // namespace
 
 Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind, QObject* parent)
     : QObject(parent)
@@ -19,6 +32,8 @@ Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind, QObject* pa
 {
     connect(view.writePath(), &QLineEdit::textChanged, this, &Memory::setFilePathWrite);
     connect(view.readPath(), &QLineEdit::textChanged, this, &Memory::setFilePathRead);
+    for (PathField* path : {view.writePath(), view.readPath()})
+        path->setDescription([this](const QString& file) { return describe(file); });
 }
 
 void Memory::setFilePathWrite(const QString& path)
@@ -77,7 +92,13 @@ void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 void Memory::startRead(Avrdude::Callback whenDone)
 {
     const MemoryRequest reading = request("r", fileToRead());
-    start(reading, reading.arguments(), std::move(whenDone));
+    if (m_avrdude.isBusy() || !mayReplace(reading.file))
+        return;
+    start(reading, reading.arguments(), [this, file = reading.file, whenDone = std::move(whenDone)] {
+        m_lastRead = file;
+        m_read.insert(fullPath(file), QFileInfo(file).lastModified());
+        whenDone();
+    });
 }
 
 void Memory::showWritten()
@@ -94,7 +115,16 @@ void Memory::showVerified()
 
 void Memory::showRead()
 {
-    showBox(tr(m_kind.read));
+    const QFileInfo info(m_lastRead);
+    const MemoryRequest reading = request("r", m_lastRead);
+    QString fault;
+    if (!m_lastRead.isEmpty() && !info.exists())
+        fault = tr("The file is not there: avrdude has not written it.");
+    else if (info.isFile()
+             && (info.size() == 0 || FirmwareFile::read(m_lastRead, reading.format, reading.memory, 0).bytes == 0))
+        fault = tr("The file is empty: the chip is blank or locked, or the disk is full.");
+    Box::tell(&m_view, QLatin1String(m_kind.title), tr(m_kind.read), fault,
+              fault.isEmpty() ? QMessageBox::Information : QMessageBox::Warning);
 }
 
 MemoryRequest Memory::request(const char* operation, const QString& path) const
@@ -103,15 +133,52 @@ MemoryRequest Memory::request(const char* operation, const QString& path) const
             setFormatFile(QFileInfo(path).suffix().toLower())};
 }
 
+bool Memory::mayReplace(const QString& path)
+{
+    // What is picked in the row's dialog is meant to be replaced, and so is what a former reading wrote there.
+    const QFileInfo info(path);
+    if (!m_view.readPath()->isByHand() || !info.isFile() || info.size() == 0
+        || m_read.value(fullPath(path)) == info.lastModified())
+        return true;
+    const QStringList lines {fullPath(path),
+                             tr("%1 bytes").arg(info.size()) + QLatin1String(", ") + timeOf(info),
+                             {},
+                             tr("Do you want to replace it?")};
+    return Box::ask(&m_view, QLatin1String(m_kind.title), tr("Reading would replace this file:"),
+                    lines.join(QLatin1Char('\n')));
+}
+
+QString Memory::describe(const QString& path) const
+{
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return fullPath(path);
+    const MemoryRequest writing = request("w", path);
+    const qint64 memorySize = BytesModel::memorySize(m_avrdude.settings(), writing.memory);
+    const FirmwareFile file = FirmwareFile::read(path, writing.format, writing.memory, memorySize);
+    QStringList lines {fullPath(path)};
+    if (file.bytes < 0 || !file.fault.isEmpty()) {
+        lines += tr("%1 bytes").arg(info.size());
+    } else if (memorySize <= 0) {
+        lines += tr("%1 bytes of data").arg(file.bytes);
+    } else {
+        const double share = 100.0 * static_cast<double>(file.bytes) / static_cast<double>(memorySize);
+        lines += tr("%1 bytes of data, %2 % of the memory")
+                     .arg(file.bytes)
+                     .arg(QLocale().toString(share, 'f', share < 10 ? 1 : 0));
+    }
+    lines += timeOf(info);
+    if (!file.fault.isEmpty())
+        lines += file.fault;
+    return lines.join(QLatin1Char('\n'));
+}
+
 void Memory::start(const MemoryRequest& request, const QStringList& arguments, Avrdude::Callback whenDone)
 {
     if (m_avrdude.isBusy())
         return; // no box belongs over a run
-    const QString fault = RawFile::fault(m_avrdude.settings(), request);
-    if (fault.isEmpty())
+    if (FileCheck::passes(&m_view, m_avrdude.settings(), request))
         m_avrdude.execute(arguments, std::move(whenDone));
-    else
-        showBox(fault);
 }
 
 void Memory::showBox(const QString& text)

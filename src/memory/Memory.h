@@ -3,6 +3,8 @@
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 
+#include <QDateTime>
+#include <QHash>
 #include <QObject>
 
 struct MemoryRequest;
@@ -10,7 +12,7 @@ class MemoryView;
 
 /// The logic of one memory panel: keeps the two file paths of the settings record and writes, verifies and reads the
 /// memory through the runner. Flash and Eeprom are this design with a table of constants each.
-/// Owned by the Programming tab, as is the view, which may go first. All state lives in the settings record.
+/// Owned by the Programming tab, as is the view, which may go first. All that lasts lives in the settings record.
 class Memory : public QObject
 {
     Q_OBJECT
@@ -61,11 +63,17 @@ protected:
 private:
     /// What does @p operation ("r", "w", "v") with the file at @p path.
     [[nodiscard]] MemoryRequest request(const char* operation, const QString& path) const;
-    /// Runs @p arguments, which are those of @p request, unless its file does not fit.
+    /// Runs @p arguments, which are those of @p request, unless something speaks against its file.
     void start(const MemoryRequest& request, const QStringList& arguments, Avrdude::Callback whenDone);
+    /// Whether what is at @p path may go, which the user is asked if it seems to be theirs.
+    [[nodiscard]] bool mayReplace(const QString& path);
+    /// What is known of the file at @p path, in lines; its whole path alone when there is none.
+    [[nodiscard]] QString describe(const QString& path) const;
     void showBox(const QString& text);
 
     MemoryView& m_view;
     Avrdude& m_avrdude;
     const Kind& m_kind;
+    QHash<QString, QDateTime> m_read; ///< files that a reading wrote, with the time of that
+    QString m_lastRead; ///< the one of the last reading
 };

@@ -11,10 +11,10 @@ class MemoryView : public QWidget
     Q_OBJECT
 
 public:
-    [[nodiscard]] QLineEdit* writePath() const { return m_writeRow.path; }
+    [[nodiscard]] PathField* writePath() const { return m_writeRow.path; }
     [[nodiscard]] QPushButton* writeButton() const { return m_writeRow.action; }
     [[nodiscard]] QPushButton* writeVerifyButton() const { return m_writeRow.verify; }
-    [[nodiscard]] QLineEdit* readPath() const { return m_readRow.path; }
+    [[nodiscard]] PathField* readPath() const { return m_readRow.path; }
     [[nodiscard]] QPushButton* readButton() const { return m_readRow.action; }
     [[nodiscard]] QPushButton* readVerifyButton() const { return m_readRow.verify; }
 

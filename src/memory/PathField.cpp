@@ -1,7 +1,6 @@
 #include "memory/PathField.h"
 
 #include "base/BoxText.h"
-#include "base/JsonFile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -25,6 +24,23 @@ QString fileIn(const QMimeData& data)
     return data.urls().value(0).toLocalFile();
 }
 
+/// The path in @p copied text. From a terminal or a list it comes with a line break and blanks that are none of it,
+/// from the Explorer of Windows or a shell in quotation marks, and from a browser or a file manager as an address.
+QString pathIn(QString copied)
+{
+    copied = copied.remove(QLatin1Char('\n')).remove(QLatin1Char('\r')).trimmed();
+    for (const char mark : {'"', '\''}) {
+        if (copied.size() > 1 && copied.startsWith(QLatin1Char(mark)) && copied.endsWith(QLatin1Char(mark)))
+            copied = copied.mid(1, copied.size() - 2);
+    }
+    QUrl address(copied);
+    if (address.host() == QLatin1String("localhost"))
+        address.setHost({});
+    // What looks like more than a file may be a name with such a character in it.
+    const bool isFile = address.isLocalFile() && !address.hasQuery() && !address.hasFragment();
+    return isFile ? address.toLocalFile() : copied;
+}
+
 /// Takes the file and leaves it where it is: who drags it may offer to move it.
 void acceptCopy(QDropEvent& event)
 {
@@ -37,6 +53,11 @@ void acceptCopy(QDropEvent& event)
 PathField::PathField(QWidget* parent)
     : QLineEdit(parent)
 {
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (text != m_byHand)
+            m_byHand.clear();
+    });
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { m_byHand = text; });
 }
 
 QString PathField::startFolder() const
@@ -50,12 +71,13 @@ void PathField::setFile(const QString& chosen)
     const QString relative = applicationFolder().relativeFilePath(chosen);
     const bool outside = relative.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(relative);
     setText(outside ? chosen : relative);
+    m_byHand.clear();
 }
 
 bool PathField::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(text().isEmpty() ? QString() : boxText(fullPath(text())));
+        setToolTip(text().isEmpty() ? QString() : boxText(m_description(text())));
     return QLineEdit::event(event);
 }
 
@@ -88,6 +110,7 @@ void PathField::dropEvent(QDropEvent* event)
         return;
     }
     setFile(file);
+    m_byHand = text();
     acceptCopy(*event);
 }
 
@@ -115,12 +138,8 @@ void PathField::pasteFrom(QClipboard::Mode mode)
     const QString file = fileIn(*copied);
     if (!file.isEmpty()) {
         setFile(file);
-        return;
+        m_byHand = text();
+    } else {
+        insert(pathIn(copied->text()));
     }
-    // A path copied from a terminal or a list comes with a line break and blanks that are none of it, and what the
-    // Explorer of Windows copies as a path stands in quotation marks.
-    QString path = copied->text().remove(QLatin1Char('\n')).remove(QLatin1Char('\r')).trimmed();
-    if (path.size() > 1 && path.startsWith(QLatin1Char('"')) && path.endsWith(QLatin1Char('"')))
-        path = path.mid(1, path.size() - 2);
-    insert(path);
 }
