@@ -1,3 +1,6 @@
+#include "base/ElidedLabel.h"
+#include "mcu/description/BytesModel.h"
+#include "memory/MemoryRequest.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/Profiles.h"
 #include "profiles/ProgrammingView.h"
@@ -87,13 +90,14 @@ private slots:
         QCOMPARE(tab.settings.mcuName + tab.settings.description + tab.settings.currentlyProfilesList,
                  QString("ATtiny85 Rev. B Плата №1 "));
 
-        tab.add("no/folder", {}); // cannot be written, and only the log says so
+        tab.folder.write("profiles/taken.json/file", "");
+        tab.add("taken", {}); // cannot be written, and only the log says so
         emit tab.profiles->textActivated("gone");
         QCOMPARE(tab.avrdude.log().toPlainText(),
-                 QString("Failed to save settings to file: ./profiles/no/folder.json\n"
+                 QString("Failed to save settings to file: ./profiles/taken.json\n"
                          "Failed to load settings from file: ./profiles/gone.json\n"));
         const QString saved = "Information: Profile \"%1.json\" saved successfully.";
-        QCOMPARE(tab.boxes.take(), QStringList({saved.arg("Плата №1 "), saved.arg("no/folder")}));
+        QCOMPARE(tab.boxes.take(), QStringList({saved.arg("Плата №1 "), saved.arg("taken")}));
 
         tab.settings.configurationList = QStringList {"A", "B"}; // of a file that somebody prepared
         tab.settings.currentlyProfilesList = "B";
@@ -118,12 +122,79 @@ private slots:
             removeButton->click();
             const QStringList boxes = tab.boxes.take();
             QCOMPARE(boxes[0].section(':', 0, 0), QString("Overwrite Confirmation, by default No"));
-            QVERIFY(boxes.size() == asked && boxes.last() == "Delete: Delete this profile?");
+            QVERIFY(boxes.size() == asked && boxes.last() == "Delete: Delete this profile? + Board");
             const QString file = QDir("profiles").entryList(QDir::Files).join(',').remove(".json");
             QCOMPARE(file + '|' + tab.profiles->currentText() + '|' + tab.settings.profile.name + '|'
                          + tab.settings.description,
                      QString(left));
         }
+    }
+
+    void namesOfFiles()
+    {
+        Tab tab;
+        const QString saved = "Information: Profile \"%1.json\" saved successfully.";
+        const QString bad = "Information: The name of a profile cannot hold any of these characters: ";
+        const QString device = "Information: Windows keeps this name for a device. Choose another one.";
+        for (const auto& [name, told] : {std::pair<QString, QString>("../save", bad), // and a list, longer on Windows
+                                         {"a\\b", bad},
+                                         {"Lpt1", device},
+                                         {"nul .x", device},
+                                         {QString(300, 'x'), "Information: The name is too long for a file. Choose a "},
+                                         {"v1.2", saved + " + After a restart the list calls it v1."},
+                                         {".x", saved + " + After a restart the list does not show it."},
+                                         {"console", saved}}) {
+            tab.add(name, {});
+            const QString expected = QString(told).replace("%1", name);
+            QCOMPARE(tab.boxes.take().join('|').left(expected.size()), expected);
+        }
+        QCOMPARE(QDir("profiles").entryList(QDir::Files | QDir::Hidden),
+                 QStringList({".x.json", "console.json", "v1.2.json"}));
+        QVERIFY(!QFile::exists("save.json"));
+        tab.folder.write("profiles/Console.json", "{}"); // the same one on Windows
+        tab.add("Console", "ATtiny85");
+        QVERIFY(tab.boxes.take().first().startsWith("Overwrite Confirmation, by default No: "));
+        QCOMPARE(tab.folder.read("profiles/Console.json"), QByteArray("{}"));
+    }
+
+    void whatWriteWillSend()
+    {
+        Board board;
+        const auto shown = [&] {
+            return board.tab.findChild<ElidedLabel*>()->accessibleName().split(QString::fromUtf8(" · ")).join(", ");
+        };
+        board.tick("f.f"); // nothing is known of the part, and the arguments are somebody's own
+        QCOMPARE(shown(), QString("m16, FLASH: flash, 1 fuse byte, no profile loaded"));
+        board.folder.write("mcu/ATmega16.json", R"({"id": "m16"})");
+        board.settings.cmdFlashWrite = MemoryRequest {"flash", "w", "C:/fw/a.hex", "i"}.arguments();
+        board.tab.showBoard();
+        QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte, no profile loaded"));
+        board.add("Board", "ATmega16");
+        QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte"));
+        board.settings.speed = "-B 8";
+        board.tab.showBoard();
+        QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte, changed since it was loaded"));
+        emit board.profiles->textActivated("Board");
+        board.tab.refresh(); // as the window does
+        QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte"));
+        board.tick("...");
+        QCOMPARE(shown(), QString("ATmega16, changed since it was loaded"));
+        board.boxes.button = QMessageBox::Yes;
+        board.configuration->removeButton()->click();
+        QCOMPARE(shown(), QString("ATmega16, no profile loaded"));
+    }
+
+    void aProfileThatLocksOutSaysSo()
+    {
+        Tab tab;
+        tab.folder.copy({"mcu/ATmega16.json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
+        BytesModel(tab.settings).load("ATmega16");
+        tab.settings.fusesBytes[0].currentValue = 0xE0;
+        tab.add("Board", "ATmega16");
+        emit tab.profiles->textActivated("Board");
+        QVERIFY(
+            tab.log.toPlainText().startsWith("Low Fuse: Without this clock on its pins the chip does not answer. The"));
+        QCOMPARE(tab.boxes.take().size(), 1); // that it was saved
     }
 
     void areas()
@@ -182,6 +253,12 @@ private slots:
         board.write->click();
         QTRY_VERIFY(board.isIdle());
         QCOMPARE(board.boxes.take() + board.requests(), QStringList({"-U flash:w:a.bin:r", "else"}));
+        board.folder.write("a.bin", "");
+        board.tick("fef");
+        board.write->click(); // asked before any area is written
+        QCOMPARE(board.boxes.take().join('|').section('\n', 0, 0) + board.requests().join(' '),
+                 QString("FLASH, by default No: The file is empty. + The chip would be erased for nothing."
+                         "-U flash:w:a.bin:r else"));
     }
 
     void aBoardIsFinishedWithWhatWasSetAtFirst()

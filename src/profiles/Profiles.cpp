@@ -2,6 +2,8 @@
 
 #include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
+#include "base/ElidedLabel.h"
+#include "fuses/FuseMeanings.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProfilesPresenter.h"
 #include "profiles/ProgrammingView.h"
@@ -18,12 +20,16 @@ Profiles::Profiles(Avrdude& avrdude, QWidget* parent)
     auto* selectView = new SelectView(this);
     auto* configurationView = new ConfigurationView(this);
     auto* programmingView = new ProgrammingView(this);
-    m_presenter = new ProfilesPresenter(avrdude, *selectView, *configurationView, *programmingView, this);
+    auto* board = new ElidedLabel(Qt::ElideMiddle, this);
+    m_presenter = new ProfilesPresenter(avrdude, *selectView, *configurationView, *programmingView, *board, this);
+
+    connect(m_presenter, &ProfilesPresenter::fusesWritten, this, &Profiles::fusesWritten);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(selectView);
     layout->addWidget(configurationView);
     layout->addWidget(programmingView);
+    layout->addWidget(board);
     layout->addStretch();
 
     connect(programmingView->profiles(), &QComboBox::textActivated, this, &Profiles::loadProfile);
@@ -39,14 +45,25 @@ void Profiles::updateAreas()
     m_presenter->updateAreas();
 }
 
+void Profiles::showBoard()
+{
+    m_presenter->showBoard();
+}
+
 void Profiles::loadProfile(const QString& name)
 {
     // A profile that cannot be read leaves the record as it is, but for its name.
     const QString path = ProfilesPresenter::profileFile(name);
-    if (!m_avrdude.settings().loadFromFile(path)) {
+    const bool isLoaded = m_avrdude.settings().loadFromFile(path);
+    if (!isLoaded) {
         qDebug().noquote() << "Profile not loaded:" << path;
         m_avrdude.log().appendLine(tr("Failed to load settings from file: ") + path);
     }
     m_avrdude.settings().currentlyProfilesList = name;
     emit emitUpdateUI();
+    m_presenter->setLoaded(isLoaded);
+    // Nothing asks before a board is written, so that this is the place to say it.
+    const QStringList warnings = isLoaded ? FuseMeanings::warnings(m_avrdude.settings()) : QStringList();
+    for (const QString& warning : warnings)
+        m_avrdude.log().appendLine(warning);
 }

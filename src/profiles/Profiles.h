@@ -20,9 +20,15 @@ public:
     /// Lets only those areas be ticked that the settings record says have something to write.
     void updateAreas();
 
+    /// Says again what Write will send.
+    void showBoard();
+
 signals:
     /// A profile was loaded into the settings record: everything is to be shown again.
     void emitUpdateUI();
+
+    /// A board has got its fuse bytes.
+    void fusesWritten();
 
 private:
     void loadProfile(const QString& name);

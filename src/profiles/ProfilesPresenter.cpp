@@ -2,11 +2,14 @@
 
 #include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
+#include "base/Box.h"
 #include "base/BoxText.h"
+#include "base/ElidedLabel.h"
 #include "base/JsonFile.h"
 #include "fuses/FuseRequests.h"
+#include "mcu/description/BytesModel.h"
+#include "memory/FileCheck.h"
 #include "memory/MemoryRequest.h"
-#include "memory/RawFile.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
@@ -16,21 +19,64 @@
 #include <QComboBox>
 #include <QDebug>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 
 #include <utility>
 
+namespace {
+
+/// All that decides what writing a board does.
+QStringList sentBy(const SettingsRecord& settings)
+{
+    QStringList all {settings.avrdude, settings.mcuName, settings.mcuId,    settings.programmer.id,
+                     settings.port,    settings.speed,   settings.arguments};
+    for (const bool isTicked : {settings.flashCheck, settings.eepromCheck, settings.fusesCheck})
+        all += QString::number(isTicked ? 1 : 0);
+    for (const QStringList& arguments :
+         {settings.cmdFlashWrite, settings.cmdEepromWrite, FuseRequests::write(settings.fusesBytes)})
+        all += arguments;
+    return all;
+}
+
+/// What keeps a profile from being called @p name, which becomes the name of a file; empty when nothing does.
+QString faultOf(const QString& name)
+{
+#ifdef Q_OS_WIN
+    const QString forbidden = QStringLiteral("/\\:*?\"<>|");
+#else
+    const QString forbidden = QStringLiteral("/\\"); // the second for who takes the profile to Windows
+#endif
+    for (const QChar character : name) {
+        if (forbidden.contains(character) || character.category() == QChar::Other_Control)
+            return ProfilesPresenter::tr("The name of a profile cannot hold any of these characters: %1")
+                .arg(forbidden);
+    }
+    static const QRegularExpression device(QStringLiteral("^(con|prn|aux|nul|(com|lpt)[0-9]) *(\\.|$)"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    if (name.contains(device))
+        return ProfilesPresenter::tr("Windows keeps this name for a device. Choose another one.");
+    constexpr int longest = 230; // bytes, of the 255 that most file systems allow: the rest is for endings
+    if (name.toUtf8().size() > longest)
+        return ProfilesPresenter::tr("The name is too long for a file. Choose a shorter one.");
+    return {};
+}
+
+} // namespace
+
 ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
-                                     ProgrammingView& programmingView, QObject* parent)
+                                     ProgrammingView& programmingView, ElidedLabel& boardLine, QObject* parent)
     : QObject(parent)
     , m_avrdude(avrdude)
     , m_selectView(selectView)
     , m_configurationView(configurationView)
     , m_programmingView(programmingView)
+    , m_boardLine(boardLine)
 {
     connect(selectView.flash(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setFlashChBox);
     connect(selectView.eeprom(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setEepromChBox);
@@ -68,9 +114,18 @@ void ProfilesPresenter::saveProfile()
     const QString name = m_configurationView.name()->text();
     if (name.isEmpty())
         return;
+    const QString title = QStringLiteral("Information");
+    const QString fault = faultOf(name);
+    if (!fault.isEmpty()) {
+        Box::tell(&m_programmingView, title, fault);
+        return;
+    }
     QComboBox& profiles = *m_programmingView.profiles();
-    const bool isListed = profiles.findText(name) >= 0;
-    if (isListed) {
+    const QString path = profileFile(name);
+    int place = profiles.findText(name);
+    if (place < 0 && QFileInfo(path).isFile()) // on Windows "blink" and "Blink" are one file
+        place = profiles.findText(name, Qt::MatchFixedString);
+    if (place >= 0) {
         const QString question = tr("Configuration named «%1» already exists.\nDo you want to overwrite it?").arg(name);
         if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), boxText(question),
                                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
@@ -78,17 +133,24 @@ void ProfilesPresenter::saveProfile()
             return;
     }
     // Deliberate: the box below reports success even when the file could not be written. The log tells.
-    const QString path = profileFile(name);
-    if (!m_avrdude.settings().saveToFile(path)) {
+    const bool isSaved = m_avrdude.settings().saveToFile(path);
+    setLoaded(isSaved);
+    if (!isSaved) {
         qDebug().noquote() << "Profile not saved:" << path;
         m_avrdude.log().appendLine(tr("Failed to save settings to file: ") + path);
     }
-    if (!isListed)
+    if (place < 0) {
+        place = profiles.count();
         profiles.addItem(name);
-    profiles.setCurrentText(name);
-    QMessageBox::information(
-        &m_programmingView, QStringLiteral("Information"),
-        boxText(QLatin1String("Profile \"") + name + QLatin1String(".json\" saved successfully.")));
+    }
+    profiles.setCurrentIndex(place);
+    QString remark;
+    if (name.startsWith(QLatin1Char('.')))
+        remark = tr("After a restart the list does not show it.");
+    else if (name.contains(QLatin1Char('.')))
+        remark = tr("After a restart the list calls it %1.").arg(QFileInfo(path).baseName());
+    Box::tell(&m_programmingView, title,
+              QLatin1String("Profile \"") + name + QLatin1String(".json\" saved successfully."), remark);
 }
 
 void ProfilesPresenter::removeProfile()
@@ -97,7 +159,9 @@ void ProfilesPresenter::removeProfile()
     const QString name = profiles.currentText();
     if (name.isEmpty())
         return;
-    if (QMessageBox::question(&m_programmingView, tr("Delete"), tr("Delete this profile?")) != QMessageBox::Yes)
+    Box question(QMessageBox::Question, tr("Delete"), tr("Delete this profile?"), name,
+                 QMessageBox::Yes | QMessageBox::No, &m_programmingView);
+    if (question.exec() != QMessageBox::Yes)
         return;
     QFile::remove(profileFile(name));
     const int index = profiles.findText(name);
@@ -105,6 +169,7 @@ void ProfilesPresenter::removeProfile()
         profiles.removeItem(index);
         profiles.setPlaceholderText(tr("Select profile..."));
     }
+    setLoaded(false);
     m_configurationView.name()->clear();
     m_configurationView.description()->clear();
 }
@@ -127,6 +192,7 @@ void ProfilesPresenter::refresh()
     show(m_selectView.eeprom(), settings.eepromCheck, settings.eepromEnable);
     show(m_selectView.flash(), settings.flashCheck, settings.flashEnable);
     show(m_selectView.fuses(), settings.fusesCheck, settings.fusesEnable);
+    showBoard();
 }
 
 void ProfilesPresenter::updateAreas()
@@ -140,6 +206,36 @@ void ProfilesPresenter::updateAreas()
     allow(m_selectView.eeprom(), settings.eepromEnable);
     allow(m_selectView.flash(), settings.flashEnable);
     allow(m_selectView.fuses(), settings.fusesEnable);
+    showBoard();
+}
+
+void ProfilesPresenter::setLoaded(bool isLoaded)
+{
+    m_loaded = isLoaded ? sentBy(m_avrdude.settings()) : QStringList();
+    showBoard();
+}
+
+void ProfilesPresenter::showBoard()
+{
+    const SettingsRecord& settings = m_avrdude.settings();
+    // The name is shown everywhere, the identifier is what avrdude gets.
+    QStringList line {BytesModel::description(settings).isEmpty() ? settings.mcuId : settings.mcuName};
+    const auto addFile = [&line](bool isTicked, const QLatin1String& area, const QStringList& command) {
+        const QString file = QFileInfo(MemoryRequest::from(command).file).fileName();
+        if (isTicked)
+            line += file.isEmpty() ? area + QLatin1String(": ") + command.join(QLatin1Char(' ')) : file;
+    };
+    addFile(settings.flashCheck, QLatin1String("FLASH"), settings.cmdFlashWrite);
+    addFile(settings.eepromCheck, QLatin1String("EEPROM"), settings.cmdEepromWrite);
+    if (settings.fusesCheck) {
+        const auto count = settings.fusesBytes.size();
+        line += count == 1 ? tr("1 fuse byte") : tr("%1 fuse bytes").arg(count);
+    }
+    if (m_loaded.isEmpty())
+        line += tr("no profile loaded");
+    else if (m_loaded != sentBy(settings))
+        line += tr("changed since it was loaded");
+    m_boardLine.showLine(line.join(QString::fromUtf8(" \u00b7 ")));
 }
 
 void ProfilesPresenter::setFlashChBox()
@@ -164,45 +260,43 @@ void ProfilesPresenter::updateWriteButton()
 {
     m_programmingView.writeButton()->setEnabled(m_selectView.flash()->isChecked() || m_selectView.eeprom()->isChecked()
                                                 || m_selectView.fuses()->isChecked());
+    showBoard();
 }
 
 void ProfilesPresenter::startWriting()
 {
     const bool isNewBoard = !m_avrdude.isBusy();
-    if (isNewBoard) {
-        m_board = {};
-        m_board.settings = m_avrdude.settings();
-    } else if (!m_board.isRunning) {
+    if (!isNewBoard && !m_board.isRunning)
         return; // it is something else that is running
-    }
 
-    const SettingsRecord& settings = m_board.settings;
-    // In the middle of a writing an area that had nothing to write at first has nothing now.
-    const auto counts = [isNewBoard](const QCheckBox* area, bool isEmpty) {
-        return area->isChecked() && (isNewBoard || !isEmpty);
-    };
-    const bool flash = counts(m_selectView.flash(), settings.cmdFlashWrite.isEmpty());
-    const bool eeprom = counts(m_selectView.eeprom(), settings.cmdEepromWrite.isEmpty());
-    const bool fuses = counts(m_selectView.fuses(), settings.fusesBytes.isEmpty());
-    for (const auto& [isTicked, command] :
-         {std::pair(flash, settings.cmdFlashWrite), {eeprom, settings.cmdEepromWrite}}) {
-        const MemoryRequest request = MemoryRequest::from(command);
-        const QString fault = isTicked ? RawFile::fault(settings, request) : QString();
-        if (!fault.isEmpty()) { // before any area is written; what is running goes on as it was
-            QMessageBox::information(&m_programmingView, request.memory.toUpper(), fault);
-            return;
-        }
-    }
-
+    // In the middle of a writing the first of these steps is dropped, as something runs, and an area that had nothing
+    // to write at first has nothing now.
+    const SettingsRecord& settings = isNewBoard ? m_avrdude.settings() : m_board.settings;
     QVector<BoardWriting::Step> steps;
-    if (flash)
-        steps.append(&ProfilesPresenter::writeFlash);
-    if (eeprom)
-        steps.append(&ProfilesPresenter::writeEeprom);
-    if (fuses)
-        steps.append(&ProfilesPresenter::writeFuses);
+    QVector<MemoryRequest> requests;
+    const auto add = [&](const QCheckBox* area, BoardWriting::Step step, bool isEmpty, const QStringList& command) {
+        if (!area->isChecked() || (isEmpty && !isNewBoard))
+            return;
+        if (isNewBoard || !steps.isEmpty())
+            requests.append(MemoryRequest::from(command));
+        steps.append(step);
+    };
+    add(m_selectView.flash(), &ProfilesPresenter::writeFlash, settings.cmdFlashWrite.isEmpty(), settings.cmdFlashWrite);
+    add(m_selectView.eeprom(), &ProfilesPresenter::writeEeprom, settings.cmdEepromWrite.isEmpty(),
+        settings.cmdEepromWrite);
+    add(m_selectView.fuses(), &ProfilesPresenter::writeFuses, settings.fusesBytes.isEmpty(), {});
     if (steps.isEmpty())
         return;
+    for (const MemoryRequest& request : std::as_const(requests)) {
+        if (!FileCheck::passes(&m_programmingView, settings, request))
+            return; // before any area is written; what is running goes on as it was
+    }
+    if (isNewBoard) {
+        if (!m_avrdude.mayUsePort())
+            return;
+        m_board = {};
+        m_board.settings = m_avrdude.settings();
+    }
     m_board.steps = steps;
     m_board.nextStep = 0;
     m_board.log.clear();
@@ -228,6 +322,10 @@ void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& argu
     m_board.isRunning = true;
     m_avrdude.execute(m_board.settings, arguments, [this, area, told] {
         m_board.written.insert(area, told); // only now: a step that the runner dropped has written nothing
+        if (area == BoardWriting::Area::Fuses) {
+            m_avrdude.fusesOnChip().note(m_board.settings.mcuId, m_board.settings.fusesBytes);
+            emit fusesWritten();
+        }
         nextStep();
     });
 }

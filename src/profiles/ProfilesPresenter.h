@@ -6,6 +6,7 @@
 
 class Avrdude;
 class ConfigurationView;
+class ElidedLabel;
 class ProgrammingView;
 class SelectView;
 
@@ -17,7 +18,7 @@ class ProfilesPresenter : public QObject
 
 public:
     ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
-                      ProgrammingView& programmingView, QObject* parent);
+                      ProgrammingView& programmingView, ElidedLabel& boardLine, QObject* parent);
 
     /// Path of the file of the profile called @p name, which goes into it as typed. The folder is not made.
     [[nodiscard]] static QString profileFile(const QString& name);
@@ -26,7 +27,8 @@ public:
     void loadProfileFiles();
 
     /// Writes the settings record as the profile named in the field, asking before one is overwritten. Nothing happens
-    /// without a name. The box reports success even when the file could not be written; the log tells the failure.
+    /// without a name; one that no file can have is refused in a box. The box reports success even when the file could
+    /// not be written; the log tells the failure.
     void saveProfile();
 
     /// Deletes the selected profile's file, after a question. A failure to delete is not told.
@@ -37,6 +39,16 @@ public:
 
     /// Lets only those areas be ticked that the settings record says have something to write.
     void updateAreas();
+
+    /// Says again what Write will send.
+    void showBoard();
+
+    /// The record holds a profile as it is in its file, once all panels have shown it; or, unless @p isLoaded, none.
+    void setLoaded(bool isLoaded);
+
+signals:
+    /// A board has got its fuse bytes.
+    void fusesWritten();
 
 public slots:
     void setFlashChBox();
@@ -56,6 +68,8 @@ private:
     SelectView& m_selectView;
     ConfigurationView& m_configurationView;
     ProgrammingView& m_programmingView;
+    ElidedLabel& m_boardLine;
 
+    QStringList m_loaded; ///< what writing the loaded profile would send, when it was loaded; empty: none is
     BoardWriting m_board; ///< the present or last one
 };
