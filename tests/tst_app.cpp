@@ -163,6 +163,106 @@ private slots:
                               "Profiles: Board", "Programmer: Mine", "Speed ( New MCU -> 185kHz ): 1 kHz (-B 512)"}));
     }
 
+    void closingByHand()
+    {
+        const WorkFolder folder;
+        folder.write("script", "err busy\nawait go");
+        BoxAnswerer boxes;
+        KorvelApp window;
+        auto* avrdude = window.findChild<Avrdude*>();
+        avrdude->settings().avrdude = STAND_IN;
+        window.show();
+        const auto close = [&window] {
+            QCloseEvent event;
+            QSpontaneKeyEvent::setSpontaneous(&event); // from the system
+            qApp->notify(&window, &event);
+            return event.isAccepted();
+        };
+        const QString question = "Korvel, by default No: avrdude is still working on the chip.";
+        QVERIFY(close() && QFile::remove(file)); // nothing runs
+        avrdude->execute({});
+        QTRY_VERIFY(avrdude->log().toPlainText().contains("busy"));
+        for (const auto& [answer, isOpen] : {std::pair(QMessageBox::No, true), {QMessageBox::Yes, false}}) {
+            boxes.button = answer;
+            QVERIFY(!close() && QFile::remove(file)); // saved first
+            QVERIFY(boxes.wait().join('|').startsWith(question));
+            QCOMPARE(window.isVisible(), isOpen);
+        }
+        folder.write("go", "");
+        QTRY_VERIFY(!avrdude->isBusy());
+        boxes.take();
+        avrdude->settings().avrdude = "no such program";
+        avrdude->execute({});
+        QVERIFY(avrdude->isBusy() && close()); // nothing runs, now and for good
+        QCOMPARE(boxes.take(), QStringList());
+    }
+
+    void whatFollowsTheClosingOfABox_data()
+    {
+        casesFrom("strays.txt", {"events", "heard"});
+    }
+
+    void whatFollowsTheClosingOfABox()
+    {
+        const WorkFolder folder;
+        KorvelApp window;
+        window.show();
+        QLineEdit under(&window);
+        QMessageBox box(&window);
+        const auto send = [&](QEvent&& event) {
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            QWidget* receiver = &under;
+            if (box.isVisible())
+                receiver = &box;
+            return qApp->notify(receiver, &event) && event.isAccepted();
+        };
+        struct Ears : QObject { // what gets through to the field
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                const auto type = event->type();
+                if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease
+                    || type == QEvent::MouseButtonDblClick || type == QEvent::KeyPress)
+                    heard += QString::number(number) + ' ';
+                return true;
+            }
+            int number = 0;
+            QString heard;
+        } ears;
+        under.installEventFilter(&ears);
+        for (const QString& word : cell("events").split(' ')) {
+            ++ears.number;
+            const QStringList parts = word.split('@'); // what, when and where
+            const ulong time = parts.value(1).toULong();
+            const QPointF point(parts.value(2).toInt(), parts.value(2).toInt());
+            static const QHash<QString, QEvent::Type> types {{"press", QEvent::MouseButtonPress},
+                                                             {"double", QEvent::MouseButtonDblClick},
+                                                             {"release", QEvent::MouseButtonRelease},
+                                                             {"down", QEvent::KeyPress},
+                                                             {"repeat", QEvent::KeyPress},
+                                                             {"up", QEvent::KeyRelease},
+                                                             {"other", QEvent::KeyRelease},
+                                                             {"shortcut", QEvent::ShortcutOverride}};
+            const QEvent::Type type = types.value(parts[0].section('-', 0, 0));
+            if (parts[0] == "show") {
+                box.show();
+            } else if (parts[0] == "close") {
+                box.accept();
+            } else if (type <= QEvent::MouseButtonDblClick) {
+                QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+                event.setTimestamp(time);
+                send(std::move(event));
+            } else {
+                const auto code = parts[0] == "other" ? Qt::Key_Alt : Qt::Key_Return;
+                QKeyEvent event(type, code, Qt::NoModifier, {}, word.contains("repeat"));
+                event.setTimestamp(time);
+                event.ignore();
+                if (send(std::move(event)) && type == QEvent::ShortcutOverride)
+                    ears.heard += "taken ";
+            }
+        }
+        QCOMPARE(ears.heard.trimmed(), cell("heard"));
+    }
+
     void closingDuringARun()
     {
         const WorkFolder folder;

@@ -2,9 +2,11 @@
 
 #include "about/AboutView.h"
 #include "about/SocialLinksWidget.h"
+#include "app/StrayInput.h"
 #include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "base/Box.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"
 #include "fuses/Fuses.h"
@@ -75,8 +77,12 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_central->setWidget(m_content);
     setCentralWidget(m_central);
 
+    new StrayInput(this);
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
+    connect(m_settings, &Settings::chosen, m_profiles, &Profiles::showBoard);
+    connect(m_fuses, &Fuses::chipKnown, m_profiles, &Profiles::showBoard);
+    connect(m_profiles, &Profiles::fusesWritten, m_fuses, &Fuses::showLegend);
     connect(m_avrdude, &Avrdude::runningChanged, this, &KorvelApp::showRunning);
 
     if (loadSettings()) {
@@ -142,5 +148,19 @@ void KorvelApp::showRunning(bool isRunning)
 void KorvelApp::closeEvent(QCloseEvent* event)
 {
     saveSettings();
-    event->accept();
+    // Only a hand's own closing waits for an answer: the session's end and signals do not. Asked from the event loop,
+    // as a window that is closing does not hear of another request to close.
+    const bool isAsked = event->spontaneous() && m_avrdude->isRunning();
+    event->setAccepted(!isAsked);
+    if (isAsked)
+        QMetaObject::invokeMethod(this, &KorvelApp::askToClose, Qt::QueuedConnection);
+}
+
+void KorvelApp::askToClose()
+{
+    if (Box::ask(this, ProductInfo::name,
+                 tr("avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps "
+                    "erased, perhaps half written."),
+                 tr("Do you want to close Korvel all the same?")))
+        close();
 }

@@ -43,6 +43,7 @@ protected:
 
 private:
     void showRunning(bool isRunning);
+    void askToClose();
 
     QScrollArea* m_central;
     QWidget* m_content; ///< scrolls in it where the screen is too small

@@ -1,6 +1,7 @@
 #include "base/Toolkit.h"
 
 #include <QCoreApplication>
+#include <QMouseEvent>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 
@@ -34,6 +35,11 @@ void Toolkit::keepWindowsOnCommit()
     QGuiApplication::setFallbackSessionManagementEnabled(false);
 }
 
+QPoint Toolkit::globalPosition(const QMouseEvent& event)
+{
+    return event.globalPos();
+}
+
 #else // does all of it by itself
 
 #include <QStringDecoder>
@@ -48,6 +54,11 @@ void Toolkit::useHighDpi() { }
 void Toolkit::useUtf8Names() { }
 
 void Toolkit::keepWindowsOnCommit() { }
+
+QPoint Toolkit::globalPosition(const QMouseEvent& event)
+{
+    return event.globalPosition().toPoint();
+}
 
 #endif
 

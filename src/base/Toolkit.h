@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QPoint>
 #include <QString>
 
 #include <memory>
+
+class QMouseEvent;
 
 /// Where the toolkit's versions differ in what the program asks of them: Qt 5.15, which is the usual one, and Qt 6.
 namespace Toolkit {
@@ -16,6 +19,9 @@ void useUtf8Names();
 
 /// Keeps the windows open when the session manager asks for what is to be saved: the session may go on after it.
 void keepWindowsOnCommit();
+
+/// Where on the screens the mouse was when it sent @p event.
+[[nodiscard]] QPoint globalPosition(const QMouseEvent& event);
 
 /// Decodes UTF-8 that comes in pieces, such as what a process prints on one channel. Keeps the first part of a
 /// character that was split between two pieces.

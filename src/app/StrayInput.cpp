@@ -1,0 +1,97 @@
+#include "app/StrayInput.h"
+
+#include "base/Toolkit.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QStyleHints>
+
+#include <cstdlib>
+
+namespace {
+
+bool isSamePoint(QPoint a, QPoint b)
+{
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return true; // where its windows are no program knows there
+    const int distance = QGuiApplication::styleHints()->mouseDoubleClickDistance();
+    return std::abs(a.x() - b.x()) <= distance && std::abs(a.y() - b.y()) <= distance;
+}
+
+} // namespace
+
+StrayInput::StrayInput(QObject* parent)
+    : QObject(parent)
+{
+    qApp->installEventFilter(this);
+}
+
+bool StrayInput::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::Hide && !event->spontaneous() && qobject_cast<QMessageBox*>(object)
+        && m_window == object)
+        m_closing = m_last;
+    if (!event->spontaneous())
+        return false;
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease: {
+        const auto& mouse = static_cast<const QMouseEvent&>(*event);
+        if (isStray(mouse))
+            return true;
+        note(object, {false, 0, Toolkit::globalPosition(mouse), mouse.timestamp()});
+        return false;
+    }
+    case QEvent::ShortcutOverride: // comes first, and alone for a letter that presses a button of the box
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease: {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (isStray(key)) {
+            event->accept(); // or it would be tried as a shortcut
+            return true;
+        }
+        if (event->type() != QEvent::KeyRelease)
+            note(object, {true, key.key(), {}, key.timestamp()});
+        return false;
+    }
+    default:
+        return false;
+    }
+}
+
+void StrayInput::note(QObject* receiver, const Stroke& stroke)
+{
+    if (auto* widget = qobject_cast<QWidget*>(receiver)) { // each comes to the native window first
+        m_last = stroke;
+        m_window = widget->window();
+    }
+}
+
+bool StrayInput::isStray(const QMouseEvent& mouse)
+{
+    if (mouse.type() == QEvent::MouseButtonRelease)
+        return m_isPressTaken;
+    const auto patience = static_cast<ulong>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    m_isPressTaken = m_closing.time > 0 && !m_closing.isKey && mouse.timestamp() - m_closing.time < patience
+        && isSamePoint(Toolkit::globalPosition(mouse), m_closing.position);
+    return m_isPressTaken;
+}
+
+bool StrayInput::isStray(const QKeyEvent& key)
+{
+    if (!m_closing.isKey || key.key() != m_closing.key)
+        return false;
+    if (key.type() == QEvent::KeyRelease) {
+        m_keyReleased = key.timestamp();
+        return key.isAutoRepeat();
+    }
+    // On X11 many repeats come as a release and a press at the same time, which is more than a hand can do.
+    if (key.isAutoRepeat() || (m_keyReleased > 0 && key.timestamp() == m_keyReleased))
+        return true;
+    m_closing = {};
+    m_keyReleased = 0;
+    return false;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QEvent>
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+
+class QKeyEvent;
+class QMouseEvent;
+
+/// Takes what a hand sends after a message box that it has just closed: the second half of a double click, and the
+/// repeats of a key that is still down. They were meant for the box, and would start what lies under it. Nothing else
+/// is taken. Looks at all events; owned by the main window.
+class StrayInput : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StrayInput(QObject* parent);
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    /// What a hand did last, or did when it closed a box.
+    struct Stroke {
+        bool isKey = false;
+        int key = 0; ///< 0 for the mouse
+        QPoint position; ///< on the screens, for the mouse
+        ulong time = 0; ///< of the last event of it, in milliseconds of the system's clock for input
+    };
+
+    bool isStray(const QMouseEvent& mouse);
+    bool isStray(const QKeyEvent& key);
+    void note(QObject* receiver, const Stroke& stroke);
+
+    Stroke m_last;
+    QPointer<QWidget> m_window; ///< which that went to
+    Stroke m_closing; ///< no key and long ago: none
+    bool m_isPressTaken = false; ///< its release is for nobody either
+    ulong m_keyReleased = 0; ///< when the key that closed a box last seemed to be let go
+};
