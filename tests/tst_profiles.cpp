@@ -173,12 +173,12 @@ private slots:
         QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte"));
         board.settings.speed = "-B 8";
         board.tab.showBoard();
-        QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte, changed since it was loaded"));
+        QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte, profile changed since it was loaded"));
         emit board.profiles->textActivated("Board");
         board.tab.refresh(); // as the window does
         QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte"));
         board.tick("...");
-        QCOMPARE(shown(), QString("ATmega16, changed since it was loaded"));
+        QCOMPARE(shown(), QString("ATmega16, profile changed since it was loaded"));
         board.boxes.button = QMessageBox::Yes;
         board.configuration->removeButton()->click();
         QCOMPARE(shown(), QString("ATmega16, no profile loaded"));

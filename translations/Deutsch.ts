@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>Im Ordner %1 wurde nichts gefunden.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude hat keines gelesen: Der Mikrocontroller hat sehr wahrscheinlich kein solches Byte.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Programmer nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Soll er trotzdem benutzt werden?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Für %1 wurde kein serieller Port gefunden: Der Port ist noch %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>„Anlegen“ – Einstellungen als Profil sichern.
 „Entfernen“ – gewähltes Profil entfernen.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Die Datei hat %1 Bytes, der Speicher nur %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>Der Chip würde vergeblich gelöscht.
+Trotzdem fortfahren?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>Zeile %1 ist kein %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>Die Prüfsumme von Zeile %1 ist falsch.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>Die Datei hat Daten an Adresse 0x%1, der Speicher nur %2 Bytes.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Die Datei ist kein ELF-Programm für AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude nimmt diese Datei mit der Endung .%1 nicht an: Ihr Name muss auf %2 enden.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>Die Datei enthält keine Daten für diesen Speicher.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Das Ende der Datei fehlt.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Die Datei lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Die Datei ist zu groß für eine Firmware.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Der Weg zurück: alles löschen.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Hier gibt es kein Fuse-Byte: Es wurde keines übertragen.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Der Weg zurück: alles löschen.</translation>
         <source>Not read: %1</source>
         <translation>Nicht gelesen: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Die Fuse-Bytes trotzdem schreiben?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Der Weg zurück: alles löschen.</translation>
     <message>
         <source>Default</source>
         <translation>Vorgabe</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Ein serieller Programmer erreicht die Fuse-Bytes dieses Mikrocontrollers nicht.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>Bei den Fuse-Bytes dieses Mikrocontrollers ist auf avrdude kein Verlass.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Keine Fuse-Bytes geladen. Bitte den Mikrocontroller im ersten Reiter wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>nicht vom Chip gelesen</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Der Weg zurück: alles löschen.</translation>
         <source>The file is kept as %1.</source>
         <translation>Die Datei bleibt als %1 erhalten.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude arbeitet noch am Chip. Wird es jetzt beendet, bleibt der Chip, wie er ist: vielleicht gelöscht, vielleicht halb beschrieben.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Korvel trotzdem schließen?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Der Weg zurück: alles löschen.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH erfolgreich gelesen.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>geändert am %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Die Datei fehlt: avrdude hat sie nicht geschrieben.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Die Datei ist leer: Der Chip ist leer oder lesegeschützt, oder der Datenträger ist voll.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Beim Lesen würde diese Datei ersetzt:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 Bytes Daten</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 Bytes Daten, %2 % des Speichers</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fuse-Bits erfolgreich geprüft.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Einstellungen ließen sich nicht in dieser Datei speichern: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>Ein Profilname darf keines dieser Zeichen enthalten: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Nach einem Neustart des Programms heißt es in der Liste %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 Fuse-Byte</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 Fuse-Bytes</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>kein Profil geladen</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows behält diesen Namen einem Gerät vor. Bitte einen anderen wählen.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Der Name ist zu lang für eine Datei. Bitte einen kürzeren wählen.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Nach einem Neustart des Programms steht es nicht in der Liste.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>Profil seit dem Laden geändert</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Trotzdem löschen?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>&amp;Linkadresse kopieren</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Die Datei hat %1 Bytes, der Speicher nur %2.</translation>
     </message>
 </context>
 <context>

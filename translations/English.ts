@@ -20,6 +20,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>Nothing found in the folder %1.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude has read none: most likely the microcontroller has no such byte.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -53,6 +57,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Programmer not found.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Do you want to use it all the same?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>No serial port was found for %1: the port is still %2.</translation>
     </message>
 </context>
 <context>
@@ -89,6 +101,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>The file has %1 bytes, the memory only %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>The chip would be erased for nothing.
+Do you want to go on all the same?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>Line %1 is not %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>The checksum of line %1 is wrong.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>The file has data at address 0x%1, the memory only %2 bytes.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>The file is not an ELF program for AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude does not take this file with the ending .%1: let its name end in %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>The file holds no data for this memory.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>The end of the file is missing.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>The file cannot be read.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>The file is too large to be firmware.</translation>
     </message>
 </context>
 <context>
@@ -159,6 +227,13 @@ The way back: erase all of it.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>There is no fuse byte here: none was sent.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -183,6 +258,10 @@ The way back: erase all of it.</translation>
         <source>Not read: %1</source>
         <translation>Not read: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Do you want to write the fuse bytes all the same?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -201,6 +280,28 @@ The way back: erase all of it.</translation>
     <message>
         <source>Default</source>
         <translation>Default</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>A serial programmer does not reach the fuse bytes of this microcontroller.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>avrdude cannot be relied on for the fuse bytes of this microcontroller.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>No fuse bytes are loaded. Choose the microcontroller in the first tab.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>not read from the chip</translation>
     </message>
 </context>
 <context>
@@ -236,6 +337,14 @@ The way back: erase all of it.</translation>
         <source>The file is kept as %1.</source>
         <translation>The file is kept as %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Do you want to close Korvel all the same?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -262,6 +371,38 @@ The way back: erase all of it.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH read successfully.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>changed on %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>The file is not there: avrdude has not written it.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>The file is empty: the chip is blank or locked, or the disk is full.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Do you want to replace it?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Reading would replace this file:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 bytes of data</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 bytes of data, %2 % of the memory</translation>
     </message>
 </context>
 <context>
@@ -378,6 +519,42 @@ Fuse bits verify successfully.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Failed to save settings to file: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>The name of a profile cannot hold any of these characters: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>After a restart the list calls it %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 fuse byte</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 fuse bytes</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>no profile loaded</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows keeps this name for a device. Choose another one.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>The name is too long for a file. Choose a shorter one.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>After a restart the list does not show it.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>profile changed since it was loaded</translation>
     </message>
 </context>
 <context>
@@ -740,13 +917,6 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copy &amp;Link Location</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>The file has %1 bytes, the memory only %2.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>No se encontró nada en la carpeta %1.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude no ha leído ninguno: lo más probable es que el microcontrolador no tenga ese byte.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Programador no encontrado.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>¿Desea usarlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>No se encontró ningún puerto serie para %1: el puerto sigue siendo %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«Añadir»: guarda los ajustes como perfil.
 «Quitar»: borra el perfil elegido.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>El archivo tiene %1 bytes; la memoria, solo %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>El chip se borraría para nada.
+¿Desea continuar de todos modos?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>La línea %1 no está en formato %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>La suma de comprobación de la línea %1 es incorrecta.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>El archivo tiene datos en la dirección 0x%1; la memoria, solo %2 bytes.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>El archivo no es un programa ELF para AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude no acepta este archivo con la extensión .%1: su nombre debe terminar en %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>El archivo no contiene datos para esta memoria.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Falta el final del archivo.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>No se puede leer el archivo.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>El archivo es demasiado grande para ser un firmware.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Para recuperarlo: bórrelo todo.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Aquí no hay ningún byte de fusibles: no se ha transmitido ninguno.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Para recuperarlo: bórrelo todo.</translation>
         <source>Not read: %1</source>
         <translation>No leídos: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>¿Desea grabar los bytes de fusibles de todos modos?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>Default</source>
         <translation>De fábrica</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Un programador serie no puede acceder a los bytes de fusibles de este microcontrolador.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>avrdude no es fiable para los bytes de fusibles de este microcontrolador.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>No hay bytes de fusibles cargados. Elija el microcontrolador en la primera pestaña.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>no leídos del chip</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Para recuperarlo: bórrelo todo.</translation>
         <source>The file is kept as %1.</source>
         <translation>El archivo se conserva como %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude todavía está trabajando con el chip. Si se interrumpe ahora, el chip queda como está: quizá borrado, quizá grabado a medias.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>¿Desea cerrar Korvel de todos modos?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH leída correctamente.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>modificado el %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>El archivo no está: avrdude no lo ha escrito.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>El archivo está vacío: el chip está vacío o protegido contra lectura, o el disco está lleno.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>La lectura reemplazaría este archivo:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 bytes de datos</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 bytes de datos, %2 % de la memoria</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fusibles verificados correctamente.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>No se pudieron guardar los ajustes en el archivo: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>El nombre de un perfil no puede contener ninguno de estos caracteres: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Tras reiniciar el programa, en la lista se llamará %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 byte de fusibles</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 bytes de fusibles</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>ningún perfil cargado</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows reserva este nombre para un dispositivo. Elija otro.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>El nombre es demasiado largo para un archivo. Elija uno más corto.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Tras reiniciar el programa, no aparecerá en la lista.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>perfil modificado desde que se cargó</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copiar dirección del en&amp;lace</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>El archivo tiene %1 bytes; la memoria, solo %2.</translation>
     </message>
 </context>
 <context>

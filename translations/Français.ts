@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>Rien trouvé dans le dossier %1.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude n&apos;en a lu aucun : le microcontrôleur ne possède très probablement pas cet octet.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Programmateur introuvable.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Voulez-vous l&apos;utiliser quand même ?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Aucun port série trouvé pour %1 : le port est toujours %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«&#xa0;Ajouter&#xa0;»&#xa0;: enregistre dans un profil.
 «&#xa0;Retirer&#xa0;»&#xa0;: supprime le profil choisi.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Le fichier a %1 octets, la mémoire seulement %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>La puce serait effacée pour rien.
+Voulez-vous continuer quand même ?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>La ligne %1 n&apos;est pas au format %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>La somme de contrôle de la ligne %1 est fausse.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>Le fichier a des données à l&apos;adresse 0x%1, la mémoire seulement %2 octets.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Le fichier n&apos;est pas un programme ELF pour AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude n&apos;accepte pas ce fichier avec l&apos;extension .%1 : son nom doit se terminer par %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>Le fichier ne contient pas de données pour cette mémoire.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>La fin du fichier manque.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Impossible de lire le fichier.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Le fichier est trop gros pour être un firmware.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Il n&apos;y a ici aucun octet de fusibles : aucun n&apos;a été transmis.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
         <source>Not read: %1</source>
         <translation>Non lus&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Voulez-vous écrire les octets de fusibles quand même ?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>Default</source>
         <translation>D&apos;origine</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Un programmateur série ne peut pas accéder aux octets de fusibles de ce microcontrôleur.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>avrdude n&apos;est pas fiable pour les octets de fusibles de ce microcontrôleur.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Aucun octet de fusibles n&apos;est chargé. Choisissez le microcontrôleur dans le premier onglet.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>non lus sur la puce</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
         <source>The file is kept as %1.</source>
         <translation>Le fichier est conservé sous le nom %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude travaille encore sur la puce. S&apos;il est interrompu maintenant, la puce reste en l&apos;état : peut-être effacée, peut-être écrite à moitié.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Voulez-vous fermer Korvel quand même ?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH lue.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>modifié le %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Le fichier est absent : avrdude ne l&apos;a pas écrit.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Le fichier est vide : la puce est vierge ou protégée en lecture, ou le disque est plein.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Voulez-vous le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>La lecture remplacerait ce fichier :</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 octets de données</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 octets de données, %2 % de la mémoire</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fusibles vérifiés.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Impossible d&apos;enregistrer les réglages dans le fichier&#xa0;: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>Le nom d&apos;un profil ne peut contenir aucun de ces caractères : %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Après un redémarrage du programme, il s&apos;appellera %1 dans la liste.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 octet de fusibles</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 octets de fusibles</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>aucun profil chargé</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows réserve ce nom à un périphérique. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Le nom est trop long pour un fichier. Choisissez-en un plus court.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Après un redémarrage du programme, il ne figurera pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>profil modifié depuis son chargement</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copier l&apos;adresse du &amp;lien</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Le fichier a %1 octets, la mémoire seulement %2.</translation>
     </message>
 </context>
 <context>

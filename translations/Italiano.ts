@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>Non è stato trovato nulla nella cartella %1.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude non ne ha letto nessuno: molto probabilmente il microcontrollore non ha questo byte.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Programmatore non trovato.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Usarla comunque?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Nessuna porta seriale trovata per %1: la porta è ancora %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«Aggiungi»: salva tutto come profilo.
 «Rimuovi»: rimuove il profilo scelto.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Il file ha %1 byte, la memoria solo %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>Il chip verrebbe cancellato per niente.
+Continuare comunque?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>La riga %1 non è in formato %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>Il checksum della riga %1 è errato.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>Il file ha dati all&apos;indirizzo 0x%1, la memoria solo %2 byte.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Il file non è un programma ELF per AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Il file è vuoto.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude non accetta questo file con l&apos;estensione .%1: il suo nome deve terminare con %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>Il file non contiene dati per questa memoria.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Manca la fine del file.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Impossibile leggere il file.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Il file è troppo grande per essere un firmware.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Per recuperarlo: cancellare tutto.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Qui non c&apos;è nessun byte dei fuse: non ne è stato trasmesso nessuno.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Per recuperarlo: cancellare tutto.</translation>
         <source>Not read: %1</source>
         <translation>Non letti: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Scrivere comunque i byte dei fuse?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>Default</source>
         <translation>Predefiniti</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Un programmatore seriale non può accedere ai byte dei fuse di questo microcontrollore.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>avrdude non è affidabile per i byte dei fuse di questo microcontrollore.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Nessun byte dei fuse caricato. Scegliere il microcontrollore nella prima scheda.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>non letti dal chip</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Per recuperarlo: cancellare tutto.</translation>
         <source>The file is kept as %1.</source>
         <translation>Il file è conservato come %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude sta ancora lavorando sul chip. Se viene interrotto adesso, il chip resta com&apos;è: forse cancellato, forse scritto a metà.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Chiudere comunque Korvel?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH letta correttamente.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>ultima modifica: %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Il file non c&apos;è: avrdude non l&apos;ha scritto.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Il file è vuoto: il chip è vuoto o protetto in lettura, oppure il disco è pieno.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 byte</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>La lettura sostituirebbe questo file:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 byte di dati</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 byte di dati, %2 % della memoria</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fuse bit verificati correttamente.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Impossibile salvare le impostazioni nel file: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>Il nome di un profilo non può contenere nessuno di questi caratteri: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Dopo un riavvio del programma, nell&apos;elenco si chiamerà %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 byte dei fuse</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 byte dei fuse</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>nessun profilo caricato</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows riserva questo nome a un dispositivo. Sceglierne un altro.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Il nome è troppo lungo per un file. Sceglierne uno più corto.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Dopo un riavvio del programma, non comparirà nell&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>profilo modificato dopo il caricamento</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Eliminarlo comunque?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copia indirizzo del co&amp;llegamento</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Il file ha %1 byte, la memoria solo %2.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>W katalogu %1 nic nie znaleziono.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude nie odczytał żadnego: mikrokontroler najprawdopodobniej nie ma takiego bajtu.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Nie znaleziono programatora.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Czy mimo to użyć tego portu?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Nie znaleziono portu szeregowego dla %1: wybrany port to nadal %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>„Dodaj” – zapisuje ustawienia jako profil.
 „Usuń” – usuwa wybrany profil.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Plik ma %1 B, a pamięć tylko %2 B.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>Układ zostałby skasowany na darmo.
+Czy mimo to kontynuować?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>Wiersz %1 nie jest w formacie %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>Suma kontrolna wiersza %1 jest błędna.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>Plik zawiera dane pod adresem 0x%1, a pamięć ma tylko %2 B.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Plik nie jest programem ELF dla AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Plik jest pusty.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude nie przyjmuje tego pliku z rozszerzeniem .%1: zmień je na %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>Plik nie zawiera danych dla tej pamięci.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Brakuje końca pliku.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Nie można odczytać pliku.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Plik jest za duży jak na firmware.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Nie ma tu bajtów fuse: żadnego nie wysłano.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Jak odzyskać układ: skasuj cały układ.</translation>
         <source>Not read: %1</source>
         <translation>Nie odczytano: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Czy mimo to zaprogramować bajty fuse?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>Default</source>
         <translation>Domyślne</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Programator szeregowy nie ma dostępu do bajtów fuse tego mikrokontrolera.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>W przypadku bajtów fuse tego mikrokontrolera na avrdude nie można polegać.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Nie wczytano bajtów fuse. Wybierz mikrokontroler na pierwszej karcie.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>nieodczytane z układu</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Jak odzyskać układ: skasuj cały układ.</translation>
         <source>The file is kept as %1.</source>
         <translation>Plik zachowano jako %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude nadal pracuje z układem. Jeśli teraz to przerwiesz, układ pozostanie w obecnym stanie: może skasowany, może zaprogramowany tylko częściowo.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Czy mimo to zamknąć Korvel?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>Odczytano pamięć FLASH.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>zmieniono %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Pliku nie ma: avrdude go nie zapisał.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Plik jest pusty: układ jest pusty lub chroniony przed odczytem albo dysk jest pełny.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Czy go zastąpić?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Odczyt zastąpiłby ten plik:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 B danych</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 B danych, %2% pamięci</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Zweryfikowano fusebity.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Nie udało się zapisać ustawień w pliku: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>Nazwa profilu nie może zawierać żadnego z tych znaków: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Po ponownym uruchomieniu programu profil będzie na liście pod nazwą %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 bajt fuse</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>bajty fuse: %1</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>nie wczytano profilu</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows rezerwuje tę nazwę dla urządzenia. Wybierz inną.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Nazwa jest za długa dla pliku. Wybierz krótszą.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Po ponownym uruchomieniu programu tego profilu nie będzie na liście.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>zmiany od wczytania profilu</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Usunąć mimo to?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Kopiuj adres &amp;odnośnika</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Plik ma %1 B, a pamięć tylko %2 B.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>Nada encontrado na pasta %1.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>O avrdude não leu nenhum: muito provavelmente o microcontrolador não tem esse byte.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Gravador não encontrado.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Deseja usá-la mesmo assim?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Nenhuma porta serial encontrada para %1: a porta ainda é %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>“Adicionar”: salva tudo como perfil.
 “Remover”: remove o perfil escolhido.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>O arquivo tem %1 bytes; a memória, só %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>O chip seria apagado em vão.
+Deseja continuar mesmo assim?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>A linha %1 não está no formato %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>A soma de verificação da linha %1 está incorreta.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>O arquivo tem dados no endereço 0x%1; a memória, só %2 bytes.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>O arquivo não é um programa ELF para AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>O arquivo está vazio.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>O avrdude não aceita este arquivo com a extensão .%1: mude-a para %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>O arquivo não contém dados para esta memória.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Falta o final do arquivo.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Não foi possível ler o arquivo.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>O arquivo é grande demais para ser um firmware.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Para recuperá-lo: apague tudo.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Não há byte de fuse aqui: nenhum foi enviado.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Para recuperá-lo: apague tudo.</translation>
         <source>Not read: %1</source>
         <translation>Não lidos: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Deseja gravar os bytes de fuse mesmo assim?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>Default</source>
         <translation>Padrão</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Um gravador serial não consegue acessar os bytes de fuse deste microcontrolador.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>O avrdude não é confiável para os bytes de fuse deste microcontrolador.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Nenhum byte de fuse carregado. Escolha o microcontrolador na primeira aba.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>não lidos do chip</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Para recuperá-lo: apague tudo.</translation>
         <source>The file is kept as %1.</source>
         <translation>O arquivo foi mantido como %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>O avrdude ainda está trabalhando no chip. Se ele for encerrado agora, o chip ficará como está: talvez apagado, talvez gravado pela metade.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Deseja fechar o Korvel mesmo assim?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH lida com sucesso.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>modificado em %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>O arquivo não existe: o avrdude não o criou.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>O arquivo está vazio: o chip está vazio ou protegido contra leitura, ou o disco está cheio.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Deseja substituí-lo?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>A leitura substituiria este arquivo:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 bytes de dados</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 bytes de dados, %2% da memória</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fuse bits verificados com sucesso.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Não foi possível salvar as configurações no arquivo: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>O nome de um perfil não pode conter nenhum destes caracteres: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Depois de reiniciar o programa, o perfil aparecerá na lista como %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 byte de fuse</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 bytes de fuse</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>nenhum perfil carregado</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>O Windows reserva este nome para um dispositivo. Escolha outro.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>O nome é longo demais para um arquivo. Escolha um mais curto.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Depois de reiniciar o programa, o perfil não aparecerá na lista.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>perfil alterado após carregar</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Excluir mesmo assim?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copiar &amp;endereço do link</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>O arquivo tem %1 bytes; a memória, só %2.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>%1 klasöründe hiçbir şey bulunamadı.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude hiçbir bayt okumadı: büyük olasılıkla mikrodenetleyicide böyle bir bayt yok.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Programlayıcı bulunamadı.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Yine de bu port kullanılsın mı?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>%1 için seri port bulunamadı: port hâlâ %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>“Ekle”: geçerli ayarları profil olarak kaydeder.
 “Kaldır”: seçili profili kaldırır.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Dosya %1 bayt, bellek ise yalnızca %2 bayt.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>Çip boşuna silinmiş olur.
+Yine de devam edilsin mi?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>%1. satır %2 biçiminde değil.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>%1. satırın sağlama toplamı yanlış.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>Dosyada 0x%1 adresinde veri var, bellek ise yalnızca %2 bayt.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Dosya, AVR için bir ELF programı değil.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Dosya boş.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude bu dosyayı .%1 uzantısıyla kabul etmiyor: dosya adı %2 ile bitmeli.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>Dosyada bu bellek için veri yok.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Dosyanın sonu eksik.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Dosya okunamıyor.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Dosya, mikrodenetleyici yazılımı olamayacak kadar büyük.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ Kurtarmak için: tümünü silin.</translation>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Burada fuse baytı yok: hiçbiri gönderilmedi.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ Kurtarmak için: tümünü silin.</translation>
         <source>Not read: %1</source>
         <translation>Okunamayan: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Fuse baytları yine de yazılsın mı?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>Default</source>
         <translation>Varsayılan</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Seri programlayıcı bu mikrodenetleyicinin fuse baytlarına erişemez.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>avrdude bu mikrodenetleyicinin fuse baytları için güvenilir değil.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Yüklü fuse baytı yok. İlk sekmede mikrodenetleyiciyi seçin.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>çipten okunmadı</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ Kurtarmak için: tümünü silin.</translation>
         <source>The file is kept as %1.</source>
         <translation>Dosya şu adla saklandı: %1</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude hâlâ çip üzerinde çalışıyor. Şimdi sonlandırılırsa çip olduğu gibi kalır: belki silinmiş, belki yarım yazılmış olarak.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Korvel yine de kapatılsın mı?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH başarıyla okundu.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>değiştirilme: %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Dosya yok: avrdude dosyayı oluşturmadı.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Dosya boş: ya çip boş veya okumaya karşı korumalı ya da disk dolu.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bayt</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Üzerine yazılsın mı?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Okunan veriler bu dosyanın üzerine yazılacak:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 bayt veri</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 bayt veri, bellek kullanımı: %%2</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fuse bitleri başarıyla doğrulandı.</translation>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Ayarlar şu dosyaya kaydedilemedi: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>Profil adında şu karakterlerin hiçbiri bulunamaz: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Program yeniden başlatılınca profil listede %1 adıyla görünür.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 fuse baytı</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 fuse baytı</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>profil yüklenmedi</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows bu adı bir aygıt için ayırmıştır. Başka bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Ad bir dosya için çok uzun. Daha kısa bir ad seçin.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Program yeniden başlatılınca profil listede görünmez.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>yüklenen profil değişti</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Yine de silinsin mi?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>&amp;Bağlantı adresini kopyala</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Dosya %1 bayt, bellek ise yalnızca %2 bayt.</translation>
     </message>
 </context>
 <context>

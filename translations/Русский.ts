@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>В папке %1 ничего не найдено.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude ничего не считал: скорее всего, в микроконтроллере нет такого байта.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Программатор не найден.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Всё равно использовать этот порт?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Для %1 не найден последовательный порт: выбран по-прежнему %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«Добавить» — сохранить как профиль.
 «Удалить» — удалить выбранный профиль.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Размер файла в байтах: %1, а памяти — только %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>МК будет стёрт впустую.
+Всё равно продолжить?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>Строка %1 не в формате %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>Неверная контрольная сумма в строке %1.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>В файле есть данные по адресу 0x%1, а размер памяти в байтах — только %2.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Файл не является программой ELF для AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Файл пуст.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude не примет этот файл с расширением .%1: дайте ему расширение %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>В файле нет данных для этой памяти.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Файл неполный: нет его конца.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Не удаётся прочитать файл.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Файл слишком велик для прошивки.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Здесь нет ни одного фьюз-байта: ничего не отправлено.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ The way back: erase all of it.</source>
         <source>Not read: %1</source>
         <translation>Не считаны: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Всё равно записать фьюз-байты?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ The way back: erase all of it.</source>
     <message>
         <source>Default</source>
         <translation>По умолчанию</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Последовательный программатор не имеет доступа к фьюз-байтам этого микроконтроллера.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>avrdude ненадёжно работает с фьюз-байтами этого микроконтроллера.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Фьюз-байты не загружены. Выберите микроконтроллер на первой вкладке.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>не считано из МК</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ The way back: erase all of it.</source>
         <source>The file is kept as %1.</source>
         <translation>Файл оставлен как %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude ещё работает с МК. Если прервать его сейчас, МК останется как есть: возможно, стёртым, возможно, записанным наполовину.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Всё равно закрыть Korvel?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ The way back: erase all of it.</source>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH успешно считана.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>изменён %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Файла нет: avrdude его не записал.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Файл пуст: МК пуст или защищён от чтения либо на диске нет места.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Б</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Заменить его?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>При считывании будет заменён этот файл:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 Б данных</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 Б данных, %2 % памяти</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fuse bits verify successfully.</source>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Не удалось сохранить настройки в файл: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>В имени профиля недопустимы символы: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>После перезапуска профиль будет в списке под именем %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 фьюз-байт</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>фьюз-байты: %1</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>профиль не загружен</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows резервирует это имя для устройства. Выберите другое.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Имя слишком длинное для файла. Выберите имя короче.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>После перезапуска профиля не будет в списке.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>профиль изменён после загрузки</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Копировать адрес &amp;ссылки</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Размер файла в байтах: %1, а памяти — только %2.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>У теці %1 нічого не знайдено.</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude не зчитав жодного: найімовірніше, такого байта в МК немає.</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -54,6 +58,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>Програматор не знайдено.</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>Усе одно використати цей порт?</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>Для %1 не знайдено послідовного порту: досі вибрано %2.</translation>
     </message>
 </context>
 <context>
@@ -90,6 +102,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>«Додати» — зберегти як профіль.
 «Видалити» — видалити вибраний профіль.</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>Розмір файлу в байтах: %1, а памʼяті — лише %2.</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>МК буде стерто даремно.
+Усе одно продовжити?</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>Рядок %1 не відповідає формату %2.</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>Контрольна сума рядка %1 неправильна.</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>У файлі є дані за адресою 0x%1, а обсяг памʼяті — лише %2 Б.</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>Файл не є програмою ELF для AVR.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Файл порожній.</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude не приймає цей файл із розширенням .%1: змініть його на %2.</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>У файлі немає даних для цієї памʼяті.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>Бракує кінця файлу.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>Не вдається прочитати файл.</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>Файл завеликий для прошивки.</translation>
     </message>
 </context>
 <context>
@@ -160,6 +228,13 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>Тут немає фʼюз-байтів: жодного не надіслано.</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -184,6 +259,10 @@ The way back: erase all of it.</source>
         <source>Not read: %1</source>
         <translation>Не зчитано: %1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>Усе одно записати фʼюз-байти?</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -202,6 +281,28 @@ The way back: erase all of it.</source>
     <message>
         <source>Default</source>
         <translation>Типові</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Послідовний програматор не має доступу до фʼюз-байтів цього мікроконтролера.</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>Щодо фʼюз-байтів цього мікроконтролера на avrdude не можна покластися.</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>Фʼюз-байти не завантажено. Виберіть мікроконтролер на першій вкладці.</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>не зчитано з МК</translation>
     </message>
 </context>
 <context>
@@ -237,6 +338,14 @@ The way back: erase all of it.</source>
         <source>The file is kept as %1.</source>
         <translation>Файл залишено як %1.</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude досі працює з МК. Якщо перервати роботу зараз, МК залишиться як є: можливо, стертий, можливо, записаний наполовину.</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>Усе одно закрити Korvel?</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -263,6 +372,38 @@ The way back: erase all of it.</source>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH успішно зчитано.</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>змінено %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>Файлу немає: avrdude його не записав.</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>Файл порожній: або МК порожній чи захищений від читання, або диск заповнено.</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Б</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>Замінити його?</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Зчитування замінить цей файл:</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 Б даних</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 Б даних, %2 % памʼяті</translation>
     </message>
 </context>
 <context>
@@ -379,6 +520,42 @@ Fuse bits verify successfully.</source>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>Не вдалося зберегти налаштування у файл: </translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>Назва профілю не може містити жодного з цих символів: %1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>Після перезапуску програми профіль буде в списку під назвою %1.</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 фʼюз-байт</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>фʼюз-байти: %1</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>профіль не завантажено</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Цю назву Windows резервує для пристрою. Виберіть іншу.</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>Назва задовга для файлу. Виберіть коротшу.</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>Після перезапуску програми цього профілю в списку не буде.</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>завантажений профіль змінено</translation>
     </message>
 </context>
 <context>
@@ -741,13 +918,6 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Копіювати &amp;адресу посилання</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Розмір файлу в байтах: %1, а памʼяті — лише %2.</translation>
     </message>
 </context>
 <context>

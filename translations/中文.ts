@@ -20,6 +20,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>在文件夹 %1 中没有找到任何内容。</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude 未读到任何内容：该单片机很可能没有此字节。</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -53,6 +57,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>找不到编程器。</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>仍要使用该端口吗？</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>未找到 %1 的串口：端口仍为 %2。</translation>
     </message>
 </context>
 <context>
@@ -89,6 +101,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>“添加”：将当前设置保存为配置文件。
 “移除”：移除所选的配置文件。</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>文件有 %1 字节，存储器只有 %2 字节。</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>芯片会被白白擦除。
+仍要继续吗？</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>第 %1 行不是 %2 格式。</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>第 %1 行的校验和错误。</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>文件中有地址 0x%1 的数据，存储器只有 %2 字节。</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>文件不是 AVR 的 ELF 程序。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件为空。</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude 不接受扩展名为 .%1 的此文件：请将扩展名改为 %2。</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>文件中没有此存储器的数据。</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>文件缺少末尾部分。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>无法读取文件。</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>文件太大，不可能是固件。</translation>
     </message>
 </context>
 <context>
@@ -159,6 +227,13 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>这里没有熔丝字节：未发送任何内容。</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -183,6 +258,10 @@ The way back: erase all of it.</source>
         <source>Not read: %1</source>
         <translation>未读取：%1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>仍要写入熔丝字节吗？</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -201,6 +280,28 @@ The way back: erase all of it.</source>
     <message>
         <source>Default</source>
         <translation>默认值</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>串行编程器无法访问此单片机的熔丝字节。</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>对于此单片机的熔丝字节，avrdude 并不可靠。</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>尚未加载熔丝字节。请在第一个选项卡中选择单片机。</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>未从芯片读取</translation>
     </message>
 </context>
 <context>
@@ -236,6 +337,14 @@ The way back: erase all of it.</source>
         <source>The file is kept as %1.</source>
         <translation>文件已保留为 %1。</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude 仍在操作芯片。如果现在终止它，芯片将停留在当时的状态：可能已被擦除，也可能只写入了一半。</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>仍要关闭 Korvel 吗？</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -262,6 +371,38 @@ The way back: erase all of it.</source>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH 读取成功。</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>修改于 %1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>文件不存在：avrdude 未写出该文件。</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>文件为空：芯片为空或已锁定，或者磁盘已满。</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 字节</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>要覆盖它吗？</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>读取将覆盖此文件：</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>%1 字节数据</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>%1 字节数据，占存储器的 %2%</translation>
     </message>
 </context>
 <context>
@@ -378,6 +519,42 @@ Fuse bits verify successfully.</source>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>无法将设置保存到文件：</translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>配置文件名称不能包含以下任何字符：%1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>重新启动后，它在列表中的名称为 %1。</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>1 个熔丝字节</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>%1 个熔丝字节</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>未加载配置文件</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>Windows 将此名称保留给设备使用。请换一个名称。</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>此名称作为文件名太长。请换一个较短的名称。</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>重新启动后，它不会显示在列表中。</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>加载后已更改</translation>
     </message>
 </context>
 <context>
@@ -740,13 +917,6 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>复制链接地址(&amp;L)</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>文件有 %1 字节，存储器只有 %2 字节。</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,10 @@
         <source>Nothing found in the folder %1.</source>
         <translation>フォルダー %1 には何も見つかりません。</translation>
     </message>
+    <message>
+        <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
+        <translation>avrdude は何も読み出せませんでした。おそらくこのマイコンには校正バイトがありません。</translation>
+    </message>
 </context>
 <context>
     <name>AttributesView</name>
@@ -53,6 +57,14 @@
     <message>
         <source>Programmer not found.</source>
         <translation>書込器が見つかりません。</translation>
+    </message>
+    <message>
+        <source>Do you want to use it all the same?</source>
+        <translation>それでもこのポートを使いますか？</translation>
+    </message>
+    <message>
+        <source>No serial port was found for %1: the port is still %2.</source>
+        <translation>%1 のシリアルポートが見つかりません。ポートは %2 のままです。</translation>
     </message>
 </context>
 <context>
@@ -89,6 +101,62 @@
 &quot;Remove&quot; - remove selected profile.</source>
         <translation>「追加」：設定をプロファイルに保存します。
 「削除」：選択したプロファイルを削除します。</translation>
+    </message>
+</context>
+<context>
+    <name>FileCheck</name>
+    <message>
+        <source>The file has %1 bytes, the memory only %2.</source>
+        <translation>ファイルは %1 バイトですが、メモリは %2 バイトしかありません。</translation>
+    </message>
+    <message>
+        <source>The chip would be erased for nothing.
+Do you want to go on all the same?</source>
+        <translation>チップが消去されるだけで終わります。
+それでも続行しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>FirmwareFile</name>
+    <message>
+        <source>Line %1 is not %2.</source>
+        <translation>%1 行目が %2 形式ではありません。</translation>
+    </message>
+    <message>
+        <source>The checksum of line %1 is wrong.</source>
+        <translation>%1 行目のチェックサムが正しくありません。</translation>
+    </message>
+    <message>
+        <source>The file has data at address 0x%1, the memory only %2 bytes.</source>
+        <translation>ファイルにはアドレス 0x%1 のデータがありますが、メモリは %2 バイトしかありません。</translation>
+    </message>
+    <message>
+        <source>The file is not an ELF program for AVR.</source>
+        <translation>ファイルは AVR 用の ELF プログラムではありません。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>ファイルが空です。</translation>
+    </message>
+    <message>
+        <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
+        <translation>avrdude は拡張子 .%1 のままではこのファイルを受け付けません。拡張子を %2 にしてください。</translation>
+    </message>
+    <message>
+        <source>The file holds no data for this memory.</source>
+        <translation>ファイルにこのメモリのデータがありません。</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing.</source>
+        <translation>ファイルの末尾が欠けています。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read.</source>
+        <translation>ファイルを読み込めません。</translation>
+    </message>
+    <message>
+        <source>The file is too large to be firmware.</source>
+        <translation>ファイルが大きすぎて、ファームウェアとは考えられません。</translation>
     </message>
 </context>
 <context>
@@ -159,6 +227,13 @@ The way back: erase all of it.</source>
     </message>
 </context>
 <context>
+    <name>FuseRequests</name>
+    <message>
+        <source>There is no fuse byte here: none was sent.</source>
+        <translation>ここにはヒューズバイトがありません。何も送信していません。</translation>
+    </message>
+</context>
+<context>
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
@@ -183,6 +258,10 @@ The way back: erase all of it.</source>
         <source>Not read: %1</source>
         <translation>読み出せなかったもの：%1</translation>
     </message>
+    <message>
+        <source>Do you want to write the fuse bytes all the same?</source>
+        <translation>それでもヒューズバイトを書き込みますか？</translation>
+    </message>
 </context>
 <context>
     <name>FusesButtonsView</name>
@@ -201,6 +280,28 @@ The way back: erase all of it.</source>
     <message>
         <source>Default</source>
         <translation>既定値</translation>
+    </message>
+</context>
+<context>
+    <name>FusesBytes</name>
+    <message>
+        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>シリアル書込器では、このマイコンのヒューズバイトにアクセスできません。</translation>
+    </message>
+    <message>
+        <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
+        <translation>このマイコンのヒューズバイトの扱いでは、avrdude を信頼できません。</translation>
+    </message>
+    <message>
+        <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
+        <translation>ヒューズバイトが読み込まれていません。最初のタブでマイコンを選択してください。</translation>
+    </message>
+</context>
+<context>
+    <name>FusesTextView</name>
+    <message>
+        <source>not read from the chip</source>
+        <translation>チップ未読出し</translation>
     </message>
 </context>
 <context>
@@ -236,6 +337,14 @@ The way back: erase all of it.</source>
         <source>The file is kept as %1.</source>
         <translation>ファイルは %1 として残してあります。</translation>
     </message>
+    <message>
+        <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
+        <translation>avrdude はまだチップを操作しています。今それを終了すると、チップは消去されたまま、または途中まで書き込まれたままになるおそれがあります。</translation>
+    </message>
+    <message>
+        <source>Do you want to close Korvel all the same?</source>
+        <translation>それでも Korvel を閉じますか？</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -262,6 +371,38 @@ The way back: erase all of it.</source>
     <message>
         <source>FLASH read successfully.</source>
         <translation>FLASH を読み出しました。</translation>
+    </message>
+    <message>
+        <source>changed on %1</source>
+        <translation>更新日時：%1</translation>
+    </message>
+    <message>
+        <source>The file is not there: avrdude has not written it.</source>
+        <translation>ファイルがありません。avrdude が書き出していません。</translation>
+    </message>
+    <message>
+        <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
+        <translation>ファイルが空です。チップが空かロックされているか、ディスクに空きがありません。</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 バイト</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it?</source>
+        <translation>上書きしますか？</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>読み出すと次のファイルが上書きされます：</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data</source>
+        <translation>データ %1 バイト</translation>
+    </message>
+    <message>
+        <source>%1 bytes of data, %2 % of the memory</source>
+        <translation>データ %1 バイト、メモリの %2%</translation>
     </message>
 </context>
 <context>
@@ -378,6 +519,42 @@ Fuse bits verify successfully.</source>
     <message>
         <source>Failed to save settings to file: </source>
         <translation>設定を保存できませんでした。ファイル：</translation>
+    </message>
+    <message>
+        <source>The name of a profile cannot hold any of these characters: %1</source>
+        <translation>プロファイル名に次の文字は使えません：%1</translation>
+    </message>
+    <message>
+        <source>After a restart the list calls it %1.</source>
+        <translation>再起動後、一覧では %1 と表示されます。</translation>
+    </message>
+    <message>
+        <source>1 fuse byte</source>
+        <translation>ヒューズバイト 1 個</translation>
+    </message>
+    <message>
+        <source>%1 fuse bytes</source>
+        <translation>ヒューズバイト %1 個</translation>
+    </message>
+    <message>
+        <source>no profile loaded</source>
+        <translation>プロファイル未読込み</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device. Choose another one.</source>
+        <translation>この名前は Windows がデバイス用に予約しています。別の名前にしてください。</translation>
+    </message>
+    <message>
+        <source>The name is too long for a file. Choose a shorter one.</source>
+        <translation>名前がファイル名として長すぎます。もっと短い名前にしてください。</translation>
+    </message>
+    <message>
+        <source>After a restart the list does not show it.</source>
+        <translation>再起動後、一覧には表示されません。</translation>
+    </message>
+    <message>
+        <source>profile changed since it was loaded</source>
+        <translation>読込み後に変更あり</translation>
     </message>
 </context>
 <context>
@@ -740,13 +917,6 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>リンクのアドレスをコピー(&amp;L)</translation>
-    </message>
-</context>
-<context>
-    <name>RawFile</name>
-    <message>
-        <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>ファイルは %1 バイトですが、メモリは %2 バイトしかありません。</translation>
     </message>
 </context>
 <context>

@@ -234,7 +234,7 @@ void ProfilesPresenter::showBoard()
     if (m_loaded.isEmpty())
         line += tr("no profile loaded");
     else if (m_loaded != sentBy(settings))
-        line += tr("changed since it was loaded");
+        line += tr("profile changed since it was loaded");
     m_boardLine.showLine(line.join(QString::fromUtf8(" \u00b7 ")));
 }
 
