@@ -302,7 +302,7 @@ Der Weg zurück: alles löschen.</translation>
     <name>FusesTextView</name>
     <message>
         <source>not read from the chip</source>
-        <translation>nicht vom Chip gelesen</translation>
+        <translation>nicht ausgelesen</translation>
     </message>
 </context>
 <context>

@@ -302,7 +302,7 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <name>FusesTextView</name>
     <message>
         <source>not read from the chip</source>
-        <translation>nieodczytane z układu</translation>
+        <translation>nie odczytano</translation>
     </message>
 </context>
 <context>

@@ -21,7 +21,8 @@ void ElidedLabel::showLine(const QString& line)
 
 QSize ElidedLabel::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(m_line) + 2 * margin(), minimumSizeHint().height()};
+    constexpr int rounding = 2; // pixels
+    return {fontMetrics().horizontalAdvance(m_line) + rounding, minimumSizeHint().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const
