@@ -13,7 +13,7 @@
 namespace {
 
 constexpr qint64 largestFile =
-    32 * 1024 * 1024; // bytes; as text the largest flash, of 384 KiB, takes a thirtieth of it
+    32LL * 1024 * 1024; // bytes; as text the largest flash, of 384 KiB, takes a thirtieth of it
 
 enum class Format { IntelHex, SRecords, Elf, Raw, Unknown };
 
