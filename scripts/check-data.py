@@ -68,6 +68,7 @@ for line in (top / 'tests/data/parts.txt').read_text().splitlines():
                    'flash': int(flash)}
     if eeprom != '-':
         description['eeprom'] = int(eeprom)
+    description['interfaces'] = interfaces.split('+')
     bytes_ = [m.replace('*', '') + ('' if '/' in m else '/FF') for m in memories if not m.startswith('(')]
     facts[name] = description, 'ISP' in interfaces, bytes_
 
@@ -123,6 +124,7 @@ for name, found in sorted(ships.items()):
     check(listed == memories, name, 'has', listed, 'instead of', memories)
     reason = found.pop('withoutFuseBytes', None)
     check(reason is None if listed else reason in ('unreachable', 'unreliable'), name, 'has no fuse bytes, as', reason)
+    check(found.pop('avrdude', '7') == ('8' if has_word(newer, name) else '7'), name, 'needs avrdude 8, or does not')
     if name.startswith('AVR') and not has_word(newer, name):  # 7.1 has the whole name, which newer ones take too
         expected = dict(expected, id=name.lower())
     check(found == expected, name, 'is', found, 'instead of', expected)
@@ -164,6 +166,11 @@ for cells in avrdude_table('-c'):  # each with its names first, and not always w
         ports.update(dict.fromkeys(names, port))
     if cells[2:] in (['type', '"par"'], ['type', '"linuxgpio"']):
         optional.update(names)
+tells = {}  # interfaces and USB numbers of the programmers that the table has
+for line in (top / 'tests/data/interfaces.txt').read_text().splitlines():
+    if not line.startswith('#'):
+        identifier, interfaces, usb = line.split(' ')
+        tells[identifier] = {'interfaces': interfaces.split('+'), **({} if usb == '-' else {'usb': usb.split('+')})}
 offered = set()
 older = 0  # those that 7.1 knows
 programmers = load('programmer')
@@ -173,7 +180,9 @@ for name, entry in programmers.items():
     older += not is_newer
     check(identifier in optional or is_known_rightly(identifier in ports, is_newer), name, 'needs a newer avrdude')
     port = 'usb' if '-P ' in arguments else ports.get(identifier) or entry['port']
-    check(entry == {'id': identifier, 'arguments': arguments, 'port': port}, name, 'is', entry, 'not on', port)
+    expected = {'id': identifier, 'arguments': arguments, 'port': port, **tells.get(identifier, {}),
+                **({'avrdude': '8'} if is_newer else {})}
+    check(entry == expected, name, 'is', entry, 'instead of', expected)
     check((identifier, arguments) not in offered, name, 'is there twice')
     offered |= {identifier, (identifier, arguments)}
 missing = devices('Programmers that do not ship')
