@@ -75,7 +75,7 @@ private slots:
             folder.write(file, content);
             QCOMPARE(Startup::language(), QString(language));
             KorvelApp window;
-            QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to load settings from file: save.json"});
+            QCOMPARE(boxes.take(), QStringList {"Korvel, warning: Failed to load settings from file: save.json"});
             QCOMPARE(folder.read(kept), content);
             const QString path = QDir::toNativeSeparators(QDir().absoluteFilePath(kept));
             QVERIFY(window.findChild<Avrdude*>()->log().toPlainText().endsWith(
@@ -288,7 +288,7 @@ private slots:
             QVERIFY(window.close());
 #endif
         }
-        QCOMPARE(boxes.take(), QStringList {"Korvel: Failed to save settings to file: save.json"});
+        QCOMPARE(boxes.take(), QStringList {"Korvel, warning: Failed to save settings to file: save.json"});
     }
 
 private:

@@ -61,7 +61,7 @@ private slots:
         Bench bench;
         bench.boxes.delay = 100; // more arrives meanwhile
         QCOMPARE(bench.run("err error: " + QByteArray("getsync() ").repeated(20000) + "\nwait 60000"), 0);
-        QCOMPARE(bench.boxes.wait(), QStringList {"AVRDUDE: Programmer not found."});
+        QCOMPARE(bench.boxes.wait(), QStringList {"AVRDUDE, warning: Programmer not found."});
         QCOMPARE(bench.run(""), 1); // it answers again
     }
 
@@ -77,7 +77,7 @@ private slots:
         bench.avrdude.execute({"dropped"}, [&calls] { calls += "dropped"; });
         QTRY_COMPARE(calls, QStringList({"1", "2"}));
         QCOMPARE(bench.run("err verification error\ncrash"), 0);
-        QCOMPARE(bench.boxes.wait(), QStringList {"Information: Process avrdude error"});
+        QCOMPARE(bench.boxes.wait(), QStringList {"Information, warning: Process avrdude error"});
     }
 
     void anAvrdudeThatCannotBeFound()

@@ -83,10 +83,10 @@ private slots:
             panels.folder.write("a.hex", "garbage");
             panels.folder.write("script", "err verification error");
             const QString writing = panels.click(panels.flashView.writeButton());
-            QVERIFY2(writing.startsWith(told == question ? question : "AVRDUDE: "), qPrintable(writing));
+            QVERIFY2(writing.startsWith(told == question ? question : "AVRDUDE, warning: "), qPrintable(writing));
             QCOMPARE(writing.contains("flash:w:"), told != question || answer == QMessageBox::Yes);
             for (QPushButton* button : {panels.flashView.writeVerifyButton(), panels.eepromView.writeButton()})
-                QVERIFY(panels.click(button).startsWith("AVRDUDE: "));
+                QVERIFY(panels.click(button).startsWith("AVRDUDE, warning: "));
         }
     }
 
@@ -139,8 +139,12 @@ private slots:
 
     void aWritingTellsOfItsVerification()
     {
-        for (const auto& [file, begin, told] : {std::tuple("a.hex", "verifying fl", "\nFLASH verified successfully."),
-                                                {"verifying flash.hex", "fl", ""}}) {
+        for (const auto& [file, begin, told] :
+             {std::tuple("a.hex", "verifying fl", "\nFLASH verified successfully."),
+              {"b.hex", "Writing 5000 bytes to flash\n5000 bytes of flash verified fl",
+               "\nFLASH verified successfully."},
+              {"c.hex", "Writing 5000 bytes to flash\n5000 bytes of eeprom verified fl", ""},
+              {"verifying flash.hex", "fl", ""}}) {
             Panels panels;
             panels.flashView.writePath()->setText(file);
             panels.begin(begin, "err ash", panels.flashView.writeButton());

@@ -234,7 +234,8 @@ private slots:
         for (const auto& [file, told] : {
                  std::pair("12345", "EEPROM: The file has 5 bytes, the memory only 4."), // nothing is written
                  {"1234567", "FLASH: The file has 7 bytes, the memory only 6."},
-                 {"1234", "AVRDUDE: Verification error.|-U flash:w:C:/a.bin:r"}, // nothing after the step that failed
+                 {"1234",
+                  "AVRDUDE, warning: Verification error.|-U flash:w:C:/a.bin:r"}, // nothing after the step that failed
              }) {
             tab.folder.write("C:/a.bin", file);
             QCOMPARE(tab.click(tab.write), QString(told));

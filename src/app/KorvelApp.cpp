@@ -2,6 +2,8 @@
 
 #include "about/AboutView.h"
 #include "about/SocialLinksWidget.h"
+#include "advice/Advice.h"
+#include "advice/Surroundings.h"
 #include "app/StrayInput.h"
 #include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
@@ -78,6 +80,9 @@ KorvelApp::KorvelApp(QWidget* parent)
     setCentralWidget(m_central);
 
     new StrayInput(this);
+    m_avrdude->setExplainer(
+        [](const FailedRun& run) { return Advice::explain(run, Surroundings::now(run.settings.port)); });
+    connect(m_avrdude, &Avrdude::partChosen, m_program, &Program::chooseMcu);
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
     connect(m_settings, &Settings::chosen, m_profiles, &Profiles::showBoard);

@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QMessageBox>
+#include <QPushButton>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int startTimeout = 30000; // milliseconds
+constexpr char partProperty[] = "part"; // of a button that stands for one
 
 /// "375 kHz (-B 2)" and "-B 2" both give "-B 2".
 QString bitClockOption(const QString& speed)
@@ -53,6 +54,7 @@ Avrdude::Avrdude(QObject* parent, AvrdudeMessage* log)
     : QObject(parent)
     , m_log(log)
 {
+    m_messages.setTell([this](const QString& message) { tellFailure(QStringLiteral("AVRDUDE"), message); });
 }
 
 Avrdude::~Avrdude()
@@ -74,6 +76,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     if (isBusy())
         return 0;
 
+    m_run = {settings, arguments, {}, true};
     m_process = new QProcess(this);
     m_killedOnError = false;
     m_errorDecoder.reset();
@@ -106,6 +109,10 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
         m_process->disconnect(this);
         m_process->kill();
         m_log->appendPlainText(tr("avrdude not found") + m_process->errorString());
+        m_run.isStarted = false;
+        const auto advice = m_explain(m_run).lines;
+        for (const QString& line : advice)
+            m_log->appendLine(line);
         emit runningChanged(false);
         return -1;
     }
@@ -161,18 +168,35 @@ int Avrdude::addEditText()
     if (!m_killedOnError && Message::showsSilentProgrammer(errorText)) {
         m_killedOnError = true;
         m_process->kill();
-        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), tr("Programmer not found."));
+        tellFailure(QStringLiteral("AVRDUDE"), tr("Programmer not found."));
     }
     m_log->ensureCursorVisible();
     return 0;
+}
+
+void Avrdude::tellFailure(const QString& title, const QString& message)
+{
+    FailedRun run = m_run;
+    run.output = output();
+    const Explanation explanation = m_explain(run);
+    QApplication::beep();
+    Box box(QMessageBox::Warning, title, message, explanation.lines.join(QLatin1Char('\n')), QMessageBox::Ok,
+            QApplication::activeWindow());
+    for (const QString& part : explanation.parts)
+        box.addButton(part, QMessageBox::ActionRole)->setProperty(partProperty, part);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    const QString chosen = box.clickedButton() ? box.clickedButton()->property(partProperty).toString() : QString();
+    if (!chosen.isEmpty())
+        emit partChosen(chosen);
 }
 
 void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)
 {
     emit runningChanged(false);
     if (status == QProcess::CrashExit && !m_killedOnError)
-        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Information"),
-                                 QStringLiteral("Process avrdude error"));
+        tellFailure(QStringLiteral("Information"), QStringLiteral("Process avrdude error"));
 
     m_process->disconnect(this);
     m_process->deleteLater();
@@ -183,6 +207,8 @@ void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callbac
         return;
     // What counts is what avrdude said; its exit code only lends weight to some of its words. The log's own text has
     // line breaks that avrdude did not print, and what the user clicked into.
+    if (exitCode != 0 && m_messages.checkSilentChip(output()))
+        return;
     if (m_messages.checkOutput(m_text, m_findings))
         return;
     if (exitCode != 0 && m_messages.checkFailedRun(output()))

@@ -2,6 +2,7 @@
 
 #include "app/record/FusesOnChip.h"
 #include "app/record/SettingsRecord.h"
+#include "avrdude/FailedRun.h"
 #include "avrdude/Message.h"
 #include "base/Toolkit.h"
 
@@ -22,6 +23,9 @@ class Avrdude : public QObject
 
 public:
     using Callback = std::function<void()>;
+
+    /// Says what is to be told of a failed run below its message.
+    using Explainer = std::function<Explanation(const FailedRun& run)>;
 
     Avrdude(QObject* parent, AvrdudeMessage* log);
     ~Avrdude() override;
@@ -71,10 +75,16 @@ public:
     /// it may be cut in two where the user clicked, or hold other lines.
     [[nodiscard]] QString output() const { return m_text.mid(m_outputBegin); }
 
+    /// From now on failures are told with what @p explainer has to add.
+    void setExplainer(Explainer explainer) { m_explain = std::move(explainer); }
+
     /// The log that runs are echoed into.
     [[nodiscard]] AvrdudeMessage& log() { return *m_log; }
 
 signals:
+    /// The user chose the microcontroller called @p name in the box of a failure.
+    void partChosen(const QString& name);
+
     /// A run begins, or has ended in whatever way and what came of it is about to be told. Not sent when the runner
     /// goes while avrdude runs.
     void runningChanged(bool isRunning);
@@ -85,6 +95,7 @@ public slots:
     int addEditText();
 
 private:
+    void tellFailure(const QString& title, const QString& message);
     void finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback);
 
     QProcess* m_process = nullptr; ///< the current run; null when idle
@@ -92,6 +103,8 @@ private:
     SettingsRecord m_settings;
     FusesOnChip m_fusesOnChip;
     Message m_messages;
+    Explainer m_explain = [](const FailedRun&) { return Explanation(); };
+    FailedRun m_run; ///< the current or last one, without its output
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
     QString m_text; ///< the command line and the output of the current or last run, as they came
     int m_outputBegin = 0; ///< in that text

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -83,14 +84,15 @@ constexpr const char* silentProgrammer[] = {
     "(): timeout", "avrdude error: timeout",
 };
 
-void tell(const QString& message)
+void tellPlainly(const QString& message)
 {
-    QMessageBox::information(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), message);
+    QMessageBox::warning(QApplication::activeWindow(), QStringLiteral("AVRDUDE"), message);
 }
 
 } // namespace
 
 Message::Message()
+    : m_tell(tellPlainly)
 {
     for (const Row& row : rows) {
         const QLatin1String fragment(row.fragment);
@@ -119,7 +121,7 @@ bool Message::checkOutput(const QString& text, Findings findings) const
     search(text, findings);
     if (findings.first < 0)
         return false;
-    tell(m_entries.at(findings.first).message);
+    m_tell(m_entries.at(findings.first).message);
     return true;
 }
 
@@ -131,7 +133,19 @@ bool Message::checkFailedRun(const QString& output) const
                                     [&lines](const Entry& entry) { return lines.contains(entry.fragment); });
     if (found == m_failureEntries.end())
         return false;
-    tell(found->message);
+    m_tell(found->message);
+    return true;
+}
+
+bool Message::checkSilentChip(const QString& output) const
+{
+    static const QRegularExpression silent(
+        QStringLiteral("initialization failed|no device$|target does(n't| not) answer|program enable: target"),
+        QRegularExpression::MultilineOption);
+    static const QRegularExpression signature(QStringLiteral("[Dd]evice signature = "));
+    if (!output.contains(silent) || output.contains(signature))
+        return false;
+    m_tell(tr(noTarget));
     return true;
 }
 

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
+
 /// Turns what avrdude prints into a verdict and a short message. A member of the runner, made once the translator is
 /// installed: the messages are translated at construction and keep that language.
 class Message : public QObject
@@ -12,6 +14,10 @@ class Message : public QObject
 
 public:
     Message();
+
+    /// How a message is told to the user: in a box of its own, until another way is set.
+    using Tell = std::function<void(const QString& message)>;
+    void setTell(Tell tell) { m_tell = std::move(tell); }
 
     /// How far a text that grows has been searched, and what was found so far.
     struct Findings {
@@ -34,6 +40,10 @@ public:
     /// @p output, what avrdude printed in that run, for the words of versions that the first table does not know.
     [[nodiscard]] bool checkFailedRun(const QString& output) const;
 
+    /// The same for one whose @p output shows that the programmer answered and the chip did not: avrdude 7.1 closes
+    /// that with an advice by which checkOutput() knows a wrong part.
+    [[nodiscard]] bool checkSilentChip(const QString& output) const;
+
     /// True when @p errorText, one piece of a running avrdude's standard error, shows that the programmer does not
     /// answer, so that waiting for avrdude's own retries is pointless.
     [[nodiscard]] static bool showsSilentProgrammer(const QString& errorText);
@@ -45,6 +55,7 @@ private:
     };
 
     // In the order in which they are tried.
+    Tell m_tell;
     QVector<Entry> m_entries;
     QVector<Entry> m_failureEntries;
     int m_longestFragment = 0; ///< of the first

@@ -43,6 +43,12 @@ void Program::refresh()
     m_eeprom->refresh();
 }
 
+void Program::chooseMcu(const QString& name)
+{
+    m_attributesView->mcuList()->setCurrentText(name);
+    onMcuSelected(name);
+}
+
 void Program::onMcuSelected(const QString& name)
 {
     m_settings.mcuName = name;

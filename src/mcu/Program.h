@@ -24,6 +24,9 @@ public:
     /// Shows the settings record's microcontroller and files again.
     void refresh();
 
+    /// Does what picking the microcontroller called @p name in the list does.
+    void chooseMcu(const QString& name);
+
 private:
     void onMcuSelected(const QString& name);
 

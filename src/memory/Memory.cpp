@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include <utility>
 
@@ -104,7 +105,13 @@ void Memory::startRead(Avrdude::Callback whenDone)
 void Memory::showWritten()
 {
     // avrdude verifies what it wrote unless it was told not to, and says so.
-    const bool verified = m_avrdude.output().contains(QLatin1String("verifying ") + QLatin1String(m_kind.memory));
+    const QString output = m_avrdude.output();
+    const QLatin1String memory(m_kind.memory);
+    // avrdude 8 says both in one line: "Writing 5000 bytes to flash".."5000 bytes of flash verified".
+    static const QRegularExpression writing(QStringLiteral("^Writing \\d+ bytes? to "),
+                                            QRegularExpression::MultilineOption);
+    const bool verified = output.contains(QLatin1String("verifying ") + memory)
+        || (output.contains(writing) && output.contains(QLatin1String(" of ") + memory + QLatin1String(" verified")));
     showBox(verified ? tr(m_kind.written) + QLatin1Char('\n') + tr(m_kind.verified) : tr(m_kind.written));
 }
 

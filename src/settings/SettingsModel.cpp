@@ -3,7 +3,9 @@
 #include "base/JsonFile.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonObject>
+#include <QVariant>
 
 SettingsModel::SettingsModel(QObject* parent, PortSource ports)
     : QObject(parent)
@@ -41,5 +43,14 @@ ProgrammerEntry SettingsModel::programmerEntry(const QString& name)
     const JsonFile file = JsonFile::read(QDir(programmerFolder()).filePath(name + QLatin1String(".json")));
     const QJsonObject entry = file.document.object();
     const auto text = [&entry](const char* key) { return entry.value(QLatin1String(key)).toString(); };
-    return {file.fault() ? file.faultText() : QString(), text("id"), text("arguments"), text("port")};
+    const auto list = [&entry](const char* key) {
+        return QVariant(entry.value(QLatin1String(key)).toArray().toVariantList()).toStringList();
+    };
+    return {file.fault() ? file.faultText() : QString(),
+            text("id"),
+            text("arguments"),
+            text("port"),
+            list("interfaces"),
+            list("usb"),
+            text("avrdude")};
 }

@@ -13,6 +13,9 @@ struct ProgrammerEntry {
     QString id; ///< avrdude's "-c"
     QString arguments; ///< further avrdude arguments, separated by blanks
     QString portMode; ///< "usb": a fixed port; "com": a choice of serial ports; anything else: none
+    QStringList interfaces; ///< that it programs parts by, "ISP", or "bootloader"; empty: not known
+    QStringList usb; ///< vendor and product numbers, "16c0:05dc"; empty: none, or not known
+    QString avrdude; ///< the version that first knew it, where that is newer than 7.1
 };
 
 /// The lists that the settings panel offers. The folders are those of the working directory; a missing one gives an

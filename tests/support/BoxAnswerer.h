@@ -23,8 +23,8 @@ public:
     std::function<void()> onOpen = [] {};
 
     /// The boxes since the last call, oldest first, as "title: text" or, where it was set which button the Enter key
-    /// presses, "title, by default No: text". What stands below the text follows after a plus, and makes it "title,
-    /// warning: text" where it is told as a warning.
+    /// presses, "title, by default No: text". What stands below the text follows after a plus; a warning is "title,
+    /// warning: text".
     QStringList take() { return std::exchange(m_boxes, {}); }
 
     /// Waits for a box, then a little for one too many, and takes them. Empty when none opens within @p timeout
@@ -44,7 +44,7 @@ public:
         const QPushButton* chosen = box->buttons().size() > 1 ? box->defaultButton() : nullptr;
         const QString byDefault = chosen ? ", by default " + chosen->text().remove('&') : QString();
         const QString below = box->informativeText().isEmpty() ? QString() : " + " + box->informativeText();
-        const QString icon = !below.isEmpty() && box->icon() == QMessageBox::Warning ? ", warning" : QString();
+        const QString icon = box->icon() == QMessageBox::Warning ? ", warning" : QString();
         m_boxes.append(box->windowTitle() + byDefault + icon + QLatin1String(": ") + box->text() + below);
         QTimer::singleShot(delay, box, [this, box] {
             onOpen();

@@ -11,7 +11,7 @@ struct Desk {
         startProgrammer(options);
         port = QRegularExpression(":\\d+").match(programmer.readAllStandardOutput()).captured().toUtf8();
         for (const QString file : {"programmer/Virtual programmer.json", "profiles/Blink complete.json",
-                                   "mcu/ATmega16.json", "demo/blink.hex", "demo/greeting.eep"})
+                                   "mcu/ATmega16.json", "mcu/ATmega328P.json", "demo/blink.hex", "demo/greeting.eep"})
             folder.write(file, folder.read(DATA_FOLDER "/" + file).replace(":7016", port)); // the one that was free
         window = std::make_unique<KorvelApp>();
         window->show();

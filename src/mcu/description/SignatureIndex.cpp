@@ -27,3 +27,16 @@ void SignatureIndex::build()
             m_mcus.insert(signature, mcu);
     }
 }
+
+QStringList SignatureIndex::namesOf(const QString& signature)
+{
+    QStringList names;
+    const auto files = jsonFiles(BytesModel::folder());
+    for (const QFileInfo& info : files) {
+        const QJsonObject description = JsonFile::read(info.filePath()).document.object();
+        if (description.value(QLatin1String("signature")).toString() == signature)
+            names += info.baseName();
+    }
+    names.sort();
+    return names;
+}

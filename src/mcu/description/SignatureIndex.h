@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 /// Finds a microcontroller by its signature. Built from all descriptions when it is first asked, which takes longer
 /// than all else of a start; kept for the life of the Programming tab, which owns it.
@@ -17,6 +18,9 @@ public:
     /// description, or lack a name, an id or a signature, do not count; of two with the same signature the later in the
     /// folder's order does.
     [[nodiscard]] Mcu find(const QString& signature);
+
+    /// The names of all descriptions with @p signature, in order. Reads all of them.
+    [[nodiscard]] static QStringList namesOf(const QString& signature);
 
 private:
     void build();
