@@ -4,6 +4,196 @@
      die Geschwindigkeit des Programmers, Takt nur für den des Chips; der Programmer bleibt ebenfalls. -->
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Das Benutzerkonto darf den Programmer nicht benutzen.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Diese Zeile in %1 eintragen und den Programmer neu einstecken:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Das Benutzerkonto darf den Port %1 nicht benutzen.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>In einem Terminal: %1. Danach ab- und wieder anmelden.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Ist der Programmer eingesteckt? Ein anderes Kabel und eine andere Buchse versuchen.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>Unter Windows braucht er seinen Treiber: Welchen, steht in der Anleitung.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Es ist nichts eingesteckt, was in der Liste steht.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Eingesteckt ist vielleicht: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Zurzeit gibt es keinen seriellen Port.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Zurzeit vorhandene Ports: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>Den Port %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Ein anderes Programm, etwa ein serieller Monitor, benutzt den Port %1: Bitte schließen.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Dort nimmt nichts die Verbindung an: Läuft die Gegenstelle, und stimmt die Adresse?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Unmittelbar vorher den Reset-Taster des Boards drücken.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Den anderen Eintrag für das Board in der Liste versuchen: Bootloader unterscheiden sich im Tempo.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>Ist %1 der richtige Port, und ist der Programmer von der gewählten Art?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Sitzt der Stecker richtig herum, und hat der Chip Strom?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>Das Tempo muss unter einem Viertel der Taktfrequenz des Chips liegen: ein niedrigeres versuchen.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Seine Fuses verlangen vielleicht einen Takt, der fehlt, oder machen den Reset-Pin zu einem gewöhnlichen Pin.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Nach „Schreiben“: Kontakte und Versorgung prüfen und ein niedrigeres Tempo versuchen.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Ein Chip mit gesetzten Lock-Bits gibt seinen Inhalt nicht preis.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Ein Bootloader kann Fuse- und Lock-Bytes nicht schreiben. Ein Programmer kann es.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>Der Chip ist gesperrt: „Alles löschen“ gibt ihn frei, sein Inhalt geht dabei verloren.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 braucht avrdude %2 oder neuer; das installierte kennt es nicht.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>Das installierte avrdude kennt %1 nicht.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>Der Chip hat die Signatur %1, die in der Liste nicht vorkommt.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>Der Chip meldet sich als: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 wird über %2 programmiert, dieser Programmer beherrscht %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Aus der Liste passen unter anderem: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude gehört zu den Paketen des Systems: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel sucht %1. In save.json kann unter „avrdude“ ein anderes Programm oder ein ganzer Pfad stehen.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Dann Korvel neu starten.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Schreiben des Flash fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Prüfen des Flash fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Lesen des Flash fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Schreiben des EEPROM fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Prüfen des EEPROM fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Lesen des EEPROM fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Schreiben der Fuse-Bytes fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Prüfen der Fuse-Bytes fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Lesen der Fuse-Bytes fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Lesen des Kalibrierbytes fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Löschen des Chips fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>Der Chip weicht an Adresse %1 von der Datei ab.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>Das Schreiben hatte begonnen: Der Chip enthält vielleicht einen Teil der Datei.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>Der Chip wurde gelöscht und nichts geschrieben: Sein Flash ist leer.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude nicht gefunden</translation>
+        <translation>avrdude nicht gefunden: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

@@ -3,6 +3,196 @@
 <!-- Every text stands for itself. Terms: fuse byte, fuse bit, lock bit and calibration byte, as in the datasheets. -->
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Your account may not use the programmer.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Write this line into %1 and plug the programmer in again:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Your account may not use the port %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>In a terminal: %1. Then log out and in again.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Is the programmer plugged in? Try another cable, and another socket.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>On Windows it needs its driver: the guide tells which.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Nothing is plugged in that the list has.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>What is plugged in may be: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>There is no serial port now.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Ports that are there now: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>There is no port %1.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Another program uses the port %1: close it, such as a serial monitor.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Nothing listens there: is it started, and is that the right address?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Press the board&apos;s reset button just before.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Try the other entry for the board in the list: boot loaders differ in speed.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>Is %1 the right port, and the programmer of the kind that is chosen?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Is the plug the right way round, and does the chip have power?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>After Write: check contacts and supply, and try a lower speed.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>A chip whose lock bits are set does not show what it holds.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>A boot loader cannot write fuse and lock bytes. A programmer can.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>The chip is locked: Erase all frees it, and takes what it holds.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 needs avrdude %2 or newer; the one that is installed does not know it.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>The avrdude that is installed does not know %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>The chip has the signature %1, which nothing in the list has.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>The chip says that it is: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 is programmed by %2, and this programmer speaks %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Of the list there fit, among others: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude is in the system&apos;s packages: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Then start Korvel again.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Writing the flash failed.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Verifying the flash failed.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Reading the flash failed.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Writing the EEPROM failed.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Verifying the EEPROM failed.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Reading the EEPROM failed.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Writing the fuse bytes failed.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Verifying the fuse bytes failed.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Reading the fuse bytes failed.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Reading the calibration byte failed.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Erasing the chip failed.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>The chip differs from the file at address %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>Writing had begun: the chip may hold a part of the file.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>The chip was erased, and nothing was written: its flash is empty.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>

@@ -4,6 +4,196 @@
      clock); «grabar» para escribir en el chip. -->
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Su cuenta no tiene permiso para usar el programador.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Escriba esta línea en %1 y vuelva a enchufar el programador:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Su cuenta no tiene permiso para usar el puerto %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>En un terminal: %1. Después cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>¿Está enchufado el programador? Pruebe otro cable y otra toma.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>En Windows necesita su controlador: la guía indica cuál.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>No hay nada enchufado que figure en la lista.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Lo que está enchufado puede ser: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Ahora no hay ningún puerto serie.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Puertos que hay ahora: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>No existe el puerto %1.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Otro programa usa el puerto %1, por ejemplo un monitor serie: ciérrelo.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Ahí no hay nada a la escucha: ¿está iniciado el programa y es correcta la dirección?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Pulse el botón de reset de la placa justo antes.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Pruebe la otra entrada de la placa en la lista: los gestores de arranque tienen velocidades distintas.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>¿Es %1 el puerto correcto, y es el programador del tipo elegido?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>¿Está el conector en la posición correcta y tiene alimentación el chip?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>La velocidad debe ser menor que un cuarto de la frecuencia de reloj del chip: pruebe una menor.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Puede que sus fusibles pidan un reloj que no está, o que usen el pin de reset como pin normal.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Después de «Grabar»: compruebe los contactos y la alimentación, y pruebe una velocidad menor.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Un chip con los bits de bloqueo activos no muestra su contenido.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Un gestor de arranque no puede grabar los bytes de fusibles y de bloqueo. Un programador sí.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>El chip está bloqueado: «Borrar todo» lo libera, pero su contenido se pierde.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 necesita avrdude %2 o posterior; la versión instalada no lo conoce.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>La versión instalada de avrdude no conoce %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>El chip tiene la firma %1, que no figura en la lista.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>El chip dice que es: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 se programa por %2, y este programador usa %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>De la lista sirven, entre otros: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude está en los paquetes del sistema: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel busca %1. En save.json, en «avrdude», se puede indicar otro programa o una ruta completa.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Después reinicie Korvel.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Error al grabar la flash.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Error al verificar la flash.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Error al leer la flash.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Error al grabar la EEPROM.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Error al verificar la EEPROM.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Error al leer la EEPROM.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Error al grabar los bytes de fusibles.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Error al verificar los bytes de fusibles.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Error al leer los bytes de fusibles.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Error al leer el byte de calibración.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Error al borrar el chip.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>El chip difiere del archivo en la dirección %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>La grabación había empezado: puede que el chip contenga una parte del archivo.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>El chip se borró y no se grabó nada: su flash está vacía.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>No se encuentra avrdude</translation>
+        <translation>No se encuentra avrdude: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

@@ -4,6 +4,196 @@
      (bit clock). -->
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Votre compte n&apos;a pas le droit d&apos;utiliser le programmateur.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Écrivez cette ligne dans %1, puis rebranchez le programmateur :</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Votre compte n&apos;a pas le droit d&apos;utiliser le port %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>Dans un terminal : %1. Fermez ensuite votre session et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Le programmateur est-il branché ? Essayez un autre câble et une autre prise.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>Sous Windows, il a besoin de son pilote : le guide indique lequel.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Rien de ce qui est branché ne figure dans la liste.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Ce qui est branché pourrait être : %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Il n&apos;y a actuellement aucun port série.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Ports présents actuellement : %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>Le port %1 n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Un autre programme utilise le port %1, par exemple un moniteur série : fermez-le.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Rien n&apos;écoute à cet endroit : le programme est-il lancé, et l&apos;adresse est-elle la bonne ?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Appuyez juste avant sur le bouton de reset de la carte.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Essayez l&apos;autre entrée de la liste pour cette carte : la vitesse varie d&apos;un chargeur de démarrage à l&apos;autre.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>Le port %1 est-il le bon, et le programmateur est-il bien du type choisi ?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Le connecteur est-il dans le bon sens, et la puce est-elle alimentée ?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>La vitesse doit être inférieure au quart de la fréquence d&apos;horloge de la puce : essayez une vitesse plus basse.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Ses fusibles demandent peut-être une horloge absente, ou font de la broche de reset une broche ordinaire.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Après « Écrire » : vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Une puce dont les bits de verrouillage sont actifs ne montre pas son contenu.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Un chargeur de démarrage ne peut pas écrire les octets de fusibles et de verrouillage. Un programmateur le peut.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>La puce est verrouillée : « Tout effacer » la libère, mais son contenu est perdu.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 demande avrdude %2 ou plus récent ; la version installée ne le connaît pas.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>La version installée d&apos;avrdude ne connaît pas %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>La puce a la signature %1, qui ne figure pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>La puce se présente comme : %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 se programme par %2, et ce programmateur utilise %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Dans la liste conviennent, entre autres : %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude se trouve dans les paquets du système : %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel cherche %1. Un autre programme, ou un chemin complet, peut être indiqué dans save.json, sous « avrdude ».</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Redémarrez ensuite Korvel.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Échec de l&apos;écriture de la flash.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Échec de la vérification de la flash.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Échec de la lecture de la flash.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Échec de l&apos;écriture de l&apos;EEPROM.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Échec de la vérification de l&apos;EEPROM.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Échec de la lecture de l&apos;EEPROM.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Échec de l&apos;écriture des octets de fusibles.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Échec de la vérification des octets de fusibles.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Échec de la lecture des octets de fusibles.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Échec de la lecture de l&apos;octet de calibration.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Échec de l&apos;effacement de la puce.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>La puce diffère du fichier à l&apos;adresse %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>L&apos;écriture avait commencé : la puce contient peut-être une partie du fichier.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>La puce a été effacée et rien n&apos;a été écrit : sa flash est vide.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -23,7 +213,7 @@
     </message>
     <message>
         <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
-        <translation>avrdude n&apos;en a lu aucun : le microcontrôleur ne possède très probablement pas cet octet.</translation>
+        <translation>avrdude n&apos;en a lu aucun&#xa0;: le microcontrôleur ne possède très probablement pas cet octet.</translation>
     </message>
 </context>
 <context>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude introuvable</translation>
+        <translation>avrdude introuvable : </translation>
     </message>
     <message>
         <source>Programmer not found.</source>
@@ -61,11 +251,11 @@
     </message>
     <message>
         <source>Do you want to use it all the same?</source>
-        <translation>Voulez-vous l&apos;utiliser quand même ?</translation>
+        <translation>Voulez-vous l&apos;utiliser quand même&#xa0;?</translation>
     </message>
     <message>
         <source>No serial port was found for %1: the port is still %2.</source>
-        <translation>Aucun port série trouvé pour %1 : le port est toujours %2.</translation>
+        <translation>Aucun port série trouvé pour %1&#xa0;: le port est toujours %2.</translation>
     </message>
 </context>
 <context>
@@ -114,7 +304,7 @@
         <source>The chip would be erased for nothing.
 Do you want to go on all the same?</source>
         <translation>La puce serait effacée pour rien.
-Voulez-vous continuer quand même ?</translation>
+Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -141,7 +331,7 @@ Voulez-vous continuer quand même ?</translation>
     </message>
     <message>
         <source>avrdude does not take this file with the ending .%1: let its name end in %2.</source>
-        <translation>avrdude n&apos;accepte pas ce fichier avec l&apos;extension .%1 : son nom doit se terminer par %2.</translation>
+        <translation>avrdude n&apos;accepte pas ce fichier avec l&apos;extension .%1&#xa0;: son nom doit se terminer par %2.</translation>
     </message>
     <message>
         <source>The file holds no data for this memory.</source>
@@ -231,7 +421,7 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <name>FuseRequests</name>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
-        <translation>Il n&apos;y a ici aucun octet de fusibles : aucun n&apos;a été transmis.</translation>
+        <translation>Il n&apos;y a ici aucun octet de fusibles&#xa0;: aucun n&apos;a été transmis.</translation>
     </message>
 </context>
 <context>
@@ -261,7 +451,7 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>Do you want to write the fuse bytes all the same?</source>
-        <translation>Voulez-vous écrire les octets de fusibles quand même ?</translation>
+        <translation>Voulez-vous écrire les octets de fusibles quand même&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -340,11 +530,11 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
-        <translation>avrdude travaille encore sur la puce. S&apos;il est interrompu maintenant, la puce reste en l&apos;état : peut-être effacée, peut-être écrite à moitié.</translation>
+        <translation>avrdude travaille encore sur la puce. S&apos;il est interrompu maintenant, la puce reste en l&apos;état&#xa0;: peut-être effacée, peut-être écrite à moitié.</translation>
     </message>
     <message>
         <source>Do you want to close Korvel all the same?</source>
-        <translation>Voulez-vous fermer Korvel quand même ?</translation>
+        <translation>Voulez-vous fermer Korvel quand même&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -379,11 +569,11 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>The file is not there: avrdude has not written it.</source>
-        <translation>Le fichier est absent : avrdude ne l&apos;a pas écrit.</translation>
+        <translation>Le fichier est absent&#xa0;: avrdude ne l&apos;a pas écrit.</translation>
     </message>
     <message>
         <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
-        <translation>Le fichier est vide : la puce est vierge ou protégée en lecture, ou le disque est plein.</translation>
+        <translation>Le fichier est vide&#xa0;: la puce est vierge ou protégée en lecture, ou le disque est plein.</translation>
     </message>
     <message>
         <source>%1 bytes</source>
@@ -391,11 +581,11 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>Do you want to replace it?</source>
-        <translation>Voulez-vous le remplacer ?</translation>
+        <translation>Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Reading would replace this file:</source>
-        <translation>La lecture remplacerait ce fichier :</translation>
+        <translation>La lecture remplacerait ce fichier&#xa0;:</translation>
     </message>
     <message>
         <source>%1 bytes of data</source>
@@ -403,7 +593,7 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>%1 bytes of data, %2 % of the memory</source>
-        <translation>%1 octets de données, %2 % de la mémoire</translation>
+        <translation>%1 octets de données, %2&#xa0;% de la mémoire</translation>
     </message>
 </context>
 <context>
@@ -523,7 +713,7 @@ Fusibles vérifiés.</translation>
     </message>
     <message>
         <source>The name of a profile cannot hold any of these characters: %1</source>
-        <translation>Le nom d&apos;un profil ne peut contenir aucun de ces caractères : %1</translation>
+        <translation>Le nom d&apos;un profil ne peut contenir aucun de ces caractères&#xa0;: %1</translation>
     </message>
     <message>
         <source>After a restart the list calls it %1.</source>

@@ -4,6 +4,196 @@
      solo per quello del chip. -->
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>L&apos;account non ha il permesso di usare il programmatore.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Scrivere questa riga in %1 e ricollegare il programmatore:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>L&apos;account non ha il permesso di usare la porta %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>In un terminale: %1. Poi uscire dalla sessione e rientrare.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Il programmatore è collegato? Provare un altro cavo e un&apos;altra presa.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>In Windows ha bisogno del suo driver: la guida indica quale.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Non è collegato nulla di ciò che è nell&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Ciò che è collegato potrebbe essere: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Al momento non c&apos;è nessuna porta seriale.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Porte presenti al momento: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>La porta %1 non esiste.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Un altro programma usa la porta %1, per esempio un monitor seriale: chiuderlo.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Lì non c&apos;è nulla in ascolto: il programma è avviato, e l&apos;indirizzo è giusto?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Premere il pulsante di reset della scheda subito prima.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Provare l&apos;altra voce dell&apos;elenco per questa scheda: i bootloader hanno velocità diverse.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>La porta %1 è quella giusta, e il programmatore è del tipo scelto?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Il connettore è nel verso giusto, e il chip è alimentato?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>La velocità deve essere inferiore a un quarto della frequenza di clock del chip: provarne una minore.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Forse i suoi fuse richiedono un clock che manca, o usano il pin di reset come pin comune.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Dopo «Scrivi»: controllare i contatti e l&apos;alimentazione, e provare una velocità minore.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Un chip con i lock bit attivi non mostra il suo contenuto.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Un bootloader non può scrivere i byte dei fuse e dei lock bit. Un programmatore sì.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>Il chip è bloccato: «Cancella tutto» lo sblocca, ma il contenuto va perso.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 richiede avrdude %2 o più recente; la versione installata non lo conosce.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>La versione installata di avrdude non conosce %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>Il chip ha la firma %1, che non figura nell&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>Il chip si presenta come: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 si programma tramite %2, e questo programmatore usa %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Dell&apos;elenco sono adatti, tra gli altri: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude è nei pacchetti del sistema: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel cerca %1. In save.json, alla voce «avrdude», si può indicare un altro programma o un percorso completo.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Poi riavviare Korvel.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Scrittura della flash non riuscita.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Verifica della flash non riuscita.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Lettura della flash non riuscita.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Scrittura della EEPROM non riuscita.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Verifica della EEPROM non riuscita.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Lettura della EEPROM non riuscita.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Scrittura dei byte dei fuse non riuscita.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Verifica dei byte dei fuse non riuscita.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Lettura dei byte dei fuse non riuscita.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Lettura del byte di calibrazione non riuscita.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Cancellazione del chip non riuscita.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>Il chip è diverso dal file all&apos;indirizzo %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>La scrittura era iniziata: il chip può contenere una parte del file.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>Il chip è stato cancellato e non è stato scritto nulla: la sua flash è vuota.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude non trovato</translation>
+        <translation>avrdude non trovato: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

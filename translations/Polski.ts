@@ -4,6 +4,196 @@
      clock); „programować” układ, „zapisywać” ustawienia. -->
 <TS version="2.1" language="pl_PL" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Twoje konto nie ma prawa używać tego programatora.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Wpisz ten wiersz do pliku %1 i podłącz programator ponownie:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Twoje konto nie ma prawa używać portu %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>W terminalu: %1. Potem wyloguj się i zaloguj ponownie.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Czy programator jest podłączony? Spróbuj innego kabla i innego gniazda.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>W systemie Windows programator wymaga sterownika: instrukcja podaje jakiego.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Żaden programator z listy nie jest podłączony.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Podłączone może być: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Nie ma teraz żadnego portu szeregowego.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Dostępne teraz porty: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>Nie ma portu %1.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Inny program używa portu %1: zamknij go; może to być monitor portu szeregowego.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Nic tam nie nasłuchuje: czy serwer jest uruchomiony i czy adres jest właściwy?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Tuż przed operacją naciśnij przycisk reset na płytce.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Spróbuj drugiej pozycji listy dla tej płytki: bootloadery różnią się szybkością.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>Czy %1 to właściwy port i czy wybrano właściwy rodzaj programatora?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Czy wtyczka nie jest odwrócona i czy układ ma zasilanie?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>Szybkość musi być mniejsza niż jedna czwarta częstotliwości zegara układu: spróbuj mniejszej.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Fusebity układu mogą wymagać zegara, którego nie ma, albo robić z RESET zwykły pin.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Po programowaniu: sprawdź styki i zasilanie i spróbuj mniejszej szybkości.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Układ z ustawionymi lockbitami nie pokazuje swojej zawartości.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Bootloader nie może programować bajtów fuse ani lockbitów. Programator może.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>Układ jest zablokowany: „Skasuj układ” go odblokuje, ale usunie jego zawartość.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 wymaga avrdude w wersji %2 lub nowszej; zainstalowana wersja go nie zna.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>Zainstalowana wersja avrdude nie zna %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>Układ ma sygnaturę %1, której nie ma żaden mikrokontroler z listy.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>Układ podaje, że to: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 programuje się przez %2, a ten programator obsługuje %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Z listy pasują między innymi: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude jest w pakietach systemu: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel szuka programu %1. Inny program albo pełną ścieżkę można podać w save.json jako „avrdude”.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Potem uruchom Korvel ponownie.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Programowanie pamięci FLASH nie powiodło się.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Weryfikacja pamięci FLASH nie powiodła się.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Odczyt pamięci FLASH nie powiódł się.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Programowanie pamięci EEPROM nie powiodło się.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Weryfikacja pamięci EEPROM nie powiodła się.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Odczyt pamięci EEPROM nie powiódł się.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Programowanie bajtów fuse nie powiodło się.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Weryfikacja bajtów fuse nie powiodła się.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Odczyt bajtów fuse nie powiódł się.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Odczyt bajtu kalibracyjnego nie powiódł się.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Kasowanie układu nie powiodło się.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>Zawartość układu różni się od pliku pod adresem %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>Programowanie już się zaczęło: układ może zawierać część pliku.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>Układ skasowano i nic nie zapisano: jego pamięć FLASH jest pusta.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>Nie znaleziono avrdude</translation>
+        <translation>Nie znaleziono avrdude: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

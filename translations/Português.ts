@@ -4,6 +4,196 @@
      gravador para o aparelho; velocidade (bit clock); clock só para o do chip. -->
 <TS version="2.1" language="pt_BR" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>A sua conta não tem permissão para usar o gravador.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Escreva esta linha em %1 e conecte o gravador de novo:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>A sua conta não tem permissão para usar a porta %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>Em um terminal: %1. Depois saia da sessão e entre de novo.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>O gravador está conectado? Tente outro cabo e outra entrada USB.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>No Windows ele precisa do seu driver: o guia diz qual.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Nenhum gravador da lista está conectado.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>O que está conectado pode ser: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Não há nenhuma porta serial agora.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Portas disponíveis agora: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>A porta %1 não existe.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Outro programa está usando a porta %1: feche-o; pode ser um monitor serial.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Nada responde ali: o servidor foi iniciado e o endereço está certo?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Pressione o botão de reset da placa logo antes.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Tente a outra entrada da lista para a placa: os bootloaders diferem na velocidade.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>%1 é a porta certa, e o gravador é do tipo escolhido?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>O conector está na posição certa, e o chip tem alimentação?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>A velocidade deve ficar abaixo de um quarto da frequência do clock do chip: tente uma menor.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Os fuses do chip talvez exijam um clock ausente ou usem o pino de reset como pino comum.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Depois de gravar: verifique os contatos e a alimentação, e tente uma velocidade menor.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Um chip com lock bits ativos não mostra o seu conteúdo.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Um bootloader não consegue gravar os bytes de fuse nem os de lock. Um gravador consegue.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>O chip está bloqueado: “Apagar tudo” o libera, mas elimina o seu conteúdo.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 precisa do avrdude %2 ou mais recente; a versão instalada não o conhece.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>O avrdude instalado não conhece %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>O chip tem a assinatura %1, que nenhum microcontrolador da lista tem.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>O chip diz que é: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 é gravado via %2, e este gravador usa %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Da lista servem, entre outros: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>O avrdude está nos pacotes do sistema: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>O Korvel procura %1. Outro programa, ou um caminho completo, pode ser indicado no save.json, como “avrdude”.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Depois inicie o Korvel de novo.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>A gravação da FLASH falhou.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>A verificação da FLASH falhou.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>A leitura da FLASH falhou.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>A gravação da EEPROM falhou.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>A verificação da EEPROM falhou.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>A leitura da EEPROM falhou.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>A gravação dos bytes de fuse falhou.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>A verificação dos bytes de fuse falhou.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>A leitura dos bytes de fuse falhou.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>A leitura do byte de calibração falhou.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>O apagamento do chip falhou.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>O chip difere do arquivo no endereço %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>A gravação já tinha começado: o chip pode conter uma parte do arquivo.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>O chip foi apagado e nada foi gravado: a sua FLASH está vazia.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude não encontrado</translation>
+        <translation>avrdude não encontrado: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

@@ -4,6 +4,196 @@
      (bit clock). -->
 <TS version="2.1" language="tr_TR" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Hesabınızın programlayıcıyı kullanma izni yok.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Şu satırı %1 dosyasına yazın ve programlayıcıyı yeniden takın:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Hesabınızın %1 portunu kullanma izni yok.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>Terminalde: %1. Sonra oturumu kapatıp yeniden açın.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Programlayıcı takılı mı? Başka bir kablo ve başka bir USB yuvası deneyin.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>Windows&apos;ta sürücüsü gerekir: hangisi olduğu kılavuzda yazar.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Listedeki programlayıcılardan hiçbiri takılı değil.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Takılı olan şu olabilir: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Şu anda hiç seri port yok.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Şu anda var olan portlar: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>%1 portu yok.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Başka bir program %1 portunu kullanıyor: onu kapatın; örneğin bir seri monitör olabilir.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Orada dinleyen yok: sunucu başlatıldı mı, adres doğru mu?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>İşlemden hemen önce kartın reset düğmesine basın.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Listede bu kartın diğer girdisini deneyin: önyükleyicilerin hızları farklıdır.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>%1 doğru port mu, programlayıcı seçilen türden mi?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Fiş doğru yönde mi, çipin beslemesi var mı?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>Hız, çipin saat frekansının dörtte birinden düşük olmalı: daha düşük bir hız deneyin.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Çipin fuse ayarları var olmayan bir saat istiyor ya da reset bacağını sıradan bir bacak yapıyor olabilir.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Yazmadan sonra: kontakları ve beslemeyi denetleyin, daha düşük bir hız deneyin.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>Kilit bitleri etkin olan bir çip içeriğini göstermez.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Önyükleyici fuse ve kilit baytlarını yazamaz. Programlayıcı yazabilir.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>Çip kilitli: “Tümünü sil” kilidi kaldırır, ama içeriği de siler.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 için avrdude %2 ya da daha yenisi gerekir; kurulu sürüm onu tanımıyor.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>Kurulu avrdude şunu tanımıyor: %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>Çipin imzası %1; listedekilerin hiçbirinde bu imza yok.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>Çipin bildirdiği ad: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 şununla programlanır: %2; bu programlayıcının desteklediği: %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Listeden uygun olanlardan bazıları: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude sistemin paketleri arasında var: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel şu programı arar: %1. Başka bir program ya da tam yol, save.json dosyasında “avrdude” olarak verilebilir.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Sonra Korvel&apos;i yeniden başlatın.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>FLASH yazılamadı.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>FLASH doğrulanamadı.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>FLASH okunamadı.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>EEPROM yazılamadı.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>EEPROM doğrulanamadı.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>EEPROM okunamadı.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Fuse baytları yazılamadı.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Fuse baytları doğrulanamadı.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Fuse baytları okunamadı.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Kalibrasyon baytı okunamadı.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Çip silinemedi.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>Çip, %1 adresinde dosyadan farklı.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>Yazma başlamıştı: çipte dosyanın bir bölümü olabilir.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>Çip silindi ve hiçbir şey yazılmadı: FLASH belleği boş.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude bulunamadı</translation>
+        <translation>avrdude bulunamadı: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

@@ -4,6 +4,196 @@
      clock); МК - микроконтроллер. -->
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>У вашей учётной записи нет доступа к программатору.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Впишите эту строку в %1 и подключите программатор заново:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>У вашей учётной записи нет доступа к порту %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>В терминале: %1. Затем выйдите из системы и войдите снова.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Подключён ли программатор? Попробуйте другой кабель и другой разъём USB.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>В Windows ему нужен драйвер: какой именно, сказано в руководстве.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Ни один программатор из списка не подключён.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Возможно, подключено: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Сейчас нет ни одного последовательного порта.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Сейчас есть порты: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>Порта %1 нет.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Порт %1 занят другой программой, например монитором порта: закройте её.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>По этому адресу никто не принимает соединений: запущена ли там программа и верен ли адрес?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Нажмите кнопку сброса на плате непосредственно перед операцией.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Попробуйте другой пункт списка для этой платы: у загрузчиков разная скорость.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>Верен ли порт %1 и того ли типа программатор, что выбран?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Правильной ли стороной вставлен разъём и есть ли питание на МК?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>Скорость должна быть ниже четверти тактовой частоты МК: попробуйте меньшую.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Возможно, по фьюз-битам МК нужен тактовый сигнал, которого нет, или вывод сброса служит обычным выводом.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>После «Записать»: проверьте контакты и питание и попробуйте меньшую скорость.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>МК с установленными битами защиты не показывает своё содержимое.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Загрузчик не может записать фьюз-байты и байты защиты. Программатор может.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>МК защищён: «Стереть всё» снимет защиту, но удалит и содержимое.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>Для %1 нужен avrdude %2 или новее; установленная версия его не знает.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>Установленный avrdude не знает %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>Сигнатура МК — %1, такой в списке нет.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>МК сообщает, что он: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 программируется через %2, а этот программатор работает через %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Из списка подходят, например: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude есть в пакетах системы: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel ищет %1. Другую программу или полный путь можно указать в save.json, ключ &quot;avrdude&quot;.</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Затем снова запустите Korvel.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Не удалось записать Flash.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Не удалось проверить Flash.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Не удалось считать Flash.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Не удалось записать EEPROM.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Не удалось проверить EEPROM.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Не удалось считать EEPROM.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Не удалось записать фьюз-байты.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Не удалось проверить фьюз-байты.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Не удалось считать фьюз-байты.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Не удалось считать калибровочный байт.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Не удалось стереть МК.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>МК отличается от файла по адресу %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>Запись уже началась: в МК может быть только часть файла.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>МК стёрт, и ничего не записано: его Flash пуста.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude не найден</translation>
+        <translation>avrdude не найден: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

@@ -4,6 +4,196 @@
      (bit clock); МК - мікроконтролер. -->
 <TS version="2.1" language="uk_UA" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>Ваш обліковий запис не має дозволу на доступ до програматора.</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>Впишіть цей рядок у файл %1 і підключіть програматор знову:</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>Ваш обліковий запис не має дозволу на доступ до порту %1.</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>У терміналі: %1. Потім вийдіть із системи та увійдіть знову.</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>Програматор підключено? Спробуйте інший кабель та інше гніздо.</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>У Windows йому потрібен драйвер: який саме, сказано в посібнику.</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>Жодного програматора зі списку не підключено.</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>Можливо, підключено: %1.</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>Зараз немає жодного послідовного порту.</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>Доступні зараз порти: %1.</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>Порту %1 немає.</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>Порт %1 зайнято іншою програмою, наприклад монітором порту: закрийте її.</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>Там ніхто не відповідає: чи запущено сервер і чи правильна адреса?</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>Безпосередньо перед операцією натисніть кнопку скидання на платі.</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>Спробуйте інший пункт списку для цієї плати: завантажувачі різняться швидкістю.</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>Чи %1 — потрібний порт і чи вибрано правильний тип програматора?</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>Чи правильною стороною вставлено розʼєм і чи є на МК живлення?</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>Швидкість має бути нижчою за чверть тактової частоти МК: спробуйте меншу.</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>Можливо, фʼюз-біти МК вимагають тактового сигналу, якого немає, або роблять вивід скидання звичайним.</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>Після запису: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>МК зі встановленими бітами захисту не показує свого вмісту.</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>Завантажувач не може записати фʼюз-байти та байти захисту. Програматор може.</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>МК заблоковано: «Стерти все» зніме захист, але знищить його вміст.</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>Для %1 потрібен avrdude %2 або новіший; установлена версія його не знає.</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>Установлена версія avrdude не знає %1.</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>МК має сигнатуру %1, якої не має жоден МК зі списку.</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>МК повідомляє, що він: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 програмується через %2, а цей програматор підтримує %3.</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>Зі списку підходять, зокрема: %1.</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude є в пакетах системи: %1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel шукає програму %1. Іншу програму або повний шлях можна вказати в save.json як «avrdude».</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>Потім запустіть Korvel знову.</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Помилка запису FLASH.</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Помилка перевірки FLASH.</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Помилка зчитування FLASH.</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>Помилка запису EEPROM.</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>Помилка перевірки EEPROM.</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>Помилка зчитування EEPROM.</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>Помилка запису фʼюз-байтів.</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>Помилка перевірки фʼюз-байтів.</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>Помилка зчитування фʼюз-байтів.</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>Помилка зчитування калібрувального байта.</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>Помилка стирання МК.</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>Вміст МК відрізняється від файлу за адресою %1.</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>Запис уже почався: МК може містити частину файлу.</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>МК стерто, і нічого не записано: його FLASH порожня.</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -53,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude не знайдено</translation>
+        <translation>avrdude не знайдено: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

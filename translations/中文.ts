@@ -3,6 +3,196 @@
 <!-- 术语：熔丝位（fuse bit）、锁定位（lock bit）、校准字节（calibration byte）、速度（bit clock），均为国内通用说法。 -->
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>您的账户无权使用编程器。</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>请将下面这一行写入 %1，然后重新插入编程器：</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>您的账户无权使用端口 %1。</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>在终端中运行：%1。然后注销并重新登录。</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>编程器插好了吗？请换一根数据线，并换一个 USB 插口试试。</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>在 Windows 上它需要驱动程序：使用指南中说明了是哪一个。</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>没有插入列表中的任何编程器。</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>已插入的可能是：%1。</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>当前没有串口。</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>当前存在的端口：%1。</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>没有端口 %1。</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>其他程序正在使用端口 %1：请关闭该程序，例如串口监视器。</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>该地址上没有程序在监听：程序启动了吗？地址正确吗？</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>请在操作前一刻按下开发板上的复位按钮。</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>请试试列表中该开发板的另一项：不同引导程序的速度不同。</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>%1 是正确的端口吗？编程器与所选的类型一致吗？</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>插头方向正确吗？芯片有供电吗？</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>速度必须低于芯片时钟频率的四分之一：请尝试更低的速度。</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>芯片的熔丝位可能要求并不存在的时钟，或将复位引脚用作普通引脚。</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>“写入”之后：请检查接触和供电，并尝试更低的速度。</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>锁定位已设置的芯片不会显示其内容。</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>引导程序无法写入熔丝字节和锁定字节。编程器可以。</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>芯片已锁定：“全部擦除”可解除锁定，但会清除其内容。</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 需要 avrdude %2 或更新的版本；已安装的版本不支持它。</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>已安装的 avrdude 不支持 %1。</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>芯片的签名字节为 %1，列表中没有与之对应的型号。</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>芯片报告的型号为：%1。</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 通过 %2 编程，而此编程器使用 %3。</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>列表中适用的有（仅举部分）：%1。</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>系统的软件包中有 avrdude：%1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel 查找的是 %1。可在 save.json 的 &quot;avrdude&quot; 项中指定其他程序或完整路径。</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>然后重新启动 Korvel。</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Flash 写入失败。</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Flash 校验失败。</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Flash 读取失败。</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>EEPROM 写入失败。</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>EEPROM 校验失败。</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>EEPROM 读取失败。</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>熔丝字节写入失败。</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>熔丝字节校验失败。</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>熔丝字节读取失败。</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>校准字节读取失败。</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>芯片擦除失败。</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>芯片内容与文件在地址 %1 处不一致。</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>写入已经开始：芯片中可能只有文件的一部分。</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>芯片已擦除，且未写入任何内容：其 Flash 为空。</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -52,7 +242,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>找不到 avrdude</translation>
+        <translation>找不到 avrdude: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>

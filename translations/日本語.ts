@@ -3,6 +3,196 @@
 <!-- 用語：ヒューズビット（fuse bit）、ロックビット（lock bit）、校正バイト（calibration byte）、速度（bit clock）、書込器（programmer）。 -->
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>Advice</name>
+    <message>
+        <source>Your account may not use the programmer.</source>
+        <translation>お使いのアカウントには書込器を使う権限がありません。</translation>
+    </message>
+    <message>
+        <source>Write this line into %1 and plug the programmer in again:</source>
+        <translation>次の行を %1 に書き込み、書込器を接続し直してください：</translation>
+    </message>
+    <message>
+        <source>Your account may not use the port %1.</source>
+        <translation>お使いのアカウントにはポート %1 を使う権限がありません。</translation>
+    </message>
+    <message>
+        <source>In a terminal: %1. Then log out and in again.</source>
+        <translation>ターミナルで実行：%1。その後、ログアウトしてログインし直してください。</translation>
+    </message>
+    <message>
+        <source>Is the programmer plugged in? Try another cable, and another socket.</source>
+        <translation>書込器は接続されていますか？別のケーブルや別の USB 差し込み口を試してください。</translation>
+    </message>
+    <message>
+        <source>On Windows it needs its driver: the guide tells which.</source>
+        <translation>Windows では専用のドライバーが必要です。どのドライバーかはガイドに記載しています。</translation>
+    </message>
+    <message>
+        <source>Nothing is plugged in that the list has.</source>
+        <translation>一覧にある書込器は接続されていません。</translation>
+    </message>
+    <message>
+        <source>What is plugged in may be: %1.</source>
+        <translation>接続されている可能性があるもの：%1。</translation>
+    </message>
+    <message>
+        <source>There is no serial port now.</source>
+        <translation>現在、シリアルポートはありません。</translation>
+    </message>
+    <message>
+        <source>Ports that are there now: %1.</source>
+        <translation>現在あるポート：%1。</translation>
+    </message>
+    <message>
+        <source>There is no port %1.</source>
+        <translation>ポート %1 はありません。</translation>
+    </message>
+    <message>
+        <source>Another program uses the port %1: close it, such as a serial monitor.</source>
+        <translation>別のプログラムがポート %1 を使用しています。シリアルモニタなど、そのプログラムを閉じてください。</translation>
+    </message>
+    <message>
+        <source>Nothing listens there: is it started, and is that the right address?</source>
+        <translation>そのアドレスでは何も待ち受けていません。起動していますか？アドレスは正しいですか？</translation>
+    </message>
+    <message>
+        <source>Press the board&apos;s reset button just before.</source>
+        <translation>操作の直前に、ボードのリセットボタンを押してください。</translation>
+    </message>
+    <message>
+        <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
+        <translation>一覧にある、このボードのもう一方の項目を試してください。ブートローダによって速度が異なります。</translation>
+    </message>
+    <message>
+        <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
+        <translation>ポートは %1 で正しいですか？書込器は選択した種類のものですか？</translation>
+    </message>
+    <message>
+        <source>Is the plug the right way round, and does the chip have power?</source>
+        <translation>コネクタの向きは正しいですか？チップに電源が供給されていますか？</translation>
+    </message>
+    <message>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
+        <translation>速度はチップのクロック周波数の 4 分の 1 より低くする必要があります。より低い速度を試してください。</translation>
+    </message>
+    <message>
+        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
+        <translation>ヒューズビットが、供給されていないクロックを必要としているか、リセットピンを通常のピンにしている可能性があります。</translation>
+    </message>
+    <message>
+        <source>After Write: check contacts and supply, and try a lower speed.</source>
+        <translation>「書込み」の後の場合：接触と電源を確認し、より低い速度を試してください。</translation>
+    </message>
+    <message>
+        <source>A chip whose lock bits are set does not show what it holds.</source>
+        <translation>ロックビットが設定されたチップの内容は正しく読み出せません。</translation>
+    </message>
+    <message>
+        <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
+        <translation>ブートローダではヒューズバイトとロックバイトを書き込めません。書込器では書き込めます。</translation>
+    </message>
+    <message>
+        <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
+        <translation>チップはロックされています。「全消去」でロックは解除されますが、内容も消えます。</translation>
+    </message>
+    <message>
+        <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
+        <translation>%1 には avrdude %2 以降が必要です。インストールされている版は対応していません。</translation>
+    </message>
+    <message>
+        <source>The avrdude that is installed does not know %1.</source>
+        <translation>インストールされている avrdude は %1 に対応していません。</translation>
+    </message>
+    <message>
+        <source>The chip has the signature %1, which nothing in the list has.</source>
+        <translation>チップのシグネチャは %1 ですが、一覧に該当するものがありません。</translation>
+    </message>
+    <message>
+        <source>The chip says that it is: %1.</source>
+        <translation>チップが示す型番：%1。</translation>
+    </message>
+    <message>
+        <source>%1 is programmed by %2, and this programmer speaks %3.</source>
+        <translation>%1 への書き込みには %2 を使いますが、この書込器が対応するのは %3 です。</translation>
+    </message>
+    <message>
+        <source>Of the list there fit, among others: %1.</source>
+        <translation>一覧のうち使えるもの（一部）：%1。</translation>
+    </message>
+    <message>
+        <source>avrdude is in the system&apos;s packages: %1</source>
+        <translation>avrdude はシステムのパッケージにあります：%1</translation>
+    </message>
+    <message>
+        <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
+        <translation>Korvel は %1 を探します。save.json の &quot;avrdude&quot; に、別のプログラムやフルパスを指定できます。</translation>
+    </message>
+    <message>
+        <source>Then start Korvel again.</source>
+        <translation>その後、Korvel を起動し直してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Aftermath</name>
+    <message>
+        <source>Writing the flash failed.</source>
+        <translation>Flash の書き込みに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Verifying the flash failed.</source>
+        <translation>Flash の照合に失敗しました。</translation>
+    </message>
+    <message>
+        <source>Reading the flash failed.</source>
+        <translation>Flash の読み出しに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Writing the EEPROM failed.</source>
+        <translation>EEPROM の書き込みに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Verifying the EEPROM failed.</source>
+        <translation>EEPROM の照合に失敗しました。</translation>
+    </message>
+    <message>
+        <source>Reading the EEPROM failed.</source>
+        <translation>EEPROM の読み出しに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Writing the fuse bytes failed.</source>
+        <translation>ヒューズバイトの書き込みに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Verifying the fuse bytes failed.</source>
+        <translation>ヒューズバイトの照合に失敗しました。</translation>
+    </message>
+    <message>
+        <source>Reading the fuse bytes failed.</source>
+        <translation>ヒューズバイトの読み出しに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Reading the calibration byte failed.</source>
+        <translation>校正バイトの読み出しに失敗しました。</translation>
+    </message>
+    <message>
+        <source>Erasing the chip failed.</source>
+        <translation>チップの消去に失敗しました。</translation>
+    </message>
+    <message>
+        <source>The chip differs from the file at address %1.</source>
+        <translation>アドレス %1 でチップの内容がファイルと異なります。</translation>
+    </message>
+    <message>
+        <source>Writing had begun: the chip may hold a part of the file.</source>
+        <translation>書き込みは始まっていました。チップにはファイルの一部だけが入っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The chip was erased, and nothing was written: its flash is empty.</source>
+        <translation>チップは消去され、何も書き込まれていません。Flash は空です。</translation>
+    </message>
+</context>
+<context>
     <name>Attributes</name>
     <message>
         <source>MCU erased successfully.</source>
@@ -52,7 +242,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude が見つかりません</translation>
+        <translation>avrdude が見つかりません: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>
