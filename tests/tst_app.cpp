@@ -1,5 +1,7 @@
 #include "app/KorvelApp.h"
 #include "app/Startup.h"
+#include "app/log/RunBar.h"
+#include "mcu/AttributesView.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "settings/SettingsView.h"
@@ -161,6 +163,39 @@ private slots:
                               "EEPROM: Write: c.eep", "FLASH: Read: b.hex", "FLASH: Write: a.hex", "L ( lfuse ): E2",
                               "Language: Русский", "MCU: ATtiny85", "Port: usb", "Profile name: Name",
                               "Profiles: Board", "Programmer: Mine", "Speed ( New MCU -> 185kHz ): 1 kHz (-B 512)"}));
+    }
+
+    void aRunIsFollowedAndStopped()
+    {
+        const WorkFolder folder;
+        BoxAnswerer boxes;
+        KorvelApp window;
+        window.show();
+        auto* avrdude = window.findChild<Avrdude*>();
+        avrdude->settings().avrdude = STAND_IN;
+        const auto* bar = window.findChild<RunBar*>();
+        QStringList seen;
+        connect(avrdude, &Avrdude::progressed, bar,
+                [&](const QString& activity, int percent) { seen += QString("%1 %2").arg(activity).arg(percent); });
+        folder.write("half", "avrdude: erasing chip\navrdude: writing 9 bytes flash ...\n\nWriting | #############");
+        folder.write("rest", "###### | 100% 1.0s\n\navrdude: verifying flash memory against a.hex\n\nReading | ##");
+        folder.write("script", "print half\nawait go\nprint rest\nwait 60000");
+        avrdude->execute({}, [] { QFAIL("called back"); });
+        QVERIFY(!bar->isVisible());
+        QTRY_VERIFY(bar->isVisible());
+        QCOMPARE(bar->findChild<QProgressBar*>()->text(), QString("Writing 26%"));
+        const QSignalSpy turnedAway(avrdude, &Avrdude::turnedAway);
+        window.findChild<AttributesView*>()->eraseButton()->click();
+        QCOMPARE(turnedAway.count(), 1);
+        folder.write("go", "");
+        QTRY_COMPARE(bar->findChild<QProgressBar*>()->text(), QString("Verifying 4%"));
+        QCOMPARE(bar->findChild<QProgressBar*>()->accessibleName(), QString("Verifying"));
+        bar->findChild<QPushButton*>()->click();
+        QCOMPARE(boxes.wait(),
+                 QStringList {"Korvel, warning: avrdude was stopped. + Writing had begun: the chip may hold "
+                              "a part of the file."});
+        QVERIFY(!bar->isVisible() && !avrdude->isBusy());
+        QCOMPARE(folder.runs().size(), 1);
     }
 
     void closingByHand()

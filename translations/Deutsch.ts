@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Für %1 wurde kein serieller Port gefunden: Der Port ist noch %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude wurde angehalten.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ Der Weg zurück: alles löschen.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Korvel trotzdem schließen?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Prüfen</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Trotzdem löschen?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>&amp;Linkadresse kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude arbeitet</translation>
     </message>
 </context>
 <context>

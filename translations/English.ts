@@ -256,6 +256,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>No serial port was found for %1: the port is still %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude was stopped.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -534,6 +538,18 @@ The way back: erase all of it.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Do you want to close Korvel all the same?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Writing</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Reading</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verifying</translation>
     </message>
 </context>
 <context>
@@ -1107,6 +1123,17 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copy &amp;Link Location</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude is working</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>No se encontró ningún puerto serie para %1: el puerto sigue siendo %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude se ha detenido.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>¿Desea cerrar Korvel de todos modos?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Grabando</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Leyendo</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verificando</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copiar dirección del en&amp;lace</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude está trabajando</translation>
     </message>
 </context>
 <context>

@@ -11,7 +11,7 @@
     </message>
     <message>
         <source>Write this line into %1 and plug the programmer in again:</source>
-        <translation>Écrivez cette ligne dans %1, puis rebranchez le programmateur :</translation>
+        <translation>Écrivez cette ligne dans %1, puis rebranchez le programmateur&#xa0;:</translation>
     </message>
     <message>
         <source>Your account may not use the port %1.</source>
@@ -19,15 +19,15 @@
     </message>
     <message>
         <source>In a terminal: %1. Then log out and in again.</source>
-        <translation>Dans un terminal : %1. Fermez ensuite votre session et rouvrez-la.</translation>
+        <translation>Dans un terminal&#xa0;: %1. Fermez ensuite votre session et rouvrez-la.</translation>
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>Le programmateur est-il branché ? Essayez un autre câble et une autre prise.</translation>
+        <translation>Le programmateur est-il branché&#xa0;? Essayez un autre câble et une autre prise.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
-        <translation>Sous Windows, il a besoin de son pilote : le guide indique lequel.</translation>
+        <translation>Sous Windows, il a besoin de son pilote&#xa0;: le guide indique lequel.</translation>
     </message>
     <message>
         <source>Nothing is plugged in that the list has.</source>
@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>What is plugged in may be: %1.</source>
-        <translation>Ce qui est branché pourrait être : %1.</translation>
+        <translation>Ce qui est branché pourrait être&#xa0;: %1.</translation>
     </message>
     <message>
         <source>There is no serial port now.</source>
@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>Ports that are there now: %1.</source>
-        <translation>Ports présents actuellement : %1.</translation>
+        <translation>Ports présents actuellement&#xa0;: %1.</translation>
     </message>
     <message>
         <source>There is no port %1.</source>
@@ -51,11 +51,11 @@
     </message>
     <message>
         <source>Another program uses the port %1: close it, such as a serial monitor.</source>
-        <translation>Un autre programme utilise le port %1, par exemple un moniteur série : fermez-le.</translation>
+        <translation>Un autre programme utilise le port %1, par exemple un moniteur série&#xa0;: fermez-le.</translation>
     </message>
     <message>
         <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Rien n&apos;écoute à cet endroit : le programme est-il lancé, et l&apos;adresse est-elle la bonne ?</translation>
+        <translation>Rien n&apos;écoute à cet endroit&#xa0;: le programme est-il lancé, et l&apos;adresse est-elle la bonne&#xa0;?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -63,19 +63,19 @@
     </message>
     <message>
         <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
-        <translation>Essayez l&apos;autre entrée de la liste pour cette carte : la vitesse varie d&apos;un chargeur de démarrage à l&apos;autre.</translation>
+        <translation>Essayez l&apos;autre entrée de la liste pour cette carte&#xa0;: la vitesse varie d&apos;un chargeur de démarrage à l&apos;autre.</translation>
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
-        <translation>Le port %1 est-il le bon, et le programmateur est-il bien du type choisi ?</translation>
+        <translation>Le port %1 est-il le bon, et le programmateur est-il bien du type choisi&#xa0;?</translation>
     </message>
     <message>
         <source>Is the plug the right way round, and does the chip have power?</source>
-        <translation>Le connecteur est-il dans le bon sens, et la puce est-elle alimentée ?</translation>
+        <translation>Le connecteur est-il dans le bon sens, et la puce est-elle alimentée&#xa0;?</translation>
     </message>
     <message>
         <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>La vitesse doit être inférieure au quart de la fréquence d&apos;horloge de la puce : essayez une vitesse plus basse.</translation>
+        <translation>La vitesse doit être inférieure au quart de la fréquence d&apos;horloge de la puce&#xa0;: essayez une vitesse plus basse.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Après « Écrire » : vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
+        <translation>Après «&#xa0;Écrire&#xa0;»&#xa0;: vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -95,11 +95,11 @@
     </message>
     <message>
         <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
-        <translation>La puce est verrouillée : « Tout effacer » la libère, mais son contenu est perdu.</translation>
+        <translation>La puce est verrouillée&#xa0;: «&#xa0;Tout effacer&#xa0;» la libère, mais son contenu est perdu.</translation>
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
-        <translation>%1 demande avrdude %2 ou plus récent ; la version installée ne le connaît pas.</translation>
+        <translation>%1 demande avrdude %2 ou plus récent&#xa0;; la version installée ne le connaît pas.</translation>
     </message>
     <message>
         <source>The avrdude that is installed does not know %1.</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>The chip says that it is: %1.</source>
-        <translation>La puce se présente comme : %1.</translation>
+        <translation>La puce se présente comme&#xa0;: %1.</translation>
     </message>
     <message>
         <source>%1 is programmed by %2, and this programmer speaks %3.</source>
@@ -119,15 +119,15 @@
     </message>
     <message>
         <source>Of the list there fit, among others: %1.</source>
-        <translation>Dans la liste conviennent, entre autres : %1.</translation>
+        <translation>Dans la liste conviennent, entre autres&#xa0;: %1.</translation>
     </message>
     <message>
         <source>avrdude is in the system&apos;s packages: %1</source>
-        <translation>avrdude se trouve dans les paquets du système : %1</translation>
+        <translation>avrdude se trouve dans les paquets du système&#xa0;: %1</translation>
     </message>
     <message>
         <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
-        <translation>Korvel cherche %1. Un autre programme, ou un chemin complet, peut être indiqué dans save.json, sous « avrdude ».</translation>
+        <translation>Korvel cherche %1. Un autre programme, ou un chemin complet, peut être indiqué dans save.json, sous «&#xa0;avrdude&#xa0;».</translation>
     </message>
     <message>
         <source>Then start Korvel again.</source>
@@ -186,11 +186,11 @@
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
-        <translation>L&apos;écriture avait commencé : la puce contient peut-être une partie du fichier.</translation>
+        <translation>L&apos;écriture avait commencé&#xa0;: la puce contient peut-être une partie du fichier.</translation>
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
-        <translation>La puce a été effacée et rien n&apos;a été écrit : sa flash est vide.</translation>
+        <translation>La puce a été effacée et rien n&apos;a été écrit&#xa0;: sa flash est vide.</translation>
     </message>
 </context>
 <context>
@@ -243,7 +243,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude introuvable : </translation>
+        <translation>avrdude introuvable&#xa0;: </translation>
     </message>
     <message>
         <source>Programmer not found.</source>
@@ -256,6 +256,10 @@
     <message>
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Aucun port série trouvé pour %1&#xa0;: le port est toujours %2.</translation>
+    </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude a été arrêté.</translation>
     </message>
 </context>
 <context>
@@ -535,6 +539,18 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Voulez-vous fermer Korvel quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Vérification</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copier l&apos;adresse du &amp;lien</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude travaille</translation>
     </message>
 </context>
 <context>

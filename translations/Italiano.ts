@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Nessuna porta seriale trovata per %1: la porta è ancora %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude è stato fermato.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Chiudere comunque Korvel?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Scrittura</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lettura</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verifica</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Eliminarlo comunque?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copia indirizzo del co&amp;llegamento</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude sta lavorando</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Nie znaleziono portu szeregowego dla %1: wybrany port to nadal %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>Zatrzymano avrdude.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Czy mimo to zamknąć Korvel?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Programowanie</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Odczyt</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Weryfikacja</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Usunąć mimo to?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Kopiuj adres &amp;odnośnika</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Zatrzymaj</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude pracuje</translation>
     </message>
 </context>
 <context>

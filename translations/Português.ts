@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Nenhuma porta serial encontrada para %1: a porta ainda é %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>O avrdude foi parado.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Deseja fechar o Korvel mesmo assim?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Gravando</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lendo</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verificando</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Excluir mesmo assim?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Copiar &amp;endereço do link</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude está trabalhando</translation>
     </message>
 </context>
 <context>

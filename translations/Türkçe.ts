@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>%1 için seri port bulunamadı: port hâlâ %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude durduruldu.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Korvel yine de kapatılsın mı?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Yazılıyor</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Okunuyor</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Doğrulanıyor</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Yine de silinsin mi?</translation>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>&amp;Bağlantı adresini kopyala</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude çalışıyor</translation>
     </message>
 </context>
 <context>

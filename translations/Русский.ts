@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Для %1 не найден последовательный порт: выбран по-прежнему %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude остановлен.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Всё равно закрыть Korvel?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Чтение</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Проверка</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Копировать адрес &amp;ссылки</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude работает</translation>
     </message>
 </context>
 <context>

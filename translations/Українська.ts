@@ -257,6 +257,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>Для %1 не знайдено послідовного порту: досі вибрано %2.</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude зупинено.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -535,6 +539,18 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Усе одно закрити Korvel?</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Запис</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Зчитування</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Перевірка</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>Копіювати &amp;адресу посилання</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude працює</translation>
     </message>
 </context>
 <context>

@@ -256,6 +256,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>未找到 %1 的串口：端口仍为 %2。</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude 已停止。</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -534,6 +538,18 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>仍要关闭 Korvel 吗？</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>写入</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>读取</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>校验</translation>
     </message>
 </context>
 <context>
@@ -1107,6 +1123,17 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>复制链接地址(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude 正在运行</translation>
     </message>
 </context>
 <context>

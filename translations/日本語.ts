@@ -256,6 +256,10 @@
         <source>No serial port was found for %1: the port is still %2.</source>
         <translation>%1 のシリアルポートが見つかりません。ポートは %2 のままです。</translation>
     </message>
+    <message>
+        <source>avrdude was stopped.</source>
+        <translation>avrdude を停止しました。</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -534,6 +538,18 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>それでも Korvel を閉じますか？</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>書き込み中</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>読み出し中</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>照合中</translation>
     </message>
 </context>
 <context>
@@ -1107,6 +1123,17 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Copy &amp;Link Location</source>
         <translation>リンクのアドレスをコピー(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>RunBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>avrdude is working</source>
+        <translation>avrdude が動作中です</translation>
     </message>
 </context>
 <context>

@@ -298,9 +298,9 @@ Explanation Advice::explain(const FailedRun& run, const Surroundings& surroundin
     const Case of {run, surroundings, BytesModel::description(run.settings), programmer};
     if (!run.isStarted)
         return {notStarted(of), {}};
-    Explanation explanation = adviceFor(of);
-    const QString now = Aftermath::chip(run);
-    QStringList lines = QStringList {Aftermath::operation(run), now}.filter(QRegularExpression(QStringLiteral(".")));
+    Explanation explanation = run.isStopped ? Explanation() : adviceFor(of);
+    const QString operation = run.isStopped ? QString() : Aftermath::operation(run);
+    QStringList lines = QStringList {operation, Aftermath::chip(run)}.filter(QRegularExpression(QStringLiteral(".")));
     if (!lines.isEmpty() && !explanation.lines.isEmpty())
         lines += QString();
     explanation.lines = lines + explanation.lines;

@@ -6,11 +6,13 @@
 #include "advice/Surroundings.h"
 #include "app/StrayInput.h"
 #include "app/log/AvrdudeMessage.h"
+#include "app/log/RunBar.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "base/Box.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"
+#include "base/RunButton.h"
 #include "fuses/Fuses.h"
 #include "mcu/Program.h"
 #include "profiles/Profiles.h"
@@ -28,6 +30,19 @@
 namespace {
 
 constexpr QSize smallestSize(320, 240); // pixels; what does not fit is scrolled
+
+/// The word for what avrdude does, in the user's language.
+QString activityText(const QString& activity)
+{
+    static const char* const words[] = {QT_TRANSLATE_NOOP("KorvelApp", "Writing"),
+                                        QT_TRANSLATE_NOOP("KorvelApp", "Reading"),
+                                        QT_TRANSLATE_NOOP("KorvelApp", "Verifying")};
+    for (const char* word : words) {
+        if (activity == QLatin1String(word))
+            return KorvelApp::tr(word);
+    }
+    return activity;
+}
 
 void warnAboutSettings(const QString& text)
 {
@@ -89,6 +104,17 @@ KorvelApp::KorvelApp(QWidget* parent)
     connect(m_fuses, &Fuses::chipKnown, m_profiles, &Profiles::showBoard);
     connect(m_profiles, &Profiles::fusesWritten, m_fuses, &Fuses::showLegend);
     connect(m_avrdude, &Avrdude::runningChanged, this, &KorvelApp::showRunning);
+    auto* runBar = new RunBar(*m_log);
+    connect(m_avrdude, &Avrdude::runningChanged, runBar, &RunBar::setRunning);
+    connect(m_avrdude, &Avrdude::turnedAway, runBar, &RunBar::flash);
+    connect(m_avrdude, &Avrdude::progressed, runBar,
+            [runBar](const QString& activity, int percent) { runBar->setProgress(activityText(activity), percent); });
+    connect(runBar, &RunBar::shown, this, [this](bool isBusy) {
+        const auto buttons = findChildren<RunButton*>();
+        for (RunButton* button : buttons)
+            button->setBusy(isBusy);
+    });
+    connect(runBar, &RunBar::stopClicked, m_avrdude, &Avrdude::stop);
 
     if (loadSettings()) {
         refreshPanels();

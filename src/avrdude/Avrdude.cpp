@@ -8,7 +8,9 @@
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -73,10 +75,11 @@ int Avrdude::execute(const QStringList& arguments, Callback callback)
 
 int Avrdude::execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback)
 {
-    if (isBusy())
+    if (turnsAway())
         return 0;
 
-    m_run = {settings, arguments, {}, true};
+    m_run = {settings, arguments, {}, true, false};
+    m_stopped = false;
     m_process = new QProcess(this);
     m_killedOnError = false;
     m_errorDecoder.reset();
@@ -121,7 +124,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
 
 int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, Callback callback)
 {
-    if (isBusy() || !mayUsePort())
+    if (turnsAway() || !mayUsePort())
         return 0; // the files may be those of the run in progress
     const bool mayStart = isFound(m_settings.avrdude);
     m_filesOfReading.clear();
@@ -135,6 +138,43 @@ int Avrdude::executeReading(const QStringList& arguments, const QStringList& fil
         if (m_settings.generation == generation)
             callback();
     });
+}
+
+bool Avrdude::turnsAway()
+{
+    if (isBusy())
+        emit turnedAway();
+    return isBusy();
+}
+
+void Avrdude::stop()
+{
+    if (!isRunning() || m_killedOnError)
+        return;
+    m_stopped = true;
+#ifdef Q_OS_WIN
+    m_process->kill(); // a program without a window does not hear of a polite request there
+#else
+    constexpr int patience = 2000; // milliseconds
+    m_process->terminate();
+    QTimer::singleShot(patience, m_process, &QProcess::kill);
+#endif
+}
+
+void Avrdude::followProgress()
+{
+    // "Writing | ######" grows by two percent a mark. What is read for a verification is called "Reading" too, and said
+    // before.
+    constexpr int nearby = 300; // characters
+    constexpr int percentOfMark = 2;
+    static const QRegularExpression bar(QStringLiteral("(\\w+ing) \\| (#*)[^#]*$"));
+    const QString end = m_text.mid(std::max(m_outputBegin, static_cast<int>(m_text.size()) - nearby));
+    const auto found = bar.match(end);
+    if (!found.hasMatch())
+        return;
+    const bool isVerifying = end.left(found.capturedStart()).contains(QLatin1String("erifying "));
+    emit progressed(isVerifying ? QStringLiteral("Verifying") : found.captured(1),
+                    percentOfMark * static_cast<int>(found.captured(2).size()));
 }
 
 bool Avrdude::mayUsePort()
@@ -164,8 +204,9 @@ int Avrdude::addEditText()
         m_text += text;
     }
     m_messages.search(m_text, m_findings);
+    followProgress();
 
-    if (!m_killedOnError && Message::showsSilentProgrammer(errorText)) {
+    if (!m_killedOnError && !m_stopped && Message::showsSilentProgrammer(errorText)) {
         m_killedOnError = true;
         m_process->kill();
         tellFailure(QStringLiteral("AVRDUDE"), tr("Programmer not found."));
@@ -178,6 +219,7 @@ void Avrdude::tellFailure(const QString& title, const QString& message)
 {
     FailedRun run = m_run;
     run.output = output();
+    run.isStopped = m_stopped;
     const Explanation explanation = m_explain(run);
     QApplication::beep();
     Box box(QMessageBox::Warning, title, message, explanation.lines.join(QLatin1Char('\n')), QMessageBox::Ok,
@@ -195,13 +237,17 @@ void Avrdude::tellFailure(const QString& title, const QString& message)
 void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)
 {
     emit runningChanged(false);
-    if (status == QProcess::CrashExit && !m_killedOnError)
+    if (status == QProcess::CrashExit && !m_killedOnError && !m_stopped)
         tellFailure(QStringLiteral("Information"), QStringLiteral("Process avrdude error"));
 
     m_process->disconnect(this);
     m_process->deleteLater();
     m_process = nullptr;
 
+    if (m_stopped) {
+        tellFailure(ProductInfo::name, tr("avrdude was stopped."));
+        return;
+    }
     // A run that we ended has had its box, even if avrdude was quicker than the kill and exited by itself.
     if (status == QProcess::CrashExit || m_killedOnError)
         return;

@@ -61,6 +61,14 @@ public:
     /// True while avrdude runs.
     [[nodiscard]] bool isRunning() const { return m_process && m_process->state() == QProcess::Running; }
 
+    /// True during a run, for who has something to do before the next one: a call of execute() would be dropped. The
+    /// user gets a sign that the click has gone nowhere.
+    [[nodiscard]] bool turnsAway();
+
+    /// Ends the present run for the user, politely and, if that has not helped within 2 seconds, by force. Its own box
+    /// tells what the chip may hold; the callback does not run, whatever had been done.
+    void stop();
+
     /// Whether a run may go out to the record's port. Asks the user, once, when that port belongs to the programmer
     /// before and the present one has none: what is plugged in there may be another chip. What runs with the record's
     /// settings asks by itself, and does nothing when the answer is no.
@@ -85,6 +93,12 @@ signals:
     /// The user chose the microcontroller called @p name in the box of a failure.
     void partChosen(const QString& name);
 
+    /// avrdude has done @p percent of what it says to be doing, in its own words: "Writing".
+    void progressed(const QString& activity, int percent);
+
+    /// A call was dropped because of the run in progress.
+    void turnedAway();
+
     /// A run begins, or has ended in whatever way and what came of it is about to be told. Not sent when the runner
     /// goes while avrdude runs.
     void runningChanged(bool isRunning);
@@ -96,6 +110,7 @@ public slots:
 
 private:
     void tellFailure(const QString& title, const QString& message);
+    void followProgress();
     void finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback);
 
     QProcess* m_process = nullptr; ///< the current run; null when idle
@@ -105,6 +120,7 @@ private:
     Message m_messages;
     Explainer m_explain = [](const FailedRun&) { return Explanation(); };
     FailedRun m_run; ///< the current or last one, without its output
+    bool m_stopped = false; ///< by the user
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
     QString m_text; ///< the command line and the output of the current or last run, as they came
     int m_outputBegin = 0; ///< in that text

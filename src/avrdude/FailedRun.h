@@ -10,6 +10,7 @@ struct FailedRun {
     QStringList arguments; ///< of the operation, without the frame
     QString output; ///< what avrdude had printed by then
     bool isStarted = true; ///< false: there is no such program, or it did not start
+    bool isStopped = false; ///< the user ended it
 };
 
 /// What is told below the message of a failure. A plain value; all of it may be empty.

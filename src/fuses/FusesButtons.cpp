@@ -22,7 +22,7 @@ FusesButtons::FusesButtons(Avrdude& avrdude, FusesButtonsView& view, QObject* pa
 
 void FusesButtons::onClickWriteBt()
 {
-    if (m_avrdude.isBusy())
+    if (m_avrdude.turnsAway())
         return; // no box belongs over a run
     const SettingsRecord& settings = m_avrdude.settings();
     const FuseBytes bytes = settings.fusesBytes;

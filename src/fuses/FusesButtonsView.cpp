@@ -1,13 +1,15 @@
 #include "fuses/FusesButtonsView.h"
 
+#include "base/RunButton.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
 
 FusesButtonsView::FusesButtonsView(QWidget* parent)
     : QWidget(parent)
-    , m_write(new QPushButton(tr("Write"), this))
-    , m_verify(new QPushButton(tr("Verify"), this))
-    , m_read(new QPushButton(tr("Read"), this))
+    , m_write(new RunButton(tr("Write"), this))
+    , m_verify(new RunButton(tr("Verify"), this))
+    , m_read(new RunButton(tr("Read"), this))
     , m_default(new QPushButton(tr("Default"), this))
 {
     auto* layout = new QHBoxLayout(this);

@@ -2,6 +2,7 @@
 
 #include "base/ListComboBox.h"
 #include "base/RowBox.h"
+#include "base/RunButton.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,8 +19,8 @@ AttributesView::AttributesView(QWidget* parent)
     : QWidget(parent)
     , m_mcuList(new ListComboBox(ListComboBox::Width::Any, this))
     , m_autoDetect(std::make_unique<QPushButton>(tr("Auto-Detect")))
-    , m_erase(new QPushButton(tr("Erase all"), this))
-    , m_read(new QPushButton(tr("Read"), this))
+    , m_erase(new RunButton(tr("Erase all"), this))
+    , m_read(new RunButton(tr("Read"), this))
     , m_calibrationByte(new QLineEdit(this))
 {
     m_mcuList->setMaxVisibleItems(visibleItems);

@@ -93,7 +93,7 @@ void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 void Memory::startRead(Avrdude::Callback whenDone)
 {
     const MemoryRequest reading = request("r", fileToRead());
-    if (m_avrdude.isBusy() || !mayReplace(reading.file))
+    if (m_avrdude.turnsAway() || !mayReplace(reading.file))
         return;
     start(reading, reading.arguments(), [this, file = reading.file, whenDone = std::move(whenDone)] {
         m_lastRead = file;
@@ -182,7 +182,7 @@ QString Memory::describe(const QString& path) const
 
 void Memory::start(const MemoryRequest& request, const QStringList& arguments, Avrdude::Callback whenDone)
 {
-    if (m_avrdude.isBusy())
+    if (m_avrdude.turnsAway())
         return; // no box belongs over a run
     if (FileCheck::passes(&m_view, m_avrdude.settings(), request))
         m_avrdude.execute(arguments, std::move(whenDone));

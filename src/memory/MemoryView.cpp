@@ -1,9 +1,10 @@
 #include "memory/MemoryView.h"
 
+#include "base/RunButton.h"
+
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -39,8 +40,8 @@ MemoryView::Row MemoryView::makeRow(const QString& memory, const QString& action
     const Row row {
         new PathField(this),
         new QPushButton(QStringLiteral("..."), this),
-        new QPushButton(action, this),
-        new QPushButton(tr("Verify"), this),
+        new RunButton(action, this),
+        new RunButton(tr("Verify"), this),
     };
     row.path->setAccessibleName(memory + QLatin1String(": ") + action);
     row.browse->setAccessibleName(dialogTitle);

@@ -266,7 +266,7 @@ void ProfilesPresenter::updateWriteButton()
 void ProfilesPresenter::startWriting()
 {
     const bool isNewBoard = !m_avrdude.isBusy();
-    if (!isNewBoard && !m_board.isRunning)
+    if (!m_board.isRunning && m_avrdude.turnsAway())
         return; // it is something else that is running
 
     // In the middle of a writing the first of these steps is dropped, as something runs, and an area that had nothing
