@@ -51,6 +51,8 @@ private:
             programmer,
             QJsonDocument::fromJson(WorkFolder::read("programmer/" + programmer + ".json"))["id"].toString()};
         run.settings.port = "/dev/ttyUSB0";
+        run.settings.arguments =
+            QJsonDocument::fromJson(WorkFolder::read("programmer/" + programmer + ".json"))["arguments"].toString();
         Surroundings surroundings;
         const QStringList words = around.split(' ');
         surroundings.system = words[0] == "Windows" ? Surroundings::System::Windows : Surroundings::System::Linux;

@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Dann Korvel neu starten.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Den Programmer abziehen und wieder anstecken und andere Programme schließen, die ihn benutzen.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -132,6 +132,10 @@
         <source>Then start Korvel again.</source>
         <translation>Then start Korvel again.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Unplug the programmer and plug it in again, and close other programs that may use it.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Después reinicie Korvel.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Desconecte el programador, vuelva a conectarlo y cierre otros programas que puedan usarlo.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Redémarrez ensuite Korvel.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Débranchez le programmateur, rebranchez-le et fermez les autres programmes qui l&apos;utilisent peut-être.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

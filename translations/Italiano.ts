@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Poi riavviare Korvel.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Scollegare e ricollegare il programmatore e chiudere gli altri programmi che potrebbero usarlo.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Potem uruchom Korvel ponownie.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Odłącz programator, podłącz go ponownie i zamknij inne programy, które mogą go używać.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

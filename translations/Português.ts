@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Depois inicie o Korvel de novo.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Desconecte o gravador, conecte-o de novo e feche outros programas que possam usá-lo.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

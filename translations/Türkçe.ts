@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Sonra Korvel&apos;i yeniden başlatın.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Programlayıcıyı çıkarıp yeniden takın ve onu kullanıyor olabilecek diğer programları kapatın.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Затем снова запустите Korvel.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Отключите программатор, подключите его снова и закройте другие программы, которые могут его использовать.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

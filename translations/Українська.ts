@@ -133,6 +133,10 @@
         <source>Then start Korvel again.</source>
         <translation>Потім запустіть Korvel знову.</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>Відʼєднайте програматор, підʼєднайте його знову і закрийте інші програми, які можуть ним користуватися.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

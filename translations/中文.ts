@@ -132,6 +132,10 @@
         <source>Then start Korvel again.</source>
         <translation>然后重新启动 Korvel。</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>请拔下编程器后重新插入，并关闭可能占用它的其他程序。</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -132,6 +132,10 @@
         <source>Then start Korvel again.</source>
         <translation>その後、Korvel を起動し直してください。</translation>
     </message>
+    <message>
+        <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
+        <translation>書込器を抜き差しし、使用している可能性のある他のプログラムを終了してください。</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

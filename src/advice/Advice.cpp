@@ -46,47 +46,85 @@ bool fits(const QStringList& some, const QStringList& others)
     return std::any_of(some.begin(), some.end(), [&others](const QString& one) { return others.contains(one); });
 }
 
+/// The first programmers of the catalogue of which @p list has one of @p wanted, by name.
+QString programmersWith(QStringList ProgrammerEntry::*list, const QStringList& wanted)
+{
+    constexpr int some = 4;
+    QStringList names;
+    const auto all = SettingsModel().programmerList();
+    for (const QString& name : all) {
+        if (fits(SettingsModel::programmerEntry(name).*list, wanted))
+            names += name;
+    }
+    names.sort();
+    return join(names.mid(0, some));
+}
+
+/// The first line in which avrdude tells of an error, else of a trouble, in quotation marks.
+QStringList quote(const Case& of)
+{
+    for (const char* seen :
+         {"^(?!.*warning).*error.*$", "^.*(can't|cannot|could not|failed|invalid|unknown|not found).*$"}) {
+        const QRegularExpression line(QLatin1String(seen),
+                                      QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
+        const QString found = line.match(of.run.output).captured().trimmed();
+        if (!found.isEmpty())
+            return {QLatin1Char('"') + found + QLatin1Char('"')};
+    }
+    return {};
+}
+
+bool isUsb(const Case& of)
+{
+    return Advice::portOf(of.run).startsWith(QLatin1String("usb"));
+}
+
+QStringList heldProgrammer()
+{
+    return {say(QT_TRANSLATE_NOOP(
+        "Advice", "Unplug the programmer and plug it in again, and close other programs that may use it."))};
+}
+
 QStringList usbPermission(const Case& of)
 {
     QStringList lines {say(QT_TRANSLATE_NOOP("Advice", "Your account may not use the programmer."))};
     if (of.around.system != Surroundings::System::Linux || of.programmer.usb.isEmpty())
         return lines;
-    const QStringList numbers = of.programmer.usb.constFirst().split(QLatin1Char(':'));
+    QString device = of.programmer.usb.constFirst();
+    for (const QString& present : of.around.usbDevices) {
+        if (of.programmer.usb.contains(present))
+            device = present;
+    }
     lines += say(QT_TRANSLATE_NOOP("Advice", "Write this line into %1 and plug the programmer in again:"))
                  .arg(QStringLiteral("/etc/udev/rules.d/60-korvel.rules"));
     lines += QStringLiteral("SUBSYSTEM==\"usb\", ATTR{idVendor}==\"%1\", ATTR{idProduct}==\"%2\", TAG+=\"uaccess\"")
-                 .arg(numbers.value(0), numbers.value(1));
+                 .arg(device.section(QLatin1Char(':'), 0, 0), device.section(QLatin1Char(':'), 1));
     return lines;
 }
 
 QStringList portPermission(const Case& of)
 {
     QStringList lines {
-        say(QT_TRANSLATE_NOOP("Advice", "Your account may not use the port %1.")).arg(of.run.settings.port)};
-    if (!of.around.portGroup.isEmpty())
+        say(QT_TRANSLATE_NOOP("Advice", "Your account may not use the port %1.")).arg(Advice::portOf(of.run))};
+    if (!of.around.portGroup.isEmpty() && of.around.portGroup != QLatin1String("root"))
         lines += say(QT_TRANSLATE_NOOP("Advice", "In a terminal: %1. Then log out and in again."))
-                     .arg(QStringLiteral("sudo adduser $USER ") + of.around.portGroup);
+                     .arg(QStringLiteral("sudo usermod -aG %1 $USER").arg(of.around.portGroup));
     return lines;
 }
 
 QStringList usbMissing(const Case& of)
 {
+    if (fits(of.programmer.usb, of.around.usbDevices))
+        return usbPermission(of); // it is there
     QStringList lines {
         say(QT_TRANSLATE_NOOP("Advice", "Is the programmer plugged in? Try another cable, and another socket."))};
     if (of.around.system == Surroundings::System::Windows)
         lines += say(QT_TRANSLATE_NOOP("Advice", "On Windows it needs its driver: the guide tells which."));
     if (!of.around.knowsUsb)
         return lines;
-    QStringList present;
-    for (const QString& name : SettingsModel().programmerList()) {
-        if (fits(SettingsModel::programmerEntry(name).usb, of.around.usbDevices))
-            present += name;
-    }
-    present.sort();
-    constexpr int some = 4;
-    lines += present.isEmpty()
-        ? say(QT_TRANSLATE_NOOP("Advice", "Nothing is plugged in that the list has."))
-        : say(QT_TRANSLATE_NOOP("Advice", "What is plugged in may be: %1.")).arg(join(present.mid(0, some)));
+    const QString present = programmersWith(&ProgrammerEntry::usb, of.around.usbDevices);
+    lines += present.isEmpty() ? say(QT_TRANSLATE_NOOP("Advice", "Nothing is plugged in that the list has."))
+                               : say(QT_TRANSLATE_NOOP("Advice", "What is plugged in may be: %1.")).arg(present);
     return lines;
 }
 
@@ -99,13 +137,20 @@ QString presentPorts(const Case& of)
 
 QStringList portMissing(const Case& of)
 {
-    return {say(QT_TRANSLATE_NOOP("Advice", "There is no port %1.")).arg(of.run.settings.port), presentPorts(of)};
+    return {say(QT_TRANSLATE_NOOP("Advice", "There is no port %1.")).arg(Advice::portOf(of.run)), presentPorts(of)};
+}
+
+QStringList portFailed(const Case& of)
+{
+    return quote(of) + QStringList {presentPorts(of)}; // the system's own words may be in any language
 }
 
 QStringList portBusy(const Case& of)
 {
+    if (isUsb(of))
+        return heldProgrammer();
     return {say(QT_TRANSLATE_NOOP("Advice", "Another program uses the port %1: close it, such as a serial monitor."))
-                .arg(of.run.settings.port)};
+                .arg(Advice::portOf(of.run))};
 }
 
 QStringList portRefused(const Case&)
@@ -119,8 +164,10 @@ QStringList noAnswer(const Case& of)
         return {say(QT_TRANSLATE_NOOP("Advice", "Press the board's reset button just before.")),
                 say(QT_TRANSLATE_NOOP("Advice",
                                       "Try the other entry for the board in the list: boot loaders differ in speed."))};
+    if (isUsb(of))
+        return heldProgrammer();
     return {say(QT_TRANSLATE_NOOP("Advice", "Is %1 the right port, and the programmer of the kind that is chosen?"))
-                .arg(of.run.settings.port),
+                .arg(Advice::portOf(of.run)),
             presentPorts(of)};
 }
 
@@ -175,24 +222,26 @@ struct Row {
 };
 
 constexpr Row rows[] = {
-    {"(can'?t|cannot|could not|unable to) open (port|device) \"?(/dev/|COM).*(permission denied|not permitted)",
-     portPermission},
-    {"permission denied|access denied|insufficient permission|error_access|not permitted", usbPermission},
-    {"(resource busy|access is denied|in use)", portBusy},
+    {"is not (readable|writeable)|open (input|output) file", quote},
+    {"(/dev/\\S+?|COM\\d+)\"?: (permission denied|operation not permitted)", portPermission},
+    {"permission denied|access denied|insufficient permission|inappropriate permission|error_access|not permitted",
+     usbPermission},
+    {"resource busy|access is denied|driver is not in use", portBusy},
     {"connection refused|connect failed", portRefused},
-    {"(can'?t|cannot|could not|unable to) open (port|device) \"?\\S+\"?: (no such|the system cannot find)",
-     portMissing},
-    {"not find usb|no matching usb device|did not find any|no device found|cannot open ftdi|usb device .*not found|"
-     "avrftdi_open|not find usbtiny",
+    {"(/dev/\\S+?|COM\\d+)\"?: (no such|the system cannot find)", portMissing},
+    {"(cannot|can't) open (port|device) ", portFailed},
+    {"not find (usb|pickit|device with)|no matching usb device|did not find any|no device found|cannot open ftdi|"
+     "usb device .*not found|usb_open|avrftdi_open|open programmer \\S+ on port usb|open port usb",
      usbMissing},
     {"part \"?\\S+\"? not found|valid parts are", unknownPart},
     {"find programmer id", unknownProgrammer},
-    {"not in sync|not responding|failed to synchronize|getsync\\(\\)|timeout", noAnswer},
-    {"device is locked", lockedChip},
-    {"mismatch|verification error", mismatch},
-    {"initialization failed|no device$|target does(n't| not) answer|target doesn|invalid device signature|"
-     "signature = (0x|)(ff ?ff ?ff|00 ?00 ?00)",
+    {"device is locked|for device to unlock", lockedChip},
+    {"initialization failed|no device\\r?$|target does(n't| not) answer|invalid device signature|"
+     "responding to program enable|device not responding|signature = (0x|)(ff ?ff ?ff|00 ?00 ?00)",
      noChip},
+    {"not in sync|not responding|failed to synchronize|getsync\\(\\)|\\(\\): timeout|error: timeout|timeout/error",
+     noAnswer},
+    {"mismatch|verification error", mismatch},
 };
 
 /// The three bytes that avrdude has read, "1E 94 03"; empty when it has read none that a chip can have.
@@ -201,8 +250,9 @@ QString signatureIn(const QString& output)
     static const QRegularExpression read(
         QStringLiteral("signature = (?:0x)?([0-9a-f]{2}) ?([0-9a-f]{2}) ?([0-9a-f]{2})"),
         QRegularExpression::CaseInsensitiveOption);
-    const QStringList bytes = read.match(output).capturedTexts().mid(1);
-    const QString signature = bytes.join(QLatin1Char(' ')).toUpper();
+    QString signature;
+    for (auto found = read.globalMatch(output); found.hasNext();) // avrdude tries again: the last one counts
+        signature = found.next().capturedTexts().mid(1).join(QLatin1Char(' ')).toUpper();
     const bool isNone = signature == QLatin1String("FF FF FF") || signature == QLatin1String("00 00 00");
     return isNone ? QString() : signature;
 }
@@ -227,26 +277,10 @@ QStringList wrongInterface(const Case& of)
     const QStringList spoken = of.programmer.interfaces;
     if (needed.isEmpty() || spoken.isEmpty() || of.isBootLoader() || fits(needed, spoken))
         return {};
-    QStringList fitting;
-    for (const QString& name : SettingsModel().programmerList()) {
-        if (fits(SettingsModel::programmerEntry(name).interfaces, needed))
-            fitting += name;
-    }
-    fitting.sort();
-    constexpr int some = 4;
-    return {
-        say(QT_TRANSLATE_NOOP("Advice", "%1 is programmed by %2, and this programmer speaks %3."))
-            .arg(of.run.settings.mcuName, join(needed), join(spoken)),
-        say(QT_TRANSLATE_NOOP("Advice", "Of the list there fit, among others: %1.")).arg(join(fitting.mid(0, some)))};
-}
-
-/// The first line in which avrdude tells of an error.
-QString firstError(const QString& output)
-{
-    static const QRegularExpression error(
-        QStringLiteral("^.*(error|can't|cannot|could not|failed|invalid|unknown|not found).*$"),
-        QRegularExpression::MultilineOption | QRegularExpression::CaseInsensitiveOption);
-    return error.match(output).captured().trimmed();
+    return {say(QT_TRANSLATE_NOOP("Advice", "%1 is programmed by %2, and this programmer speaks %3."))
+                .arg(of.run.settings.mcuName, join(needed), join(spoken)),
+            say(QT_TRANSLATE_NOOP("Advice", "Of the list there fit, among others: %1."))
+                .arg(programmersWith(&ProgrammerEntry::interfaces, needed))};
 }
 
 QStringList notStarted(const Case& of)
@@ -266,26 +300,26 @@ QStringList notStarted(const Case& of)
 Explanation adviceFor(const Case& of)
 {
     const QString& output = of.run.output;
+    const auto has = [&output](const char* seen) {
+        return output.contains(QRegularExpression(
+            QLatin1String(seen), QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption));
+    };
     const QString signature = signatureIn(output);
-    if (output.contains(QLatin1String("xpected signature for")) && !signature.isEmpty())
+    if (has("expected signature for") && !signature.isEmpty())
         return otherChip(signature);
-    const bool isFuses = of.run.arguments.join(QLatin1Char(' '))
-                             .contains(QRegularExpression(QStringLiteral("-U ?\\w*(fuse|lock)\\w*:w")));
-    if (isFuses && of.isBootLoader() && !signature.isEmpty())
+    const auto* const row =
+        std::find_if(std::begin(rows), std::end(rows), [&has](const Row& candidate) { return has(candidate.seen); });
+    const auto advice = row == std::end(rows) ? quote : row->advice;
+    static const QRegularExpression fuseWrite(QStringLiteral("-U ?\\w*(fuse|lock)\\w*:w"));
+    const bool isFuses = of.run.arguments.join(QLatin1Char(' ')).contains(fuseWrite);
+    if (isFuses && of.isBootLoader() && (advice == quote || advice == mismatch))
         return {fuseWithBootLoader(of), {}};
-    const auto* const row = std::find_if(std::begin(rows), std::end(rows), [&output](const Row& candidate) {
-        return output.contains(
-            QRegularExpression(QLatin1String(candidate.seen),
-                               QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption));
-    });
-    const bool isReached = row == std::end(rows) || row->advice == noChip; // the programmer, but not the chip
-    const QStringList other = isReached ? wrongInterface(of) : QStringList();
-    if (!other.isEmpty())
-        return {other, {}};
-    if (row != std::end(rows))
-        return {row->advice(of), {}};
-    const QString line = firstError(output);
-    return {line.isEmpty() ? QStringList() : QStringList {QLatin1Char('"') + line + QLatin1Char('"')}, {}};
+    if (advice == noChip || has("read operation not supported|does not support|unable to read signature")) {
+        const QStringList other = wrongInterface(of);
+        if (!other.isEmpty())
+            return {other, {}};
+    }
+    return {advice(of), {}};
 }
 
 } // namespace
@@ -300,9 +334,23 @@ Explanation Advice::explain(const FailedRun& run, const Surroundings& surroundin
         return {notStarted(of), {}};
     Explanation explanation = run.isStopped ? Explanation() : adviceFor(of);
     const QString operation = run.isStopped ? QString() : Aftermath::operation(run);
-    QStringList lines = QStringList {operation, Aftermath::chip(run)}.filter(QRegularExpression(QStringLiteral(".")));
+    QStringList lines {operation, Aftermath::chip(run, of.isBootLoader())};
+    lines.removeAll({});
     if (!lines.isEmpty() && !explanation.lines.isEmpty())
         lines += QString();
     explanation.lines = lines + explanation.lines;
     return explanation;
+}
+
+QString Advice::portOf(const FailedRun& run)
+{
+    const QStringList arguments = run.settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    QString port = run.settings.port;
+    for (int i = 0; i < arguments.size(); ++i) {
+        if (arguments.at(i) == QLatin1String("-P"))
+            port = arguments.value(i + 1);
+        else if (arguments.at(i).startsWith(QLatin1String("-P")))
+            port = arguments.at(i).mid(2);
+    }
+    return port;
 }

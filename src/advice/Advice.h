@@ -11,4 +11,7 @@ namespace Advice {
 /// in which avrdude tells of an error. Reads descriptions and the catalogue, and takes as long as that takes.
 [[nodiscard]] Explanation explain(const FailedRun& run, const Surroundings& surroundings);
 
+/// The port that @p run went out to: the last that avrdude was given counts.
+[[nodiscard]] QString portOf(const FailedRun& run);
+
 } // namespace Advice

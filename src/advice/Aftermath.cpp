@@ -53,26 +53,28 @@ QString Aftermath::operation(const FailedRun& run)
                                                        : QString();
 }
 
-QString Aftermath::chip(const FailedRun& run)
+QString Aftermath::chip(const FailedRun& run, bool isBootLoader)
 {
     const QString& output = run.output;
     const bool isMemory =
         run.arguments.join(QLatin1Char(' ')).contains(QRegularExpression(QStringLiteral("-U (flash|eeprom):")));
-    // "device 0xff != input 0x00 at addr 0x0012" from 7.1 on, "first mismatch at byte 0x0012" before.
-    static const QRegularExpression mismatch(QStringLiteral("(?: at addr|mismatch at byte) (0x[0-9a-fA-F]+)"));
+    // "device 0xff != input 0x00 at addr 0x0012 (error)" from 7.1 on, "first mismatch at byte 0x0012" before.
+    static const QRegularExpression mismatch(
+        QStringLiteral(" at addr (0x[0-9a-fA-F]+) \\(error\\)|mismatch at byte (0x[0-9a-fA-F]+)"));
     const auto differs = mismatch.match(output);
     if (differs.hasMatch() && isMemory)
         return say(QT_TRANSLATE_NOOP("Aftermath", "The chip differs from the file at address %1."))
-            .arg(differs.captured(1));
+            .arg(differs.captured(1) + differs.captured(2));
     static const QRegularExpression writing(
         QStringLiteral("writing (\\d+ bytes? )?(flash|eeprom)\\b|Writing \\d+ bytes? to (flash|eeprom)\\b"));
     static const QRegularExpression written(QStringLiteral("bytes? of (flash|eeprom) written|\\d+ bytes? written"));
     if (output.contains(writing) && !output.contains(written))
         return say(QT_TRANSLATE_NOOP("Aftermath", "Writing had begun: the chip may hold a part of the file."));
-    static const QRegularExpression erasing(QStringLiteral("^(avrdude: )?[Ee]rasing chip"),
-                                            QRegularExpression::MultilineOption);
-    static const QRegularExpression notErased(QStringLiteral("eras\\w* (failed|not)|(cannot|unable to) erase"));
-    if (output.contains(erasing) && !output.contains(notErased) && !output.contains(written))
+    // That it erases, avrdude says before it does. What it says of the file is said after it has.
+    static const QRegularExpression erased(QStringLiteral("^(avrdude: )?[Ee]rasing chip\\r?$.*(file|record|section)"),
+                                           QRegularExpression::MultilineOption
+                                               | QRegularExpression::DotMatchesEverythingOption);
+    if (output.contains(erased) && !output.contains(written) && !isBootLoader)
         return say(QT_TRANSLATE_NOOP("Aftermath", "The chip was erased, and nothing was written: its flash is empty."));
     return {};
 }

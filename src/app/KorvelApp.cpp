@@ -96,7 +96,7 @@ KorvelApp::KorvelApp(QWidget* parent)
 
     new StrayInput(this);
     m_avrdude->setExplainer(
-        [](const FailedRun& run) { return Advice::explain(run, Surroundings::now(run.settings.port)); });
+        [](const FailedRun& run) { return Advice::explain(run, Surroundings::now(Advice::portOf(run))); });
     connect(m_avrdude, &Avrdude::partChosen, m_program, &Program::chooseMcu);
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);

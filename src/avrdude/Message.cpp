@@ -140,9 +140,13 @@ bool Message::checkFailedRun(const QString& output) const
 bool Message::checkSilentChip(const QString& output) const
 {
     static const QRegularExpression silent(
-        QStringLiteral("initialization failed|no device$|target does(n't| not) answer|program enable: target"),
+        QStringLiteral("initialization failed|no device\\r?$|target does(n't| not) answer|program enable: target|"
+                       "nvalid device signature"),
         QRegularExpression::MultilineOption);
-    static const QRegularExpression signature(QStringLiteral("[Dd]evice signature = "));
+    // Nothing but ones or zeros is what lines read that nobody drives.
+    static const QRegularExpression signature(
+        QStringLiteral("device signature = (0x)?(?!(0x)?(ff ?ff ?ff|00 ?00 ?00))[0-9a-f]"),
+        QRegularExpression::CaseInsensitiveOption);
     if (!output.contains(silent) || output.contains(signature))
         return false;
     m_tell(tr(noTarget));
