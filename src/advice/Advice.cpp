@@ -164,7 +164,8 @@ QStringList noAnswer(const Case& of)
         return {say(QT_TRANSLATE_NOOP("Advice", "Press the board's reset button just before.")),
                 say(QT_TRANSLATE_NOOP("Advice",
                                       "Try the other entry for the board in the list: boot loaders differ in speed."))};
-    if (isUsb(of))
+    const bool hasAnswered = of.run.output.contains(QLatin1String("ready to accept instructions"));
+    if (isUsb(of) || hasAnswered)
         return heldProgrammer();
     return {say(QT_TRANSLATE_NOOP("Advice", "Is %1 the right port, and the programmer of the kind that is chosen?"))
                 .arg(Advice::portOf(of.run)),

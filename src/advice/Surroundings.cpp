@@ -35,8 +35,10 @@ Surroundings Surroundings::now(const QString& port)
     found.system = System::Windows;
 #endif
     const auto ports = systemSerialPorts();
-    for (const SerialPort& serial : ports)
-        found.serialPorts += serial.name;
+    for (const SerialPort& serial : ports) {
+        if (!serial.name.startsWith(QLatin1String("ttyS"))) // built in, and mostly without a plug
+            found.serialPorts += serial.name;
+    }
     found.portGroup = QFileInfo(port).group();
     return found;
 }

@@ -11,7 +11,7 @@ struct Surroundings {
     System system = System::Other;
     bool knowsUsb = false; ///< whether the system tells what is plugged in
     QStringList usbDevices; ///< vendor and product numbers of what is plugged in, "16c0:05dc"
-    QStringList serialPorts; ///< as the list of ports shows them
+    QStringList serialPorts; ///< names of those that a programmer may be at
     QString portGroup; ///< group that owns the port which was used; empty: not known
 
     /// The present ones, for a run that used @p port.
