@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#ifdef Q_OS_LINUX
 namespace {
 
 /// The content of a small file of the system's.
@@ -16,6 +17,7 @@ QString textOf(const QString& path)
 }
 
 } // namespace
+#endif
 
 Surroundings Surroundings::now(const QString& port)
 {
