@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Den Programmer abziehen und wieder anstecken und andere Programme schließen, die ihn benutzen.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Ordner, in denen danach gesucht wird: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -136,6 +136,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Unplug the programmer and plug it in again, and close other programs that may use it.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Folders that are searched for it: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Desconecte el programador, vuelva a conectarlo y cierre otros programas que puedan usarlo.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Carpetas en las que se busca: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

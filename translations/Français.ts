@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Débranchez le programmateur, rebranchez-le et fermez les autres programmes qui l&apos;utilisent peut-être.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Dossiers où il est cherché : %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

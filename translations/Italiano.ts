@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Scollegare e ricollegare il programmatore e chiudere gli altri programmi che potrebbero usarlo.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Cartelle in cui viene cercato: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

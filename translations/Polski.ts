@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Odłącz programator, podłącz go ponownie i zamknij inne programy, które mogą go używać.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Przeszukiwane foldery: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Desconecte o gravador, conecte-o de novo e feche outros programas que possam usá-lo.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Pastas em que é procurado: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Programlayıcıyı çıkarıp yeniden takın ve onu kullanıyor olabilecek diğer programları kapatın.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Arandığı klasörler: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Отключите программатор, подключите его снова и закройте другие программы, которые могут его использовать.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Папки, в которых он ищется: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -137,6 +137,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>Відʼєднайте програматор, підʼєднайте його знову і закрийте інші програми, які можуть ним користуватися.</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>Теки, у яких його шукають: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -136,6 +136,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>请拔下编程器后重新插入，并关闭可能占用它的其他程序。</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>在以下文件夹中查找：%1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -136,6 +136,10 @@
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
         <translation>書込器を抜き差しし、使用している可能性のある他のプログラムを終了してください。</translation>
     </message>
+    <message>
+        <source>Folders that are searched for it: %1</source>
+        <translation>検索するフォルダ: %1</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -158,12 +158,32 @@ QStringList portRefused(const Case&)
     return {say(QT_TRANSLATE_NOOP("Advice", "Nothing listens there: is it started, and is that the right address?"))};
 }
 
+/// The other entries of the catalogue that speak the same language.
+QStringList entriesLike(const Case& of)
+{
+    QStringList names;
+    const auto all = SettingsModel().programmerList();
+    for (const QString& name : all) {
+        if (SettingsModel::programmerEntry(name).id == of.programmer.id && name != of.run.settings.programmer.name)
+            names += name;
+    }
+    names.sort();
+    return names;
+}
+
+/// What is appended to a sentence that it makes concrete.
+QString inBrackets(const QString& text)
+{
+    return text.isEmpty() ? text : QStringLiteral(" (%1)").arg(text);
+}
+
 QStringList noAnswer(const Case& of)
 {
     if (of.isBootLoader())
         return {say(QT_TRANSLATE_NOOP("Advice", "Press the board's reset button just before.")),
                 say(QT_TRANSLATE_NOOP("Advice",
-                                      "Try the other entry for the board in the list: boot loaders differ in speed."))};
+                                      "Try the other entry for the board in the list: boot loaders differ in speed."))
+                    + inBrackets(join(entriesLike(of)))};
     const bool hasAnswered = of.run.output.contains(QLatin1String("ready to accept instructions"));
     if (isUsb(of) || hasAnswered)
         return heldProgrammer();
@@ -172,11 +192,12 @@ QStringList noAnswer(const Case& of)
             presentPorts(of)};
 }
 
-QStringList noChip(const Case&)
+QStringList noChip(const Case& of)
 {
     return {
         say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
-        say(QT_TRANSLATE_NOOP("Advice", "The speed has to be below a quarter of the chip's clock: try a lower one.")),
+        say(QT_TRANSLATE_NOOP("Advice", "The speed has to be below a quarter of the chip's clock: try a lower one."))
+            + inBrackets(of.run.settings.speed.section(QStringLiteral(" ("), 0, 0)),
         say(QT_TRANSLATE_NOOP("Advice",
                               "Its fuses may ask for a clock that is not there, or use the reset pin as an "
                               "ordinary one."))};
@@ -294,6 +315,8 @@ QStringList notStarted(const Case& of)
                                    "Korvel looks for %1. Another program, or a whole path, may stand in save.json, as "
                                    "\"avrdude\"."))
                  .arg(of.run.settings.avrdude);
+    if (!of.run.settings.avrdude.contains(QLatin1Char('/')) && !of.around.searchPath.isEmpty())
+        lines += say(QT_TRANSLATE_NOOP("Advice", "Folders that are searched for it: %1")).arg(of.around.searchPath);
     lines += say(QT_TRANSLATE_NOOP("Advice", "Then start Korvel again."));
     return lines;
 }

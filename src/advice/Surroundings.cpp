@@ -41,6 +41,7 @@ Surroundings Surroundings::now(const QString& port)
         if (!serial.name.startsWith(QLatin1String("ttyS"))) // built in, and mostly without a plug
             found.serialPorts += serial.name;
     }
+    found.searchPath = qEnvironmentVariable("PATH");
     found.portGroup = QFileInfo(port).group();
     return found;
 }

@@ -12,6 +12,7 @@ struct Surroundings {
     bool knowsUsb = false; ///< whether the system tells what is plugged in
     QStringList usbDevices; ///< vendor and product numbers of what is plugged in, "16c0:05dc"
     QStringList serialPorts; ///< names of those that a programmer may be at
+    QString searchPath; ///< folders in which the system looks for programs
     QString portGroup; ///< group that owns the port which was used; empty: not known
 
     /// The present ones, for a run that used @p port.
