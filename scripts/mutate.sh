@@ -2,11 +2,11 @@
 # Tells how good the tests are: puts the faults of scripts/mutations.txt into a copy of the sources, one at a time,
 # builds, and runs the tests. mutate.sh [NUMBER...] tries these faults only; mutate.sh --list tells their numbers. Fails
 # when fewer than 90 % are noticed, or when a fault does not fit the sources any more. Two faults at a time on two cores;
-# all of them take forty minutes. Not part of CI.
+# all of them take more than forty minutes. Not part of CI.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the language files
 
-seconds=60 # for each test program; one that hangs has noticed the fault
+seconds=120 # for each test program; one that hangs has noticed the fault
 needed=90 # per cent
 faults=() # each "FILE: OLD TEXT ==> NEW TEXT"
 while read -r line; do
@@ -27,7 +27,8 @@ fi
 first_tests() {
     case $1 in
         src/app/main.cpp) echo tst_start ;;
-        src/app/log/*) echo tst_avrdude ;;
+        src/app/log/*) echo 'tst_avrdude|tst_app' ;;
+        src/memory/FirmwareFile.cpp) echo 'tst_memory|tst_firmware' ;;
         src/app/record/FuseByte.cpp) echo tst_fuses ;;
         src/app/*) echo 'tst_app|tst_start' ;;
         src/about/*) echo tst_update ;;
