@@ -23,7 +23,7 @@
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>Ist der Programmer eingesteckt? Ein anderes Kabel und eine andere Buchse versuchen.</translation>
+        <translation>Ist der Programmer eingesteckt? Ein anderes Kabel und einen anderen USB-Anschluss versuchen.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Another program uses the port %1: close it, such as a serial monitor.</source>
-        <translation>Ein anderes Programm, etwa ein serieller Monitor, benutzt den Port %1: Bitte schließen.</translation>
+        <translation>Ein anderes Programm, etwa ein serieller Monitor, benutzt den Port %1: Bitte dieses Programm schließen.</translation>
     </message>
     <message>
         <source>Nothing listens there: is it started, and is that the right address?</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Nach „Schreiben“: Kontakte und Versorgung prüfen und ein niedrigeres Tempo versuchen.</translation>
+        <translation>Wenn das nach „Schreiben“ auftritt: Kontakte und Versorgung prüfen und ein niedrigeres Tempo versuchen.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
-        <translation>%1 braucht avrdude %2 oder neuer; das installierte kennt es nicht.</translation>
+        <translation>%1 braucht avrdude %2 oder neuer; die installierte Version kennt ihn nicht.</translation>
     </message>
     <message>
         <source>The avrdude that is installed does not know %1.</source>
@@ -123,7 +123,7 @@
     </message>
     <message>
         <source>avrdude is in the system&apos;s packages: %1</source>
-        <translation>avrdude gehört zu den Paketen des Systems: %1</translation>
+        <translation>avrdude gibt es als Paket des Systems: %1</translation>
     </message>
     <message>
         <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
@@ -135,7 +135,7 @@
     </message>
     <message>
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
-        <translation>Den Programmer abziehen und wieder anstecken und andere Programme schließen, die ihn benutzen.</translation>
+        <translation>Den Programmer abziehen und wieder einstecken und andere Programme schließen, die ihn vielleicht benutzen.</translation>
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>avrdude was stopped.</source>
-        <translation>avrdude wurde angehalten.</translation>
+        <translation>avrdude wurde gestoppt.</translation>
     </message>
 </context>
 <context>
@@ -315,7 +315,7 @@
     <message>
         <source>The chip would be erased for nothing.
 Do you want to go on all the same?</source>
-        <translation>Der Chip würde vergeblich gelöscht.
+        <translation>Der Chip würde umsonst gelöscht.
 Trotzdem fortfahren?</translation>
     </message>
 </context>
@@ -757,7 +757,7 @@ Fuse-Bits erfolgreich geprüft.</translation>
     </message>
     <message>
         <source>Windows keeps this name for a device. Choose another one.</source>
-        <translation>Windows behält diesen Namen einem Gerät vor. Bitte einen anderen wählen.</translation>
+        <translation>Windows reserviert diesen Namen für ein Gerät. Bitte einen anderen wählen.</translation>
     </message>
     <message>
         <source>The name is too long for a file. Choose a shorter one.</source>

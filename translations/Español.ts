@@ -23,7 +23,7 @@
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>¿Está enchufado el programador? Pruebe otro cable y otra toma.</translation>
+        <translation>¿Está enchufado el programador? Pruebe otro cable y otro puerto USB.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Puede que sus fusibles pidan un reloj que no está, o que usen el pin de reset como pin normal.</translation>
+        <translation>Puede que los fusibles del chip requieran un reloj que no está presente, o que usen el pin de reset como pin normal.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Después de «Grabar»: compruebe los contactos y la alimentación, y pruebe una velocidad menor.</translation>
+        <translation>Si ocurre después de «Grabar»: compruebe los contactos y la alimentación, y pruebe una velocidad menor.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
-        <translation>El chip está bloqueado: «Borrar todo» lo libera, pero su contenido se pierde.</translation>
+        <translation>El chip está bloqueado: «Borrar todo» lo desbloquea, pero su contenido se pierde.</translation>
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
@@ -123,7 +123,7 @@
     </message>
     <message>
         <source>avrdude is in the system&apos;s packages: %1</source>
-        <translation>avrdude está en los paquetes del sistema: %1</translation>
+        <translation>avrdude está disponible en los paquetes del sistema: %1</translation>
     </message>
     <message>
         <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
@@ -135,7 +135,7 @@
     </message>
     <message>
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
-        <translation>Desconecte el programador, vuelva a conectarlo y cierre otros programas que puedan usarlo.</translation>
+        <translation>Desenchufe el programador, vuelva a enchufarlo y cierre otros programas que puedan usarlo.</translation>
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>avrdude was stopped.</source>
-        <translation>avrdude se ha detenido.</translation>
+        <translation>avrdude ha sido detenido.</translation>
     </message>
 </context>
 <context>

@@ -23,7 +23,7 @@
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>Le programmateur est-il branché&#xa0;? Essayez un autre câble et une autre prise.</translation>
+        <translation>Le programmateur est-il branché ? Essayez un autre câble et un autre port USB.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Après «&#xa0;Écrire&#xa0;»&#xa0;: vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
+        <translation>Si cela se produit après « Écrire » : vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
-        <translation>La puce est verrouillée&#xa0;: «&#xa0;Tout effacer&#xa0;» la libère, mais son contenu est perdu.</translation>
+        <translation>La puce est verrouillée : « Tout effacer » la déverrouille, mais son contenu est perdu.</translation>
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
@@ -123,7 +123,7 @@
     </message>
     <message>
         <source>avrdude is in the system&apos;s packages: %1</source>
-        <translation>avrdude se trouve dans les paquets du système&#xa0;: %1</translation>
+        <translation>avrdude est disponible dans les paquets du système : %1</translation>
     </message>
     <message>
         <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
@@ -139,7 +139,7 @@
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
-        <translation>Dossiers où il est cherché : %1</translation>
+        <translation>Dossiers où il est cherché : %1</translation>
     </message>
 </context>
 <context>

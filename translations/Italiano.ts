@@ -23,7 +23,7 @@
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>Il programmatore è collegato? Provare un altro cavo e un&apos;altra presa.</translation>
+        <translation>Il programmatore è collegato? Provare un altro cavo e un&apos;altra porta USB.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Dopo «Scrivi»: controllare i contatti e l&apos;alimentazione, e provare una velocità minore.</translation>
+        <translation>Se succede dopo «Scrivi»: controllare i contatti e l&apos;alimentazione, e provare una velocità minore.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -123,7 +123,7 @@
     </message>
     <message>
         <source>avrdude is in the system&apos;s packages: %1</source>
-        <translation>avrdude è nei pacchetti del sistema: %1</translation>
+        <translation>avrdude è disponibile nei pacchetti del sistema: %1</translation>
     </message>
     <message>
         <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
@@ -190,11 +190,11 @@
     </message>
     <message>
         <source>The chip differs from the file at address %1.</source>
-        <translation>Il chip è diverso dal file all&apos;indirizzo %1.</translation>
+        <translation>Il contenuto del chip è diverso dal file all&apos;indirizzo %1.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
-        <translation>La scrittura era iniziata: il chip può contenere una parte del file.</translation>
+        <translation>La scrittura era iniziata: il chip potrebbe contenere una parte del file.</translation>
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
@@ -315,7 +315,7 @@
     <message>
         <source>The chip would be erased for nothing.
 Do you want to go on all the same?</source>
-        <translation>Il chip verrebbe cancellato per niente.
+        <translation>Il chip verrebbe cancellato inutilmente.
 Continuare comunque?</translation>
     </message>
 </context>

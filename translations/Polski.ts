@@ -7,7 +7,7 @@
     <name>Advice</name>
     <message>
         <source>Your account may not use the programmer.</source>
-        <translation>Twoje konto nie ma prawa używać tego programatora.</translation>
+        <translation>Twoje konto nie ma uprawnień do używania tego programatora.</translation>
     </message>
     <message>
         <source>Write this line into %1 and plug the programmer in again:</source>
@@ -15,7 +15,7 @@
     </message>
     <message>
         <source>Your account may not use the port %1.</source>
-        <translation>Twoje konto nie ma prawa używać portu %1.</translation>
+        <translation>Twoje konto nie ma uprawnień do używania portu %1.</translation>
     </message>
     <message>
         <source>In a terminal: %1. Then log out and in again.</source>
@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>What is plugged in may be: %1.</source>
-        <translation>Podłączone może być: %1.</translation>
+        <translation>Być może podłączono: %1.</translation>
     </message>
     <message>
         <source>There is no serial port now.</source>
@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
-        <translation>Spróbuj drugiej pozycji listy dla tej płytki: bootloadery różnią się szybkością.</translation>
+        <translation>Spróbuj innej pozycji listy dla tej płytki: bootloadery różnią się szybkością.</translation>
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>Is the plug the right way round, and does the chip have power?</source>
-        <translation>Czy wtyczka nie jest odwrócona i czy układ ma zasilanie?</translation>
+        <translation>Czy wtyczka jest włożona właściwą stroną i czy układ ma zasilanie?</translation>
     </message>
     <message>
         <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Fusebity układu mogą wymagać zegara, którego nie ma, albo robić z RESET zwykły pin.</translation>
+        <translation>Fusebity układu mogą wymagać zegara, którego nie ma, albo zamieniać wyprowadzenie RESET w zwykły pin.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Po programowaniu: sprawdź styki i zasilanie i spróbuj mniejszej szybkości.</translation>
+        <translation>Jeśli stało się to po programowaniu: sprawdź styki i zasilanie oraz spróbuj mniejszej szybkości.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>The chip says that it is: %1.</source>
-        <translation>Układ podaje, że to: %1.</translation>
+        <translation>Układ zgłasza się jako: %1.</translation>
     </message>
     <message>
         <source>%1 is programmed by %2, and this programmer speaks %3.</source>
@@ -139,7 +139,7 @@
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
-        <translation>Przeszukiwane foldery: %1</translation>
+        <translation>Przeszukiwane katalogi: %1</translation>
     </message>
 </context>
 <context>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>The chip differs from the file at address %1.</source>
-        <translation>Zawartość układu różni się od pliku pod adresem %1.</translation>
+        <translation>Pod adresem %1 zawartość układu różni się od pliku.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>

@@ -27,7 +27,7 @@
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
-        <translation>No Windows ele precisa do seu driver: o guia diz qual.</translation>
+        <translation>No Windows o gravador precisa de um driver: o guia diz qual.</translation>
     </message>
     <message>
         <source>Nothing is plugged in that the list has.</source>
@@ -59,11 +59,11 @@
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
-        <translation>Pressione o botão de reset da placa logo antes.</translation>
+        <translation>Pressione o botão de reset da placa logo antes da operação.</translation>
     </message>
     <message>
         <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
-        <translation>Tente a outra entrada da lista para a placa: os bootloaders diferem na velocidade.</translation>
+        <translation>Tente outro item da lista para a placa: os bootloaders diferem na velocidade.</translation>
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>Is the plug the right way round, and does the chip have power?</source>
-        <translation>O conector está na posição certa, e o chip tem alimentação?</translation>
+        <translation>O conector está no sentido certo, e o chip tem alimentação?</translation>
     </message>
     <message>
         <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Depois de gravar: verifique os contatos e a alimentação, e tente uma velocidade menor.</translation>
+        <translation>Se foi depois de gravar: verifique os contatos e a alimentação, e tente uma velocidade menor.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>The chip differs from the file at address %1.</source>
-        <translation>O chip difere do arquivo no endereço %1.</translation>
+        <translation>No endereço %1, o chip difere do arquivo.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>avrdude was stopped.</source>
-        <translation>O avrdude foi parado.</translation>
+        <translation>O avrdude foi interrompido.</translation>
     </message>
 </context>
 <context>

@@ -27,7 +27,7 @@
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
-        <translation>Windows&apos;ta sürücüsü gerekir: hangisi olduğu kılavuzda yazar.</translation>
+        <translation>Windows&apos;ta programlayıcının sürücüsü gerekir: hangisi olduğu kılavuzda yazar.</translation>
     </message>
     <message>
         <source>Nothing is plugged in that the list has.</source>
@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
-        <translation>Listede bu kartın diğer girdisini deneyin: önyükleyicilerin hızları farklıdır.</translation>
+        <translation>Listede bu kart için başka bir seçenek deneyin: önyükleyicilerin hızları farklıdır.</translation>
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
@@ -71,7 +71,7 @@
     </message>
     <message>
         <source>Is the plug the right way round, and does the chip have power?</source>
-        <translation>Fiş doğru yönde mi, çipin beslemesi var mı?</translation>
+        <translation>Konnektör doğru yönde takılı mı, çipin beslemesi var mı?</translation>
     </message>
     <message>
         <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Çipin fuse ayarları var olmayan bir saat istiyor ya da reset bacağını sıradan bir bacak yapıyor olabilir.</translation>
+        <translation>Çipin fuse bitleri var olmayan bir saat sinyali istiyor ya da reset bacağını sıradan bir bacak yapıyor olabilir.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Yazmadan sonra: kontakları ve beslemeyi denetleyin, daha düşük bir hız deneyin.</translation>
+        <translation>Yazma işleminden sonra olduysa: bağlantıları ve beslemeyi denetleyin, daha düşük bir hız deneyin.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>The chip says that it is: %1.</source>
-        <translation>Çipin bildirdiği ad: %1.</translation>
+        <translation>Çip kendini şöyle tanıtıyor: %1.</translation>
     </message>
     <message>
         <source>%1 is programmed by %2, and this programmer speaks %3.</source>
@@ -433,7 +433,7 @@ Kurtarmak için: tümünü silin.</translation>
     <name>FuseRequests</name>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
-        <translation>Burada fuse baytı yok: hiçbiri gönderilmedi.</translation>
+        <translation>Burada fuse baytı yok: hiçbir bayt gönderilmedi.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@ Kurtarmak için: tümünü silin.</translation>
     </message>
     <message>
         <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
-        <translation>avrdude hâlâ çip üzerinde çalışıyor. Şimdi sonlandırılırsa çip olduğu gibi kalır: belki silinmiş, belki yarım yazılmış olarak.</translation>
+        <translation>avrdude hâlâ çip üzerinde işlem yapıyor. Şimdi sonlandırılırsa çip o anki hâliyle kalır: belki silinmiş, belki yarım yazılmış olarak.</translation>
     </message>
     <message>
         <source>Do you want to close Korvel all the same?</source>
@@ -753,7 +753,7 @@ Fuse bitleri başarıyla doğrulandı.</translation>
     </message>
     <message>
         <source>no profile loaded</source>
-        <translation>profil yüklenmedi</translation>
+        <translation>yüklü profil yok</translation>
     </message>
     <message>
         <source>Windows keeps this name for a device. Choose another one.</source>

@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
-        <translation>Верен ли порт %1 и того ли типа программатор, что выбран?</translation>
+        <translation>Верен ли порт %1 и тот ли тип программатора выбран?</translation>
     </message>
     <message>
         <source>Is the plug the right way round, and does the chip have power?</source>
@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Возможно, по фьюз-битам МК нужен тактовый сигнал, которого нет, или вывод сброса служит обычным выводом.</translation>
+        <translation>Возможно, фьюз-биты МК задают источник тактирования, которого нет, или превращают вывод сброса в обычный.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
-        <translation>МК с установленными битами защиты не показывает своё содержимое.</translation>
+        <translation>МК с установленными битами защиты не выдаёт своё содержимое.</translation>
     </message>
     <message>
         <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
@@ -99,11 +99,11 @@
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
-        <translation>Для %1 нужен avrdude %2 или новее; установленная версия его не знает.</translation>
+        <translation>Для %1 нужен avrdude %2 или новее; установленная версия это устройство не поддерживает.</translation>
     </message>
     <message>
         <source>The avrdude that is installed does not know %1.</source>
-        <translation>Установленный avrdude не знает %1.</translation>
+        <translation>Установленный avrdude не поддерживает %1.</translation>
     </message>
     <message>
         <source>The chip has the signature %1, which nothing in the list has.</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>The chip says that it is: %1.</source>
-        <translation>МК сообщает, что он: %1.</translation>
+        <translation>Судя по сигнатуре МК, это: %1.</translation>
     </message>
     <message>
         <source>%1 is programmed by %2, and this programmer speaks %3.</source>
@@ -139,7 +139,7 @@
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
-        <translation>Папки, в которых он ищется: %1</translation>
+        <translation>Поиск ведётся в папках: %1</translation>
     </message>
 </context>
 <context>
@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>Verifying the flash failed.</source>
-        <translation>Не удалось проверить Flash.</translation>
+        <translation>Проверка Flash завершилась с ошибкой.</translation>
     </message>
     <message>
         <source>Reading the flash failed.</source>
@@ -162,7 +162,7 @@
     </message>
     <message>
         <source>Verifying the EEPROM failed.</source>
-        <translation>Не удалось проверить EEPROM.</translation>
+        <translation>Проверка EEPROM завершилась с ошибкой.</translation>
     </message>
     <message>
         <source>Reading the EEPROM failed.</source>
@@ -174,7 +174,7 @@
     </message>
     <message>
         <source>Verifying the fuse bytes failed.</source>
-        <translation>Не удалось проверить фьюз-байты.</translation>
+        <translation>Проверка фьюз-байтов завершилась с ошибкой.</translation>
     </message>
     <message>
         <source>Reading the fuse bytes failed.</source>
@@ -190,11 +190,11 @@
     </message>
     <message>
         <source>The chip differs from the file at address %1.</source>
-        <translation>МК отличается от файла по адресу %1.</translation>
+        <translation>Содержимое МК отличается от файла по адресу %1.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
-        <translation>Запись уже началась: в МК может быть только часть файла.</translation>
+        <translation>Запись была начата: в МК может быть только часть файла.</translation>
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
@@ -359,7 +359,7 @@ Do you want to go on all the same?</source>
     </message>
     <message>
         <source>The file is too large to be firmware.</source>
-        <translation>Файл слишком велик для прошивки.</translation>
+        <translation>Файл слишком велик, чтобы быть прошивкой.</translation>
     </message>
 </context>
 <context>

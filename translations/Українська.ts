@@ -27,7 +27,7 @@
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
-        <translation>У Windows йому потрібен драйвер: який саме, сказано в посібнику.</translation>
+        <translation>У Windows програматору потрібен драйвер: який саме, сказано в посібнику.</translation>
     </message>
     <message>
         <source>Nothing is plugged in that the list has.</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Після запису: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
+        <translation>Якщо це сталося після запису: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>The chip says that it is: %1.</source>
-        <translation>МК повідомляє, що він: %1.</translation>
+        <translation>МК визначає себе як: %1.</translation>
     </message>
     <message>
         <source>%1 is programmed by %2, and this programmer speaks %3.</source>
@@ -190,7 +190,7 @@
     </message>
     <message>
         <source>The chip differs from the file at address %1.</source>
-        <translation>Вміст МК відрізняється від файлу за адресою %1.</translation>
+        <translation>За адресою %1 вміст МК відрізняється від файлу.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
@@ -315,7 +315,7 @@
     <message>
         <source>The chip would be erased for nothing.
 Do you want to go on all the same?</source>
-        <translation>МК буде стерто даремно.
+        <translation>МК було б стерто даремно.
 Усе одно продовжити?</translation>
     </message>
 </context>
@@ -359,7 +359,7 @@ Do you want to go on all the same?</source>
     </message>
     <message>
         <source>The file is too large to be firmware.</source>
-        <translation>Файл завеликий для прошивки.</translation>
+        <translation>Файл завеликий як для прошивки.</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
-        <translation>avrdude досі працює з МК. Якщо перервати роботу зараз, МК залишиться як є: можливо, стертий, можливо, записаний наполовину.</translation>
+        <translation>avrdude досі працює з МК. Якщо перервати роботу зараз, МК залишиться як є: можливо, стертим, можливо, записаним наполовину.</translation>
     </message>
     <message>
         <source>Do you want to close Korvel all the same?</source>

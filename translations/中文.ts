@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>芯片的熔丝位可能要求并不存在的时钟，或将复位引脚用作普通引脚。</translation>
+        <translation>芯片的熔丝位可能设定了并不存在的时钟源，或将复位引脚用作普通引脚。</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
-        <translation>锁定位已设置的芯片不会显示其内容。</translation>
+        <translation>已设置锁定位的芯片，其内容无法正确读出。</translation>
     </message>
     <message>
         <source>A boot loader cannot write fuse and lock bytes. A programmer can.</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
-        <translation>写入已经开始：芯片中可能只有文件的一部分。</translation>
+        <translation>此前写入已开始：芯片中可能只有文件的一部分。</translation>
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
@@ -549,15 +549,15 @@ The way back: erase all of it.</source>
     </message>
     <message>
         <source>Writing</source>
-        <translation>写入</translation>
+        <translation>正在写入</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation>读取</translation>
+        <translation>正在读取</translation>
     </message>
     <message>
         <source>Verifying</source>
-        <translation>校验</translation>
+        <translation>正在校验</translation>
     </message>
 </context>
 <context>
@@ -768,7 +768,7 @@ Fuse bits verify successfully.</source>
     </message>
     <message>
         <source>profile changed since it was loaded</source>
-        <translation>加载后已更改</translation>
+        <translation>配置文件加载后已更改</translation>
     </message>
 </context>
 <context>

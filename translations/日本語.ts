@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
-        <translation>検索するフォルダ: %1</translation>
+        <translation>検索先のフォルダー：%1</translation>
     </message>
 </context>
 <context>
@@ -768,7 +768,7 @@ Fuse bits verify successfully.</source>
     </message>
     <message>
         <source>profile changed since it was loaded</source>
-        <translation>読込み後に変更あり</translation>
+        <translation>プロファイル読込み後に変更あり</translation>
     </message>
 </context>
 <context>
