@@ -262,7 +262,11 @@ private slots:
         QCOMPARE(press(), asked);
         QVERIFY(bench.requests().isEmpty() && legend->isVisible());
         bench.boxes.button = QMessageBox::Yes;
-        QCOMPARE(press(), asked + '|' + written);
+        bench.folder.write("script", "err verification error");
+        QCOMPARE(press(), asked + "|AVRDUDE, warning: Verification error.");
+        QVERIFY(legend->isVisible());
+        bench.folder.write("script", "");
+        QCOMPARE(press(), written); // who has said yes is not asked again because of a bad contact
         QVERIFY(!legend->isVisible());
         QCOMPARE(press(), written); // it is on the chip already
         bench.folder.write("script", "make hfuse.hex 99"); // debugWIRE, as the chip says

@@ -72,6 +72,7 @@ private slots:
                                  "nothing.\nDo you want to go on all the same?";
         for (const auto& [part, arguments, answer, told] : {std::tuple("m16", "-F", QMessageBox::No, question),
                                                             {"m16", "-V -D", QMessageBox::No, "-U"},
+                                                            {"x128a1", "-D -e", QMessageBox::No, question},
                                                             {"x128a1", "", QMessageBox::No, "-U"},
                                                             {"m16", "", QMessageBox::Yes, question}}) {
             Panels panels;
