@@ -44,6 +44,7 @@ private:
         FailedRun run;
         run.output = printed;
         run.isStarted = printed != "-";
+        run.isStopped = around == "stopped";
         run.arguments = arguments;
         run.settings.mcuName = part;
         run.settings.mcuId = QJsonDocument::fromJson(WorkFolder::read("mcu/" + part + ".json"))["id"].toString();

@@ -1,3 +1,4 @@
+#include "avrdude/Progress.h"
 #include "avrdude/ReadFile.h"
 #include "support/Bench.h"
 #include "support/Table.h"
@@ -41,6 +42,25 @@ private slots:
     }
 
     void everyVersion() { judge("print recorded\nexit" + cell("exit"), cell("printed").toUtf8()); }
+
+    void progress()
+    {
+        for (const QString version : {"6.3", "7.0", "7.1", "7.3", "8.2"}) {
+            const QString recordings = WorkFolder::read(TEST_FOLDER "/recordings/avrdude-" + version + ".txt");
+            QStringList bars; // of the first two commands, which write and verify
+            for (int command : {1, 2}) {
+                Progress progress;
+                for (const QChar character : recordings.section("### -", command, command).section('\n', 1))
+                    if (progress.take(character) && (progress.percent() == 0 || progress.percent() == 100))
+                        bars += progress.activity() + QString::number(progress.percent());
+                bars += "|";
+            }
+            const QString start = version < "7.1" ? "Reading0 Reading100 " : ""; // of the signature
+            const QString verification = "Verifying0 Verifying100 |";
+            QCOMPARE(version + ' ' + bars.join(' '),
+                     version + ' ' + start + "Writing0 Writing100 " + verification + ' ' + start + verification);
+        }
+    }
 
     void lines_data() { casesFrom("lines.txt", {"printed", "exitCode", "verdict"}); }
     void lines() { judge(cell("printed") + "\nexit " + cell("exitCode")); }

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>Der Chip wurde gelöscht und nichts geschrieben: Sein Flash ist leer.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>Das Schreiben hatte begonnen: Der Chip hat vielleicht nur einige der Fuse-Bytes.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>Das Löschen hatte begonnen: Der Chip ist vielleicht leer.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Der Weg zurück: alles löschen.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Korvel trotzdem schließen?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Schreiben</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Lesen</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Prüfen</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Trotzdem löschen?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude arbeitet</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Prüfen</translation>
     </message>
 </context>
 <context>

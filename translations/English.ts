@@ -199,6 +199,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>The chip was erased, and nothing was written: its flash is empty.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>Writing had begun: the chip may have some of the fuse bytes.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>Erasing had begun: the chip may be empty.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -546,18 +554,6 @@ The way back: erase all of it.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Do you want to close Korvel all the same?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Writing</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Reading</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Verifying</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1138,18 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude is working</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Writing</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Reading</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verifying</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>El chip se borró y no se grabó nada: su flash está vacía.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>La grabación había comenzado: es posible que el chip tenga solo algunos de los bytes de fusibles.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>El borrado había comenzado: es posible que el chip esté vacío.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>¿Desea cerrar Korvel de todos modos?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Grabando</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Leyendo</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Verificando</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude está trabajando</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Grabando</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Leyendo</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verificando</translation>
     </message>
 </context>
 <context>

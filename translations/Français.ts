@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>La puce a été effacée et rien n&apos;a été écrit&#xa0;: sa flash est vide.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>L&apos;écriture avait commencé : la puce n&apos;a peut-être qu&apos;une partie des octets de fusibles.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>L&apos;effacement avait commencé : la puce est peut-être vide.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Voulez-vous fermer Korvel quand même&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Écriture</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Lecture</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Vérification</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Le supprimer quand même ?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude travaille</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Écriture</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Vérification</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>Il chip è stato cancellato e non è stato scritto nulla: la sua flash è vuota.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>La scrittura era iniziata: il chip potrebbe avere solo alcuni dei byte di fuse.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>La cancellazione era iniziata: il chip potrebbe essere vuoto.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Chiudere comunque Korvel?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Scrittura</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Lettura</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Verifica</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Eliminarlo comunque?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude sta lavorando</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Scrittura</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lettura</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verifica</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>Układ skasowano i nic nie zapisano: jego pamięć FLASH jest pusta.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>Programowanie było rozpoczęte: układ może mieć tylko część bajtów fuse.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>Kasowanie było rozpoczęte: układ może być pusty.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Czy mimo to zamknąć Korvel?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Programowanie</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Odczyt</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Weryfikacja</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Usunąć mimo to?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude pracuje</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Programowanie</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Odczyt</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Weryfikacja</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>O chip foi apagado e nada foi gravado: a sua FLASH está vazia.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>A gravação havia começado: o chip pode ter só alguns dos bytes de fuse.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>O apagamento havia começado: o chip pode estar vazio.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Deseja fechar o Korvel mesmo assim?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Gravando</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Lendo</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Verificando</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Excluir mesmo assim?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude está trabalhando</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Gravando</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lendo</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Verificando</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>Çip silindi ve hiçbir şey yazılmadı: FLASH belleği boş.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>Yazma başlamıştı: çipte fuse baytlarının yalnızca bir kısmı olabilir.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>Silme başlamıştı: çip boş olabilir.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Korvel yine de kapatılsın mı?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Yazılıyor</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Okunuyor</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Doğrulanıyor</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Yine de silinsin mi?</translation>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude çalışıyor</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Yazılıyor</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Okunuyor</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Doğrulanıyor</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>МК стёрт, и ничего не записано: его Flash пуста.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>Запись была начата: возможно, в МК записаны не все фьюз-байты.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>Стирание было начато: возможно, МК пуст.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Всё равно закрыть Korvel?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Запись</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Чтение</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Проверка</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude работает</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Чтение</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Проверка</translation>
     </message>
 </context>
 <context>

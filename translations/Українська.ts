@@ -200,6 +200,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>МК стерто, і нічого не записано: його FLASH порожня.</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>Запис було розпочато: можливо, МК має лише деякі з фʼюз-байтів.</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>Стирання було розпочато: можливо, МК порожній.</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -547,18 +555,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Усе одно закрити Korvel?</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>Запис</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>Зчитування</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>Перевірка</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1139,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude працює</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Запис</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Зчитування</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>Перевірка</translation>
     </message>
 </context>
 <context>

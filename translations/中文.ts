@@ -199,6 +199,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>芯片已擦除，且未写入任何内容：其 Flash 为空。</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>此前写入已开始：芯片可能只写入了部分熔丝字节。</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>此前擦除已开始：芯片可能是空的。</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -546,18 +554,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>仍要关闭 Korvel 吗？</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>正在写入</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>正在读取</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>正在校验</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1138,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude 正在运行</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>正在写入</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>正在读取</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>正在校验</translation>
     </message>
 </context>
 <context>

@@ -199,6 +199,14 @@
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
         <translation>チップは消去され、何も書き込まれていません。Flash は空です。</translation>
     </message>
+    <message>
+        <source>Writing had begun: the chip may have some of the fuse bytes.</source>
+        <translation>書き込みは始まっていました。ヒューズバイトの一部だけが書き込まれている可能性があります。</translation>
+    </message>
+    <message>
+        <source>Erasing had begun: the chip may be empty.</source>
+        <translation>消去は始まっていました。チップは空の可能性があります。</translation>
+    </message>
 </context>
 <context>
     <name>Attributes</name>
@@ -546,18 +554,6 @@ The way back: erase all of it.</source>
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>それでも Korvel を閉じますか？</translation>
-    </message>
-    <message>
-        <source>Writing</source>
-        <translation>書き込み中</translation>
-    </message>
-    <message>
-        <source>Reading</source>
-        <translation>読み出し中</translation>
-    </message>
-    <message>
-        <source>Verifying</source>
-        <translation>照合中</translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1138,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude is working</source>
         <translation>avrdude が動作中です</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>書き込み中</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>読み出し中</translation>
+    </message>
+    <message>
+        <source>Verifying</source>
+        <translation>照合中</translation>
     </message>
 </context>
 <context>

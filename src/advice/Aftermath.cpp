@@ -67,14 +67,20 @@ QString Aftermath::chip(const FailedRun& run, bool isBootLoader)
             .arg(differs.captured(1) + differs.captured(2));
     static const QRegularExpression writing(
         QStringLiteral("writing (\\d+ bytes? )?(flash|eeprom)\\b|Writing \\d+ bytes? to (flash|eeprom)\\b"));
-    static const QRegularExpression written(QStringLiteral("bytes? of (flash|eeprom) written|\\d+ bytes? written"));
+    static const QRegularExpression written(
+        QStringLiteral("bytes? of (flash|eeprom) (written|verified)|\\d+ bytes? written"));
     if (output.contains(writing) && !output.contains(written))
         return say(QT_TRANSLATE_NOOP("Aftermath", "Writing had begun: the chip may hold a part of the file."));
+    static const QRegularExpression fuses(QStringLiteral("[Ww]riting .*(fuse|lock)"));
+    if (output.contains(fuses))
+        return say(QT_TRANSLATE_NOOP("Aftermath", "Writing had begun: the chip may have some of the fuse bytes."));
     // That it erases, avrdude says before it does. What it says of the file is said after it has.
     static const QRegularExpression erased(QStringLiteral("^(avrdude: )?[Ee]rasing chip\\r?$.*(file|record|section)"),
                                            QRegularExpression::MultilineOption
                                                | QRegularExpression::DotMatchesEverythingOption);
     if (output.contains(erased) && !output.contains(written) && !isBootLoader)
         return say(QT_TRANSLATE_NOOP("Aftermath", "The chip was erased, and nothing was written: its flash is empty."));
+    if (run.isStopped && !isBootLoader && output.contains(QLatin1String("rasing chip")) && !output.contains(written))
+        return say(QT_TRANSLATE_NOOP("Aftermath", "Erasing had begun: the chip may be empty."));
     return {};
 }

@@ -31,19 +31,6 @@ namespace {
 
 constexpr QSize smallestSize(320, 240); // pixels; what does not fit is scrolled
 
-/// The word for what avrdude does, in the user's language.
-QString activityText(const QString& activity)
-{
-    static const char* const words[] = {QT_TRANSLATE_NOOP("KorvelApp", "Writing"),
-                                        QT_TRANSLATE_NOOP("KorvelApp", "Reading"),
-                                        QT_TRANSLATE_NOOP("KorvelApp", "Verifying")};
-    for (const char* word : words) {
-        if (activity == QLatin1String(word))
-            return KorvelApp::tr(word);
-    }
-    return activity;
-}
-
 void warnAboutSettings(const QString& text)
 {
     QMessageBox::warning(QApplication::activeWindow(), ProductInfo::name, text + ProductInfo::settingsFile);
@@ -107,8 +94,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     auto* runBar = new RunBar(*m_log);
     connect(m_avrdude, &Avrdude::runningChanged, runBar, &RunBar::setRunning);
     connect(m_avrdude, &Avrdude::turnedAway, runBar, &RunBar::flash);
-    connect(m_avrdude, &Avrdude::progressed, runBar,
-            [runBar](const QString& activity, int percent) { runBar->setProgress(activityText(activity), percent); });
+    connect(m_avrdude, &Avrdude::progressed, runBar, &RunBar::setProgress);
     connect(runBar, &RunBar::shown, this, [this](bool isBusy) {
         const auto buttons = findChildren<RunButton*>();
         for (RunButton* button : buttons)

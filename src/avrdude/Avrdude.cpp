@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -80,6 +79,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
 
     m_run = {settings, arguments, {}, true, false};
     m_stopped = false;
+    m_progress.begin();
     m_process = new QProcess(this);
     m_killedOnError = false;
     m_errorDecoder.reset();
@@ -149,9 +149,9 @@ bool Avrdude::turnsAway()
 
 void Avrdude::stop()
 {
-    if (!isRunning() || m_killedOnError)
+    if (!m_process || !m_run.isStarted || m_killedOnError || m_stopped)
         return;
-    m_stopped = true;
+    m_stopped = true; // also of one that has just ended: nothing follows it
 #ifdef Q_OS_WIN
     m_process->kill(); // a program without a window does not hear of a polite request there
 #else
@@ -159,22 +159,6 @@ void Avrdude::stop()
     m_process->terminate();
     QTimer::singleShot(patience, m_process, &QProcess::kill);
 #endif
-}
-
-void Avrdude::followProgress()
-{
-    // "Writing | ######" grows by two percent a mark. What is read for a verification is called "Reading" too, and said
-    // before.
-    constexpr int nearby = 300; // characters
-    constexpr int percentOfMark = 2;
-    static const QRegularExpression bar(QStringLiteral("(\\w+ing) \\| (#*)[^#]*$"));
-    const QString end = m_text.mid(std::max(m_outputBegin, static_cast<int>(m_text.size()) - nearby));
-    const auto found = bar.match(end);
-    if (!found.hasMatch())
-        return;
-    const bool isVerifying = end.left(found.capturedStart()).contains(QLatin1String("erifying "));
-    emit progressed(isVerifying ? QStringLiteral("Verifying") : found.captured(1),
-                    percentOfMark * static_cast<int>(found.captured(2).size()));
 }
 
 bool Avrdude::mayUsePort()
@@ -204,7 +188,8 @@ int Avrdude::addEditText()
         m_text += text;
     }
     m_messages.search(m_text, m_findings);
-    followProgress();
+    if (m_progress.take(errorText + outputText))
+        emit progressed(m_progress.activity(), m_progress.percent());
 
     if (!m_killedOnError && !m_stopped && Message::showsSilentProgrammer(errorText)) {
         m_killedOnError = true;

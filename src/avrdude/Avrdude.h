@@ -4,6 +4,7 @@
 #include "app/record/SettingsRecord.h"
 #include "avrdude/FailedRun.h"
 #include "avrdude/Message.h"
+#include "avrdude/Progress.h"
 #include "base/Toolkit.h"
 
 #include <QObject>
@@ -61,8 +62,8 @@ public:
     /// True while avrdude runs.
     [[nodiscard]] bool isRunning() const { return m_process && m_process->state() == QProcess::Running; }
 
-    /// True during a run, for who has something to do before the next one: a call of execute() would be dropped. The
-    /// user gets a sign that the click has gone nowhere.
+    /// isBusy(), for who has something to do before a run. When it is, the user gets a sign that the click has gone
+    /// nowhere.
     [[nodiscard]] bool turnsAway();
 
     /// Ends the present run for the user, politely and, if that has not helped within 2 seconds, by force. Its own box
@@ -93,7 +94,7 @@ signals:
     /// The user chose the microcontroller called @p name in the box of a failure.
     void partChosen(const QString& name);
 
-    /// avrdude has done @p percent of what it says to be doing, in its own words: "Writing".
+    /// avrdude has done @p percent of what it says to be doing, as in Progress.
     void progressed(const QString& activity, int percent);
 
     /// A call was dropped because of the run in progress.
@@ -110,7 +111,6 @@ public slots:
 
 private:
     void tellFailure(const QString& title, const QString& message);
-    void followProgress();
     void finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback);
 
     QProcess* m_process = nullptr; ///< the current run; null when idle
@@ -120,6 +120,7 @@ private:
     Message m_messages;
     Explainer m_explain = [](const FailedRun&) { return Explanation(); };
     FailedRun m_run; ///< the current or last one, without its output
+    Progress m_progress;
     bool m_stopped = false; ///< by the user
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
     QString m_text; ///< the command line and the output of the current or last run, as they came

@@ -27,17 +27,21 @@ void FusesButtons::onClickWriteBt()
     const SettingsRecord& settings = m_avrdude.settings();
     const FuseBytes bytes = settings.fusesBytes;
     const QStringList warnings = FuseMeanings::warnings(settings, {m_avrdude.fusesOnChip(), m_accepted});
-    if (!warnings.isEmpty()) {
-        if (!Box::ask(&m_view, QStringLiteral("FUSES"), warnings.join(QLatin1Char('\n')),
-                      tr("Do you want to write the fuse bytes all the same?")))
-            return;
-        m_accepted.note(settings.mcuId, bytes);
-    }
-    m_avrdude.execute(FuseRequests::write(bytes), [this, part = settings.mcuId, bytes] {
+    if (!warnings.isEmpty()
+        && !Box::ask(&m_view, QStringLiteral("FUSES"), warnings.join(QLatin1Char('\n')),
+                     tr("Do you want to write the fuse bytes all the same?")))
+        return;
+    const QString part = settings.mcuId;
+    m_avrdude.execute(FuseRequests::write(bytes), [this, part, bytes] {
         setKnown(part, bytes);
         m_remark = FuseRequests::remark(bytes);
         onClickWriteMessage();
     });
+    if (m_avrdude.isRunning()) {
+        m_accepted.note(part, bytes); // what was on the chip needs no new question when this fails
+        m_avrdude.fusesOnChip().forget(part);
+        emit known();
+    }
 }
 
 void FusesButtons::onClickVerifyBt()

@@ -5,13 +5,22 @@
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTimer>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int glance = 300; // milliseconds: what is over sooner needs no bar
+/// The word for what avrdude does, in the user's language.
+QString textOf(const QString& activity)
+{
+    static const char* const words[] = {QT_TRANSLATE_NOOP("RunBar", "Writing"), QT_TRANSLATE_NOOP("RunBar", "Reading"),
+                                        QT_TRANSLATE_NOOP("RunBar", "Verifying")};
+    for (const char* word : words) {
+        if (activity == QLatin1String(word))
+            return RunBar::tr(word);
+    }
+    return RunBar::tr("avrdude is working");
+}
 
 } // namespace
 
@@ -35,40 +44,39 @@ RunBar::RunBar(QAbstractScrollArea& log)
     m_stop->setFixedHeight(thickness);
     setFixedHeight(thickness);
     hide();
-    connect(m_stop, &QPushButton::clicked, this, [this] {
-        m_stop->setEnabled(false); // asked for
-        emit stopClicked();
-    });
-    log.installEventFilter(this);
+
+    constexpr int glance = 300; // milliseconds: what is over sooner needs no bar
+    m_wait.setInterval(glance);
+    m_wait.setSingleShot(true);
+    connect(&m_wait, &QTimer::timeout, this, &RunBar::come);
+    connect(m_stop, &QPushButton::clicked, this, &RunBar::stopClicked);
+    log.viewport()->installEventFilter(this);
 }
 
 void RunBar::setRunning(bool isRunning)
 {
     m_isRunning = isRunning;
-    m_stop->setEnabled(true);
-    setProgress(tr("avrdude is working"), 0);
-    m_bar->setRange(0, isRunning ? 0 : 1); // busy until avrdude tells how far it is
-    if (!isRunning) {
-        hide();
-        emit shown(false);
+    if (isRunning) {
+        setProgress({}, -1);
+        if (!isVisible())
+            m_wait.start();
         return;
     }
-    QTimer::singleShot(glance, this, [this] {
-        if (!m_isRunning)
-            return;
-        place();
-        show();
-        raise();
-        emit shown(true);
+    m_wait.stop();
+    QTimer::singleShot(0, this, [this] { // the next of several begins at once
+        if (!m_isRunning && isVisible())
+            go();
     });
 }
 
 void RunBar::setProgress(const QString& activity, int percent)
 {
-    m_bar->setRange(0, 100);
+    m_bar->setRange(0, percent < 0 ? 0 : 100);
     m_bar->setValue(percent);
-    m_bar->setFormat(activity + QStringLiteral(" %p%"));
-    m_bar->setAccessibleName(activity);
+    const QString text = textOf(activity);
+    m_bar->setFormat(text + QStringLiteral(" %p%"));
+    if (m_bar->accessibleName() != text)
+        m_bar->setAccessibleName(text);
 }
 
 void RunBar::flash()
@@ -79,9 +87,20 @@ void RunBar::flash()
     alarm.setColor(QPalette::Window, alarm.color(QPalette::Highlight));
     m_bar->setPalette(alarm);
     setPalette(alarm);
+    if (!isVisible()) {
+        m_stop->hide(); // too short to be pressed, or nothing runs
+        place();
+        show();
+    }
     QTimer::singleShot(blink, this, [this] {
         m_bar->setPalette({});
         setPalette({});
+        if (m_stop->isHidden()) {
+            hide();
+            m_stop->show();
+            if (m_isRunning)
+                m_wait.start();
+        }
     });
 }
 
@@ -90,6 +109,23 @@ bool RunBar::eventFilter(QObject* object, QEvent* event)
     if (event->type() == QEvent::Resize)
         place();
     return QWidget::eventFilter(object, event);
+}
+
+void RunBar::come()
+{
+    m_stop->show();
+    place();
+    show();
+    raise();
+    emit shown(true);
+}
+
+void RunBar::go()
+{
+    if (m_stop->hasFocus())
+        m_log.setFocus();
+    hide();
+    emit shown(false);
 }
 
 void RunBar::place()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 class QAbstractScrollArea;
@@ -15,10 +16,11 @@ class RunBar : public QWidget
 public:
     explicit RunBar(QAbstractScrollArea& log);
 
-    /// A run begins or has ended.
+    /// A run begins or has ended. Several that follow each other at once are one to the eye.
     void setRunning(bool isRunning);
 
-    /// Shows what is being done, in words, and how much of it is done, 0 to 100 (percent).
+    /// Shows what avrdude does, in its own word ("Writing"), and how much of it is done, 0 to 100 percent; -1: there is
+    /// no telling.
     void setProgress(const QString& activity, int percent);
 
     /// Gives a sign that a click has gone nowhere because of the run.
@@ -34,10 +36,13 @@ signals:
     void stopClicked();
 
 private:
+    void come();
+    void go();
     void place();
 
     QAbstractScrollArea& m_log;
     QProgressBar* m_bar;
     QPushButton* m_stop;
+    QTimer m_wait;
     bool m_isRunning = false;
 };

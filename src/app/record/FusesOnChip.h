@@ -18,6 +18,9 @@ public:
         }
     }
 
+    /// Forgets what is known of @p part: its bytes are about to change.
+    void forget(const QString& part) { m_values.remove(part); }
+
     /// Whether anything is known of @p part.
     [[nodiscard]] bool knows(const QString& part) const { return m_values.contains(part); }
 
