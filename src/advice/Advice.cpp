@@ -2,6 +2,7 @@
 
 #include "advice/Aftermath.h"
 #include "advice/Surroundings.h"
+#include "avrdude/Avrdude.h"
 #include "mcu/description/BytesModel.h"
 #include "mcu/description/SignatureIndex.h"
 #include "settings/SettingsModel.h"
@@ -46,18 +47,26 @@ bool fits(const QStringList& some, const QStringList& others)
     return std::any_of(some.begin(), some.end(), [&others](const QString& one) { return others.contains(one); });
 }
 
-/// The first programmers of the catalogue of which @p list has one of @p wanted, by name.
-QString programmersWith(QStringList ProgrammerEntry::*list, const QStringList& wanted)
+/// The programmers of the catalogue whose entry is @p meant, by name.
+template <class Meant> QStringList programmersWhere(Meant meant)
 {
-    constexpr int some = 4;
     QStringList names;
     const auto all = SettingsModel().programmerList();
     for (const QString& name : all) {
-        if (fits(SettingsModel::programmerEntry(name).*list, wanted))
+        if (meant(name, SettingsModel::programmerEntry(name)))
             names += name;
     }
     names.sort();
-    return join(names.mid(0, some));
+    return names;
+}
+
+/// The first of those of which @p list has one of @p wanted.
+QString programmersWith(QStringList ProgrammerEntry::*list, const QStringList& wanted)
+{
+    constexpr int some = 4;
+    return join(programmersWhere([&](const QString&, const ProgrammerEntry& entry) {
+                    return fits(entry.*list, wanted);
+                }).mid(0, some));
 }
 
 /// The first line in which avrdude tells of an error, else of a trouble, in quotation marks.
@@ -161,14 +170,9 @@ QStringList portRefused(const Case&)
 /// The other entries of the catalogue that speak the same language.
 QStringList entriesLike(const Case& of)
 {
-    QStringList names;
-    const auto all = SettingsModel().programmerList();
-    for (const QString& name : all) {
-        if (SettingsModel::programmerEntry(name).id == of.programmer.id && name != of.run.settings.programmer.name)
-            names += name;
-    }
-    names.sort();
-    return names;
+    return programmersWhere([&of](const QString& name, const ProgrammerEntry& entry) {
+        return entry.id == of.programmer.id && name != of.run.settings.programmer.name;
+    });
 }
 
 /// What is appended to a sentence that it makes concrete.
@@ -368,13 +372,6 @@ Explanation Advice::explain(const FailedRun& run, const Surroundings& surroundin
 
 QString Advice::portOf(const FailedRun& run)
 {
-    const QStringList arguments = run.settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    QString port = run.settings.port;
-    for (int i = 0; i < arguments.size(); ++i) {
-        if (arguments.at(i) == QLatin1String("-P"))
-            port = arguments.value(i + 1);
-        else if (arguments.at(i).startsWith(QLatin1String("-P")))
-            port = arguments.at(i).mid(2);
-    }
-    return port;
+    const QString own = Avrdude::ownPort(run.settings);
+    return own.isNull() ? run.settings.port : own;
 }

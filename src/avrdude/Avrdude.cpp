@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -78,7 +79,6 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
         return 0;
 
     m_run = {settings, arguments, {}, true, false};
-    m_stopped = false;
     m_progress.begin();
     m_process = new QProcess(this);
     m_killedOnError = false;
@@ -149,9 +149,9 @@ bool Avrdude::turnsAway()
 
 void Avrdude::stop()
 {
-    if (!m_process || !m_run.isStarted || m_killedOnError || m_stopped)
+    if (!m_process || !m_run.isStarted || m_killedOnError || m_run.isStopped)
         return;
-    m_stopped = true; // also of one that has just ended: nothing follows it
+    m_run.isStopped = true; // also of one that has just ended: nothing follows it
 #ifdef Q_OS_WIN
     m_process->kill(); // a program without a window does not hear of a polite request there
 #else
@@ -161,13 +161,20 @@ void Avrdude::stop()
 #endif
 }
 
+QString Avrdude::ownPort(const SettingsRecord& settings)
+{
+    const QStringList arguments = settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const auto found = std::find_if(arguments.rbegin(), arguments.rend(),
+                                    [](const QString& argument) { return argument.startsWith(QLatin1String("-P")); });
+    if (found == arguments.rend())
+        return {};
+    const bool isSeparate = found->size() == 2 && found != arguments.rbegin();
+    return isSeparate ? *std::prev(found) : found->mid(2);
+}
+
 bool Avrdude::mayUsePort()
 {
-    const QStringList arguments = m_settings.arguments.split(QLatin1Char(' '));
-    const bool hasOwnPort = std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
-        return argument.startsWith(QLatin1String("-P"));
-    });
-    if (isBusy() || !m_settings.hasFormerPort || hasOwnPort)
+    if (isBusy() || !m_settings.hasFormerPort || !ownPort(m_settings).isNull())
         return true;
     const QString question = tr("No serial port was found for %1: the port is still %2.");
     m_settings.hasFormerPort =
@@ -191,7 +198,7 @@ int Avrdude::addEditText()
     if (m_progress.take(errorText + outputText))
         emit progressed(m_progress.activity(), m_progress.percent());
 
-    if (!m_killedOnError && !m_stopped && Message::showsSilentProgrammer(errorText)) {
+    if (!m_killedOnError && !m_run.isStopped && Message::showsSilentProgrammer(errorText)) {
         m_killedOnError = true;
         m_process->kill();
         tellFailure(QStringLiteral("AVRDUDE"), tr("Programmer not found."));
@@ -204,7 +211,6 @@ void Avrdude::tellFailure(const QString& title, const QString& message)
 {
     FailedRun run = m_run;
     run.output = output();
-    run.isStopped = m_stopped;
     const Explanation explanation = m_explain(run);
     QApplication::beep();
     Box box(QMessageBox::Warning, title, message, explanation.lines.join(QLatin1Char('\n')), QMessageBox::Ok,
@@ -222,14 +228,14 @@ void Avrdude::tellFailure(const QString& title, const QString& message)
 void Avrdude::finishRun(int exitCode, QProcess::ExitStatus status, const Callback& callback)
 {
     emit runningChanged(false);
-    if (status == QProcess::CrashExit && !m_killedOnError && !m_stopped)
+    if (status == QProcess::CrashExit && !m_killedOnError && !m_run.isStopped)
         tellFailure(QStringLiteral("Information"), QStringLiteral("Process avrdude error"));
 
     m_process->disconnect(this);
     m_process->deleteLater();
     m_process = nullptr;
 
-    if (m_stopped) {
+    if (m_run.isStopped) {
         tellFailure(ProductInfo::name, tr("avrdude was stopped."));
         return;
     }

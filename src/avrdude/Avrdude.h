@@ -77,6 +77,10 @@ public:
 
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
 
+    /// The port that the extra arguments of @p settings name, which avrdude uses instead of the record's: the last one
+    /// counts. Null when they name none.
+    [[nodiscard]] static QString ownPort(const SettingsRecord& settings);
+
     /// What is known of the fuse bytes of chips. Who reads or writes them notes it.
     [[nodiscard]] FusesOnChip& fusesOnChip() { return m_fusesOnChip; }
 
@@ -121,7 +125,6 @@ private:
     Explainer m_explain = [](const FailedRun&) { return Explanation(); };
     FailedRun m_run; ///< the current or last one, without its output
     Progress m_progress;
-    bool m_stopped = false; ///< by the user
     bool m_killedOnError = false; ///< we ended the current run ourselves, and have told the user
     QString m_text; ///< the command line and the output of the current or last run, as they came
     int m_outputBegin = 0; ///< in that text

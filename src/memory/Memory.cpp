@@ -104,10 +104,10 @@ void Memory::startRead(Avrdude::Callback whenDone)
 
 void Memory::showWritten()
 {
-    // avrdude verifies what it wrote unless it was told not to, and says so.
+    // avrdude verifies what it wrote unless it was told not to, and says so: up to 7.x before it does, 8.x after it
+    // has, in the words of a verification alone, below the line that it writes.
     const QString output = m_avrdude.output();
     const QLatin1String memory(m_kind.memory);
-    // avrdude 8 says both in one line: "Writing 5000 bytes to flash".."5000 bytes of flash verified".
     static const QRegularExpression writing(QStringLiteral("^Writing \\d+ bytes? to "),
                                             QRegularExpression::MultilineOption);
     const bool verified = output.contains(QLatin1String("verifying ") + memory)
