@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/PlainLabels.h"
+
 #include <QMainWindow>
 
 class Avrdude;
@@ -45,6 +47,7 @@ private:
     void showRunning(bool isRunning);
     void askToClose();
 
+    PlainLabels m_plainLabels; ///< before all widgets
     QScrollArea* m_central;
     QWidget* m_content; ///< scrolls in it where the screen is too small
     AvrdudeMessage* m_log;

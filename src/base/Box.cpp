@@ -1,16 +1,14 @@
 #include "base/Box.h"
 
-#include "base/BoxText.h"
-
 #include <QLabel>
 
 #include <algorithm>
 
 Box::Box(Icon icon, const QString& title, const QString& text, const QString& below, StandardButtons buttons,
          QWidget* parent)
-    : QMessageBox(icon, title, boxText(text), buttons, parent)
+    : QMessageBox(icon, title, text, buttons, parent)
 {
-    setInformativeText(boxText(below));
+    setInformativeText(below);
     constexpr int comfortable = 320; // pixels; the toolkit breaks its lines where the text above ends, however short
     if (auto* label = findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         label->setMinimumWidth(std::min(comfortable, label->fontMetrics().boundingRect({}, 0, below).width() + 1));

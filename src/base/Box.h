@@ -2,7 +2,7 @@
 
 #include <QMessageBox>
 
-/// A modal box that says more than one text. All are shown as they stand, and never taken for markup.
+/// A modal box that says more than one text.
 class Box : public QMessageBox
 {
     Q_OBJECT

@@ -1,7 +1,5 @@
 #include "base/ElidedLabel.h"
 
-#include "base/BoxText.h"
-
 ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent)
     : QLabel(parent)
     , m_mode(mode)
@@ -14,7 +12,7 @@ void ElidedLabel::showLine(const QString& line)
 {
     m_line = line;
     setAccessibleName(line);
-    setToolTip(boxText(line));
+    setToolTip(line);
     updateGeometry();
     fit();
 }

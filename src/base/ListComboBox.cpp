@@ -1,7 +1,5 @@
 #include "base/ListComboBox.h"
 
-#include "base/BoxText.h"
-
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QCoreApplication>
@@ -47,7 +45,7 @@ ListComboBox::ListComboBox(Width width, QWidget* parent)
 bool ListComboBox::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(boxText(currentText()));
+        setToolTip(currentText());
     return QComboBox::event(event);
 }
 

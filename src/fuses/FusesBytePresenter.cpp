@@ -1,6 +1,5 @@
 #include "fuses/FusesBytePresenter.h"
 
-#include "base/BoxText.h"
 #include "fuses/FuseMeanings.h"
 #include "fuses/FusesByteModel.h"
 #include "fuses/FusesByteView.h"
@@ -36,7 +35,7 @@ bool isEditingKey(int key)
 void tell(QWidget* widget, const QStringList& texts)
 {
     const QString text = texts.join(QLatin1Char('\n'));
-    widget->setToolTip(boxText(text));
+    widget->setToolTip(text);
     widget->setAccessibleDescription(text);
     if (QToolTip::isVisible() && widget->underMouse()) // typing does not close it
         QToolTip::showText(QCursor::pos(), widget->toolTip(), widget);

@@ -2,7 +2,6 @@
 
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
-#include "base/BoxText.h"
 #include "fuses/Fuses.h"
 #include "mcu/Attributes.h"
 #include "mcu/AttributesView.h"
@@ -55,7 +54,6 @@ void Program::onMcuSelected(const QString& name)
     m_attributes->clearCalibration();
     m_fuses.loadMcu(name);
     m_fuses.rebuild();
-    QMessageBox::information(
-        m_attributesView, QStringLiteral("MCU"),
-        boxText(tr("MCU selected: ") + name + tr(".\nFuse bytes set to datasheet default values.")));
+    QMessageBox::information(m_attributesView, QStringLiteral("MCU"),
+                             tr("MCU selected: ") + name + tr(".\nFuse bytes set to datasheet default values."));
 }

@@ -1,7 +1,5 @@
 #include "memory/PathField.h"
 
-#include "base/BoxText.h"
-
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
@@ -77,7 +75,7 @@ void PathField::setFile(const QString& chosen)
 bool PathField::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(text().isEmpty() ? QString() : boxText(m_description(text())));
+        setToolTip(text().isEmpty() ? QString() : m_description(text()));
     return QLineEdit::event(event);
 }
 

@@ -3,7 +3,6 @@
 #include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
 #include "base/Box.h"
-#include "base/BoxText.h"
 #include "base/ElidedLabel.h"
 #include "base/JsonFile.h"
 #include "fuses/FuseRequests.h"
@@ -127,7 +126,7 @@ void ProfilesPresenter::saveProfile()
         place = profiles.findText(name, Qt::MatchFixedString);
     if (place >= 0) {
         const QString question = tr("Configuration named «%1» already exists.\nDo you want to overwrite it?").arg(name);
-        if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), boxText(question),
+        if (QMessageBox::question(&m_programmingView, QStringLiteral("Overwrite Confirmation"), question,
                                   QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
             != QMessageBox::Yes)
             return;

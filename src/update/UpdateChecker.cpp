@@ -1,6 +1,5 @@
 #include "update/UpdateChecker.h"
 
-#include "base/BoxText.h"
 #include "base/ProductInfo.h"
 
 #include <QApplication>
@@ -60,7 +59,7 @@ void UpdateChecker::onReplyFinished(QNetworkReply* reply)
         return;
     }
     const QString question = tr("New version %1 available.\n\nOpen download page?").arg(remote);
-    if (QMessageBox::question(window, tr("Update available"), boxText(question)) != QMessageBox::Yes)
+    if (QMessageBox::question(window, tr("Update available"), question) != QMessageBox::Yes)
         return;
     const QUrl page(url);
     // A page and nothing else: with another scheme the server could start any program that is registered for it.
