@@ -58,6 +58,45 @@ private slots:
         QTEST(m_opened.join(", "), "page");
     }
 
+    void serversThatCostTooMuch_data()
+    {
+        QTest::addColumn<QByteArray>("head");
+        QTest::addColumn<QByteArray>("rest"); // sent again and again
+        const QByteArray answer = R"({"version": "7.0", "url": "https://a"})";
+        const QByteArray whole = "Content-Length: " + QByteArray::number(answer.size()) + "\r\n\r\n" + answer;
+        QTest::newRow("honest") << "200 OK\r\n" + whole << QByteArray();
+        QTest::newRow("elsewhere") << "302 Found\r\nLocation: data:," + answer + "\r\n" + whole << QByteArray();
+        QTest::newRow("large") << "200 OK\r\n\r\n" + answer << QByteArray(65536, ' ');
+        QTest::newRow("large and whole") << "200 OK\r\nContent-Length: 70000\r\n\r\n" + answer.leftJustified(70000)
+                                         << QByteArray();
+        QTest::newRow("slow") << "200 OK\r\n\r\n" + answer << QByteArray(" ");
+        QTest::newRow("silent") << QByteArray() << QByteArray();
+    }
+
+    void serversThatCostTooMuch()
+    {
+        QFETCH(const QByteArray, head);
+        QFETCH(const QByteArray, rest);
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        qint64 sent = 0;
+        QTimer again;
+        connect(&server, &QTcpServer::newConnection, &again, [&] {
+            QTcpSocket* socket = server.nextPendingConnection();
+            socket->write(head.isEmpty() ? QByteArray() : "HTTP/1.1 " + head);
+            connect(&again, &QTimer::timeout, socket, [&, socket] { sent += socket->write(rest); });
+            again.start(10);
+        });
+        BoxAnswerer boxes;
+        boxes.button = QMessageBox::No;
+        UpdateChecker checker(QString("http://127.0.0.1:%1/").arg(server.serverPort()));
+        checker.setPatience(500);
+        checker.checkForUpdates();
+        QTRY_VERIFY_WITH_TIMEOUT(!checker.findChild<QNetworkReply*>(), 2000);
+        QCOMPARE(boxes.take().size(), QTest::currentDataTag() == QString("honest") ? 1 : 0);
+        QVERIFY(sent < 1 << 20); // by far not all that the large one would send
+    }
+
 private:
     QStringList m_opened;
 };

@@ -1,6 +1,8 @@
 #include "update/UpdateChecker.h"
 
+#include "base/Box.h"
 #include "base/ProductInfo.h"
+#include "base/ShownText.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -10,7 +12,22 @@
 #include <QMessageBox>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimer>
 #include <QVersionNumber>
+
+namespace {
+
+constexpr qint64 largestAnswer = 64 * 1024; // bytes, which is a hundred times what there is to say
+
+/// Whether @p text is short and begins as versions do, with a number. It is shown.
+bool isVersion(const QString& text)
+{
+    constexpr int longest = 20; // characters
+    return !text.isEmpty() && text.size() <= longest && text.at(0) >= QLatin1Char('0')
+        && text.at(0) <= QLatin1Char('9');
+}
+
+} // namespace
 
 UpdateChecker::UpdateChecker(QObject* parent)
     : UpdateChecker(defaultSource(), parent)
@@ -34,7 +51,15 @@ QUrl UpdateChecker::defaultSource()
 
 void UpdateChecker::checkForUpdates()
 {
-    QNetworkReply* reply = m_manager.get(QNetworkRequest(m_source));
+    QNetworkRequest request(m_source);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    QNetworkReply* reply = m_manager.get(request);
+    reply->setReadBufferSize(largestAnswer + 1);
+    connect(reply, &QNetworkReply::readyRead, this, [reply] {
+        if (reply->bytesAvailable() > largestAnswer)
+            reply->abort();
+    });
+    QTimer::singleShot(m_patience, reply, &QNetworkReply::abort); // one that trickles never ends by itself
     connect(reply, &QNetworkReply::finished, this, [this, reply] { onReplyFinished(reply); });
 }
 
@@ -45,9 +70,12 @@ void UpdateChecker::onReplyFinished(QNetworkReply* reply)
         qDebug().noquote() << "Update check error:" << reply->errorString();
         return;
     }
+    const bool isElsewhere = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).isValid();
+    if (isElsewhere || reply->bytesAvailable() > largestAnswer)
+        return;
     const QJsonObject answer = QJsonDocument::fromJson(reply->readAll()).object();
     const QString remote = answer.value(QLatin1String("version")).toString();
-    if (!isNewer(remote, ProductInfo::version))
+    if (!isVersion(remote) || !isNewer(remote, ProductInfo::version))
         return;
 
     QString url = answer.value(QLatin1String("url_linux")).toString();
@@ -58,12 +86,17 @@ void UpdateChecker::onReplyFinished(QNetworkReply* reply)
         QMessageBox::warning(window, tr("Error"), tr("Download URL is missing in server response."));
         return;
     }
-    const QString question = tr("New version %1 available.\n\nOpen download page?").arg(remote);
-    if (QMessageBox::question(window, tr("Update available"), question) != QMessageBox::Yes)
-        return;
     const QUrl page(url);
     // A page and nothing else: with another scheme the server could start any program that is registered for it.
-    const bool isPage = page.scheme() == QLatin1String("https") || page.scheme() == QLatin1String("http");
+    const bool isPage =
+        (page.scheme() == QLatin1String("https") || page.scheme() == QLatin1String("http")) && !page.host().isEmpty();
+    constexpr int longestShown = 200; // characters
+    const QString address = shownText(isPage ? page.toString(QUrl::FullyEncoded) : url, longestShown);
+    Box question(QMessageBox::Question, tr("Update available"),
+                 tr("New version %1 available.\n\nOpen download page?").arg(shownText(remote)), address,
+                 QMessageBox::Yes | QMessageBox::No, window);
+    if (question.exec() != QMessageBox::Yes)
+        return;
     if (!isPage || !QDesktopServices::openUrl(page))
         QMessageBox::warning(QApplication::activeWindow(), tr("Error"), tr("Could not open the link."));
 }

@@ -22,7 +22,11 @@ public:
     /// The address at the distributor's update server.
     [[nodiscard]] static QUrl defaultSource();
 
-    /// Sends the request and returns at once.
+    /// How long the whole answer may take, in milliseconds; 15 seconds unless set.
+    void setPatience(int milliseconds) { m_patience = milliseconds; }
+
+    /// Sends the request and returns at once. No redirect is followed, and an answer that takes too long or has more
+    /// than 64 KiB is none.
     void checkForUpdates();
 
     /// Evaluates @p reply, which is released. A newer version opens a question; a fault is a line in the debug log.
@@ -39,4 +43,5 @@ signals:
 private:
     QNetworkAccessManager m_manager {this};
     QUrl m_source;
+    int m_patience = 15000;
 };
