@@ -4,15 +4,7 @@
 share=$prefix/share/korvel
 library=$prefix/lib/korvel
 
-# Says what went wrong: in the terminal, and, started from a menu, in a box if the desktop has a tool for one.
-tell() {
-    echo "korvel: $1" >&2
-    [ -t 2 ] && return
-    if command -v zenity >/dev/null; then zenity --error --text="$1"
-    elif command -v kdialog >/dev/null; then kdialog --error "$1"
-    elif command -v xmessage >/dev/null; then xmessage "$1"
-    fi || true
-}
+. "$library/tell.sh"
 
 case ${XDG_DATA_HOME:-} in
 /*) work=$XDG_DATA_HOME/korvel ;;
@@ -28,11 +20,11 @@ taken() { [ -e "$1" ] || [ -L "$1" ]; }
 
 # What is the user's from the first start on. Moved into place, so that half a copy never counts.
 for starter in save.json profiles; do
-    taken "$starter" || { cp -R "$share/$starter" "$starter.new" && mv "$starter.new" "$starter"; } ||
-        tell "Korvel cannot write to $work."
+    taken "$starter" || { cp -R "$share/$starter" "$starter.new" && mv "$starter.new" "$starter"; } || unwritable=yes
 done
 
 # What ships.
 for data in mcu programmer Languages demo; do
-    taken "$data" || ln -s "$share/$data" "$data" || tell "Korvel cannot write to $work."
+    taken "$data" || ln -s "$share/$data" "$data" || unwritable=yes
 done
+[ -z "${unwritable-}" ] || tell "Korvel cannot write to $work."

@@ -1,0 +1,13 @@
+# Sourced by the launchers.
+
+# Says what went wrong: in the terminal, and to who started from a menu or a file manager in a box, if the desktop has a
+# tool for one.
+tell() {
+    echo "korvel: $1" >&2
+    [ -t 2 ] && return
+    if command -v zenity >/dev/null; then zenity --error --no-markup --title=Korvel --text="$1"
+    elif command -v kdialog >/dev/null; then kdialog --title Korvel --error "$1"
+    elif command -v xmessage >/dev/null; then xmessage "$1"
+    elif command -v notify-send >/dev/null; then notify-send Korvel "$1"
+    fi >/dev/null 2>&1 || true
+}
