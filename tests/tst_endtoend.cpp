@@ -39,6 +39,25 @@ private slots:
         }
     }
 
+    void namesThatAreNoOptions()
+    {
+        Desk desk;
+        const MemoryView* memory = desk.window->findChildren<MemoryView*>().at(1);
+        QStringList names {"-e.hex"};
+#ifndef Q_OS_WIN
+        names += {"a:b.hex", "x.hex:r", " b .hex", "flash:w:c.hex"};
+#endif
+        for (int i = 0; i < names.size(); ++i) {
+            const QByteArray sum = QByteArray::number(0xFF - i, 16).toUpper();
+            desk.folder.write(names[i], ":010000000" + QByteArray::number(i) + sum + "\n:00000001FF\n");
+            memory->writePath()->setText(names[i]);
+            QVERIFY(desk.boxAfter(memory->writeButton()).startsWith("EEPROM: EEPROM written successfully.\n"));
+            memory->readPath()->setText("back.bin");
+            QVERIFY(desk.boxAfter(memory->readButton()).startsWith("EEPROM: EEPROM read successfully."));
+            QCOMPARE(static_cast<int>(desk.folder.read("back.bin").at(0)), i);
+        }
+    }
+
     void fusesAndWholeChip()
     {
         Desk desk;

@@ -1,6 +1,5 @@
 #include "base/ElidedLabel.h"
 #include "mcu/description/BytesModel.h"
-#include "memory/MemoryRequest.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/Profiles.h"
 #include "profiles/ProgrammingView.h"
@@ -35,8 +34,8 @@ struct Board : Tab {
     Board()
     {
         settings.fusesEnable = true;
-        settings.cmdFlashWrite = QStringList {"flash"};
-        settings.cmdEepromWrite = QStringList {"eeprom"};
+        settings.cmdFlashWrite = QStringList {"-U", "flash:w:/f:a"};
+        settings.cmdEepromWrite = QStringList {"-U", "eeprom:w:/f:a"};
         settings.fusesBytes = {FuseByte {"", "lock", {}, 0, 0xFE}};
     }
 
@@ -63,6 +62,12 @@ struct Board : Tab {
         }
     }
 
+    /// The areas that were written, by avrdude's names.
+    QString written() const
+    {
+        return requests().replaceInStrings(QRegularExpression("^-U ?(\\w+):.*"), "\\1").join(' ');
+    }
+
     /// Lets all runs end.
     void finish()
     {
@@ -86,6 +91,7 @@ private slots:
         tab.folder.write("profiles/notes.JSON", ""); // none
         QCOMPARE(Profiles(tab.avrdude, nullptr).findChild<QComboBox*>()->count(), 1);
         tab.settings = {};
+        tab.settings.avrdude = STAND_IN;
         emit tab.profiles->textActivated("Плата №1 ");
         QCOMPARE(tab.settings.mcuName + tab.settings.description + tab.settings.currentlyProfilesList,
                  QString("ATtiny85 Rev. B Плата №1 "));
@@ -163,10 +169,10 @@ private slots:
         const auto shown = [&] {
             return board.tab.findChild<ElidedLabel*>()->accessibleName().split(QString::fromUtf8(" · ")).join(", ");
         };
-        board.tick("f.f"); // nothing is known of the part, and the arguments are somebody's own
-        QCOMPARE(shown(), QString("m16, FLASH: flash, 1 fuse byte, no profile loaded"));
+        board.tick("f.f"); // nothing is known of the part, and no field shows the file
+        QCOMPARE(shown(), QString("m16, /f, 1 fuse byte, no profile loaded"));
         board.folder.write("mcu/ATmega16.json", R"({"id": "m16"})");
-        board.settings.cmdFlashWrite = MemoryRequest {"flash", "w", "C:/fw/a.hex", "i"}.arguments();
+        board.settings.flashWrite = "C:/fw/a.hex"; // the prepared command is another's
         board.tab.showBoard();
         QCOMPARE(shown(), QString("ATmega16, a.hex, 1 fuse byte, no profile loaded"));
         board.add("Board", "ATmega16");
@@ -270,12 +276,13 @@ private slots:
         board.write->click();
         SettingsRecord next = board.settings;
         next.mcuId = "t13";
-        next.cmdEepromWrite = QStringList {"next"};
+        next.cmdEepromWrite = QStringList {"-U", "eeprom:w:next:a"};
         next.fusesBytes[0].currentValue = 0;
         QVERIFY(next.saveToFile("next") && board.settings.loadFromFile("next"));
         QCOMPARE(board.boxes.wait().size(), 1);
-        QCOMPARE(board.requests(), QStringList({"eeprom", "-Ulock:w:0xfe:m"}));
-        QVERIFY(board.avrdude.log().toPlainText().contains(QRegularExpression("(?s) eeprom\n.* -Ulock:w:0xfe:m\n")));
+        QCOMPARE(board.written(), QString("eeprom lock"));
+        QVERIFY(
+            board.avrdude.log().toPlainText().contains(QRegularExpression("(?s) eeprom:w:.*\n.* -Ulock:w:0xfe:m\n")));
         QCOMPARE(board.folder.runs().last().section('\t', 1, 1), QString("m16"));
     }
 
@@ -296,7 +303,7 @@ private slots:
         for (const QString& area : cell("told").split(", "))
             box += area + " write successfully.\n" + area + " verify successfully." + (area == "Fuse bits" ? "" : "\n");
         QCOMPARE(board.boxes.wait(), QStringList {box});
-        QTEST(board.requests().join(' ').replace("-Ulock:w:0xfe:m", "lock"), "requests");
+        QTEST(board.written(), "requests");
     }
 
     void anAreaThatIsTickedLaterHasToBeOneThatCanBeWritten()
@@ -315,7 +322,7 @@ private slots:
         QCOMPARE(board.boxes.take(), QStringList {"EEPROM: The file has 5 bytes, the memory only 4."});
         board.finish(); // what was running goes on
         QCOMPARE(board.boxes.wait().size(), 1);
-        QCOMPARE(board.requests(), QStringList {"flash"});
+        QCOMPARE(board.written(), QString("flash"));
     }
 };
 

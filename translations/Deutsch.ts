@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude wurde gestoppt.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 ist kein gültiges Tempo: Stattdessen wird %2 benutzt.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Beim Lesen würde diese Datei ersetzt:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Sie ist größer als das, was gelesen wird: Bitte vorher in einen anderen Ordner verschieben.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude wurde nicht gestartet: %1 ist keine Kennung eines Mikrocontrollers.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>Der Chip würde umsonst gelöscht.
 Trotzdem fortfahren?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude würde dies nicht als Pfad einer Datei verstehen:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Der Weg zurück: alles löschen.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Hier gibt es kein Fuse-Byte: Es wurde keines übertragen.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Nicht übertragen, weil kein Fuse-Byte so heißt: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fuse-Bits erfolgreich geprüft.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>Profil seit dem Laden geändert</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>Der Befehl, der im Profil für diesen Speicher steht, schreibt keine Datei hinein. Er wird nicht ausgeführt:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Trotzdem löschen?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>Im Ordner %1 wurde nichts gefunden.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude erhält zusätzliche Argumente, die nicht in der Datei des Programmers stehen: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Trotzdem löschen?</translation>
     <message>
         <source>Language</source>
         <translation>Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>Das Profil verlangt, dass ein anderes Programm ausgeführt wird.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>Im Profil: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Derzeit benutzt: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Ein Programm kann am Computer alles tun, was man selbst tun kann. Soll ab jetzt das Programm aus dem Profil ausgeführt werden?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>Das Profil enthält Argumente, mit denen avrdude Dateien lesen oder schreiben könnte.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Sollen diese Argumente benutzt werden?</translation>
     </message>
 </context>
 <context>

@@ -276,6 +276,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude was stopped.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 is no speed: %2 is used.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Reading would replace this file:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>It is larger than what is read: move it away first.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude was not started: %1 is no identifier of a part.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -324,6 +340,10 @@
 Do you want to go on all the same?</source>
         <translation>The chip would be erased for nothing.
 Do you want to go on all the same?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude would not take this for the path of a file:</translation>
     </message>
 </context>
 <context>
@@ -441,6 +461,10 @@ The way back: erase all of it.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>There is no fuse byte here: none was sent.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Not sent, as no fuse byte is called so: %1</translation>
     </message>
 </context>
 <context>
@@ -765,6 +789,10 @@ Fuse bits verify successfully.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>profile changed since it was loaded</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>The command that the profile has for this memory does not write a file. It is not run:</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1209,10 @@ Do you want to delete it anyway?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>Nothing found in the folder %1.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude gets further arguments that the programmer&apos;s file does not have: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1195,6 +1227,33 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Language</source>
         <translation>Language</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>The profile wants another program to be run.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>In the profile: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>In use: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>A program can do whatever you can. Do you want the one of the profile to be run from now on?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>The profile has arguments with which avrdude may read or write files.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Do you want to use them?</translation>
     </message>
 </context>
 <context>

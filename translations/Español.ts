@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude ha sido detenido.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 no es una velocidad válida: en su lugar se usa la opción %2.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>La lectura reemplazaría este archivo:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Es más grande que lo que se va a leer: muévalo antes a otra carpeta.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude no se ha iniciado: %1 no es el identificador de un microcontrolador.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>El chip se borraría para nada.
 ¿Desea continuar de todos modos?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude no interpretaría esto como la ruta de un archivo:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Para recuperarlo: bórrelo todo.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Aquí no hay ningún byte de fusibles: no se ha transmitido ninguno.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>No transmitidos, porque ningún byte de fusibles se llama así: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fusibles verificados correctamente.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>perfil modificado desde que se cargó</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>El comando que el perfil contiene para esta memoria no graba ningún archivo en ella. No se ejecuta:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Do you want to delete it anyway?</source>
         <source>Nothing found in the folder %1.</source>
         <translation>No se encontró nada en la carpeta %1.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude recibe argumentos adicionales que no figuran en el archivo del programador: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Language</source>
         <translation>Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>El perfil pide que se ejecute otro programa.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>En el perfil: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>En uso: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Un programa puede hacer en el equipo todo lo que puede hacer usted. ¿Desea que a partir de ahora se ejecute el del perfil?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>El perfil contiene argumentos con los que avrdude podría leer o escribir archivos.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>¿Desea usar estos argumentos?</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude a été arrêté.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 n&apos;est pas une vitesse valide : l&apos;option %2 est utilisée à la place.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>La lecture remplacerait ce fichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Il est plus gros que ce qui sera lu : déplacez-le d&apos;abord dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude n&apos;a pas été lancé : %1 n&apos;est pas un identifiant de microcontrôleur.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>La puce serait effacée pour rien.
 Voulez-vous continuer quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude n&apos;interpréterait pas ceci comme le chemin d&apos;un fichier :</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Il n&apos;y a ici aucun octet de fusibles&#xa0;: aucun n&apos;a été transmis.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Non transmis, car aucun octet de fusibles ne s&apos;appelle ainsi : %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fusibles vérifiés.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>profil modifié depuis son chargement</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>La commande que le profil contient pour cette mémoire n&apos;y écrit aucun fichier. Elle n&apos;est pas exécutée :</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Le supprimer quand même ?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>Rien trouvé dans le dossier %1.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude reçoit des arguments supplémentaires qui ne figurent pas dans le fichier du programmateur : %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Language</source>
         <translation>Langue</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>Le profil demande l&apos;exécution d&apos;un autre programme.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>Dans le profil : %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Utilisé actuellement : %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Un programme peut faire sur l&apos;ordinateur tout ce que vous pouvez y faire vous-même. Voulez-vous désormais exécuter celui du profil ?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>Le profil contient des arguments avec lesquels avrdude pourrait lire ou écrire des fichiers.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Voulez-vous utiliser ces arguments ?</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude è stato fermato.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 non è una velocità valida: viene usata l&apos;opzione %2.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>La lettura sostituirebbe questo file:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>È più grande di ciò che viene letto: prima spostarlo in un&apos;altra cartella.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude non è stato avviato: %1 non è l&apos;identificativo di un microcontrollore.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>Il chip verrebbe cancellato inutilmente.
 Continuare comunque?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude non interpreterebbe questo testo come percorso di un file:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Per recuperarlo: cancellare tutto.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Qui non c&apos;è nessun byte dei fuse: non ne è stato trasmesso nessuno.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Non trasmessi, perché nessun byte dei fuse si chiama così: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fuse bit verificati correttamente.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>profilo modificato dopo il caricamento</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>Il comando che il profilo contiene per questa memoria non vi scrive nessun file. Non viene eseguito:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Eliminarlo comunque?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>Non è stato trovato nulla nella cartella %1.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude riceve argomenti aggiuntivi che non figurano nel file del programmatore: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Eliminarlo comunque?</translation>
     <message>
         <source>Language</source>
         <translation>Lingua</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>Il profilo richiede l&apos;esecuzione di un altro programma.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>Nel profilo: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>In uso: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Un programma può fare sul computer tutto ciò che può fare l&apos;utente. Eseguire d&apos;ora in poi quello del profilo?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>Il profilo contiene argomenti con cui avrdude potrebbe leggere o scrivere file.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Usare questi argomenti?</translation>
     </message>
 </context>
 <context>

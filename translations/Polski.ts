@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>Zatrzymano avrdude.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>Nieprawidłowa szybkość: %1. Zamiast niej użyto %2.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Odczyt zastąpiłby ten plik:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Plik jest większy niż odczytywane dane: najpierw przenieś go w inne miejsce.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>Nie uruchomiono avrdude: %1 nie jest identyfikatorem mikrokontrolera.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>Układ zostałby skasowany na darmo.
 Czy mimo to kontynuować?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude nie przyjmie tego jako ścieżki pliku:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Jak odzyskać układ: skasuj cały układ.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Nie ma tu bajtów fuse: żadnego nie wysłano.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Nie wysłano, bo żaden bajt fuse tak się nie nazywa: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Zweryfikowano fusebity.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>zmiany od wczytania profilu</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>Polecenie z profilu dla tej pamięci nie zapisuje w niej pliku, więc nie zostanie wykonane:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Usunąć mimo to?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>W katalogu %1 nic nie znaleziono.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude otrzymuje dodatkowe argumenty, których nie ma w pliku programatora: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Usunąć mimo to?</translation>
     <message>
         <source>Language</source>
         <translation>Język</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>Profil wskazuje inny program do uruchamiania.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>W profilu: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Obecnie używany: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Program może zrobić wszystko, co możesz zrobić Ty. Czy od teraz uruchamiać program z profilu?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>Profil zawiera argumenty, przez które avrdude może odczytywać lub zapisywać pliki.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Czy ich użyć?</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>O avrdude foi interrompido.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 não é uma velocidade válida: usando %2.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>A leitura substituiria este arquivo:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Ele é maior do que os dados a serem lidos: mova-o antes para outro lugar.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>O avrdude não foi iniciado: %1 não é um identificador de microcontrolador.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>O chip seria apagado em vão.
 Deseja continuar mesmo assim?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>O avrdude não aceitaria isto como caminho de arquivo:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Para recuperá-lo: apague tudo.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Não há byte de fuse aqui: nenhum foi enviado.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Não enviado, pois nenhum byte de fuse se chama assim: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fuse bits verificados com sucesso.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>perfil alterado após carregar</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>O comando do perfil para esta memória não grava um arquivo nela; por isso, não será executado:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Excluir mesmo assim?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>Nada encontrado na pasta %1.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>O avrdude recebe argumentos adicionais que não estão no arquivo do gravador: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Excluir mesmo assim?</translation>
     <message>
         <source>Language</source>
         <translation>Idioma</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>O perfil indica outro programa a ser executado.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>No perfil: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Em uso: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Um programa pode fazer tudo o que você pode. Deseja que o programa do perfil seja executado de agora em diante?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>O perfil tem argumentos com os quais o avrdude pode ler ou gravar arquivos.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Deseja usá-los?</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude durduruldu.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 geçerli bir hız değil: %2 kullanılıyor.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Okunan veriler bu dosyanın üzerine yazılacak:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Dosya, okunacak verilerden daha büyük: önce onu başka bir yere taşıyın.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude başlatılmadı: %1 bir mikrodenetleyici tanımlayıcısı değil.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>Çip boşuna silinmiş olur.
 Yine de devam edilsin mi?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude bunu dosya yolu olarak kabul etmez:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ Kurtarmak için: tümünü silin.</translation>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Burada fuse baytı yok: hiçbir bayt gönderilmedi.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Gönderilmedi, çünkü bu adda bir fuse baytı yok: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fuse bitleri başarıyla doğrulandı.</translation>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>yüklenen profil değişti</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>Profilde bu bellek için verilen komut, belleğe dosya yazmıyor. Komut çalıştırılmayacak:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Yine de silinsin mi?</translation>
         <source>Nothing found in the folder %1.</source>
         <translation>%1 klasöründe hiçbir şey bulunamadı.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude, programlayıcının dosyasında bulunmayan ek argümanlar alıyor: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Yine de silinsin mi?</translation>
     <message>
         <source>Language</source>
         <translation>Dil</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>Profil başka bir programın çalıştırılmasını istiyor.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>Profildeki: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Kullanılan: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Bir program, sizin yapabildiğiniz her şeyi yapabilir. Bundan sonra profildeki program çalıştırılsın mı?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>Profilde, avrdude programının dosya okumasına ya da yazmasına yol açabilecek argümanlar var.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Bu argümanlar kullanılsın mı?</translation>
     </message>
 </context>
 <context>

@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude остановлен.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>Недопустимая скорость: %1. Используется %2.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>При считывании будет заменён этот файл:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Он больше считываемых данных: сначала переместите его в другое место.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude не запущен: %1 не является идентификатором МК.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>МК будет стёрт впустую.
 Всё равно продолжить?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude не воспримет это как путь к файлу:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ The way back: erase all of it.</source>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Здесь нет ни одного фьюз-байта: ничего не отправлено.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Не отправлено, так как фьюз-байтов с такими именами нет: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fuse bits verify successfully.</source>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>профиль изменён после загрузки</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>Команда из профиля для этой памяти не записывает в неё файл. Она не будет выполнена:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Do you want to delete it anyway?</source>
         <source>Nothing found in the folder %1.</source>
         <translation>В папке %1 ничего не найдено.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude получает дополнительные аргументы, которых нет в файле программатора: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Language</source>
         <translation>Язык</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>Профиль требует запускать другую программу.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>В профиле: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Сейчас используется: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Запущенная программа может делать всё то же, что и вы. Запускать с этого момента программу, указанную в профиле?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>В профиле есть аргументы, с которыми avrdude может читать или записывать файлы.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Использовать эти аргументы?</translation>
     </message>
 </context>
 <context>

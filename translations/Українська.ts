@@ -277,6 +277,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude зупинено.</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>Неправильна швидкість: %1. Натомість використано %2.</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>Зчитування замінить цей файл:</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>Файл більший за дані, які буде зчитано: спершу перемістіть його в інше місце.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude не запущено: %1 не є ідентифікатором МК.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -325,6 +341,10 @@
 Do you want to go on all the same?</source>
         <translation>МК було б стерто даремно.
 Усе одно продовжити?</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude не прийме цього як шлях до файлу:</translation>
     </message>
 </context>
 <context>
@@ -442,6 +462,10 @@ The way back: erase all of it.</source>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>Тут немає фʼюз-байтів: жодного не надіслано.</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>Не надіслано, бо жоден фʼюз-байт так не називається: %1</translation>
     </message>
 </context>
 <context>
@@ -766,6 +790,10 @@ Fuse bits verify successfully.</source>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>завантажений профіль змінено</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>Команда з профілю для цієї памʼяті не записує в неї файлу, тож її не буде виконано:</translation>
     </message>
 </context>
 <context>
@@ -1182,6 +1210,10 @@ Do you want to delete it anyway?</source>
         <source>Nothing found in the folder %1.</source>
         <translation>У теці %1 нічого не знайдено.</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude отримує додаткові аргументи, яких немає у файлі програматора: %1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1196,6 +1228,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Language</source>
         <translation>Мова</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>У профілі вказано іншу програму для запуску.</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>У профілі: %1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>Зараз використовується: %1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>Програма може зробити все, що можете зробити ви. Відтепер запускати програму з профілю?</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>Профіль містить аргументи, через які avrdude може читати або записувати файли.</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>Використати їх?</translation>
     </message>
 </context>
 <context>

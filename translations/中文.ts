@@ -276,6 +276,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude 已停止。</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 不是有效的速度：将使用 %2。</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>读取将覆盖此文件：</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>此文件比要读取的数据大：请先将它移到别处。</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude 未启动：%1 不是单片机的标识符。</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -324,6 +340,10 @@
 Do you want to go on all the same?</source>
         <translation>芯片会被白白擦除。
 仍要继续吗？</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude 不会将以下内容视为文件路径：</translation>
     </message>
 </context>
 <context>
@@ -441,6 +461,10 @@ The way back: erase all of it.</source>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>这里没有熔丝字节：未发送任何内容。</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>未发送，因为没有名称如下的熔丝字节：%1</translation>
     </message>
 </context>
 <context>
@@ -765,6 +789,10 @@ Fuse bits verify successfully.</source>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>配置文件加载后已更改</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>配置文件为此存储器指定的命令不会将文件写入该存储器。不执行此命令：</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1209,10 @@ Do you want to delete it anyway?</source>
         <source>Nothing found in the folder %1.</source>
         <translation>在文件夹 %1 中没有找到任何内容。</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>avrdude 将收到编程器文件中没有的附加参数：%1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1195,6 +1227,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Language</source>
         <translation>语言</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>该配置文件要求运行另一个程序。</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>配置文件中：%1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>当前使用：%1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>程序一旦运行，就能执行您能执行的任何操作。从现在起要运行配置文件中指定的程序吗？</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>配置文件中含有可能让 avrdude 读取或写入文件的参数。</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>要使用这些参数吗？</translation>
     </message>
 </context>
 <context>

@@ -276,6 +276,22 @@
         <source>avrdude was stopped.</source>
         <translation>avrdude を停止しました。</translation>
     </message>
+    <message>
+        <source>%1 is no speed: %2 is used.</source>
+        <translation>%1 は速度として無効です。%2 を使用します。</translation>
+    </message>
+    <message>
+        <source>Reading would replace this file:</source>
+        <translation>読み出すと次のファイルが上書きされます：</translation>
+    </message>
+    <message>
+        <source>It is larger than what is read: move it away first.</source>
+        <translation>このファイルは読み出すデータより大きいため、先に別の場所へ移動してください。</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is no identifier of a part.</source>
+        <translation>avrdude を起動しませんでした。%1 はマイコンの識別子ではありません。</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -324,6 +340,10 @@
 Do you want to go on all the same?</source>
         <translation>チップが消去されるだけで終わります。
 それでも続行しますか？</translation>
+    </message>
+    <message>
+        <source>avrdude would not take this for the path of a file:</source>
+        <translation>avrdude は次の文字列をファイルのパスとして扱いません：</translation>
     </message>
 </context>
 <context>
@@ -441,6 +461,10 @@ The way back: erase all of it.</source>
     <message>
         <source>There is no fuse byte here: none was sent.</source>
         <translation>ここにはヒューズバイトがありません。何も送信していません。</translation>
+    </message>
+    <message>
+        <source>Not sent, as no fuse byte is called so: %1</source>
+        <translation>次の名前のヒューズバイトはないため、送信していません：%1</translation>
     </message>
 </context>
 <context>
@@ -765,6 +789,10 @@ Fuse bits verify successfully.</source>
     <message>
         <source>profile changed since it was loaded</source>
         <translation>プロファイル読込み後に変更あり</translation>
+    </message>
+    <message>
+        <source>The command that the profile has for this memory does not write a file. It is not run:</source>
+        <translation>プロファイルにあるこのメモリ用のコマンドは、ファイルを書き込むものではありません。このコマンドは実行しません：</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1209,10 @@ Do you want to delete it anyway?</source>
         <source>Nothing found in the folder %1.</source>
         <translation>フォルダー %1 には何も見つかりません。</translation>
     </message>
+    <message>
+        <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
+        <translation>書込器のファイルにない追加の引数を avrdude に渡します：%1</translation>
+    </message>
 </context>
 <context>
     <name>SettingsView</name>
@@ -1195,6 +1227,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+</context>
+<context>
+    <name>Trust</name>
+    <message>
+        <source>The profile wants another program to be run.</source>
+        <translation>このプロファイルは別のプログラムを実行するよう指定しています。</translation>
+    </message>
+    <message>
+        <source>In the profile: %1</source>
+        <translation>プロファイルの指定：%1</translation>
+    </message>
+    <message>
+        <source>In use: %1</source>
+        <translation>使用中：%1</translation>
+    </message>
+    <message>
+        <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
+        <translation>プログラムは、お使いのアカウントでできることを何でも行えます。今後、プロファイルで指定されたプログラムを実行しますか？</translation>
+    </message>
+    <message>
+        <source>The profile has arguments with which avrdude may read or write files.</source>
+        <translation>プロファイルには、avrdude がファイルを読み書きする可能性のある引数が含まれています。</translation>
+    </message>
+    <message>
+        <source>Do you want to use them?</source>
+        <translation>これらの引数を使いますか？</translation>
     </message>
 </context>
 <context>

@@ -2,7 +2,8 @@
 
 #include "advice/Aftermath.h"
 #include "advice/Surroundings.h"
-#include "avrdude/Avrdude.h"
+#include "avrdude/ExtraArguments.h"
+#include "avrdude/FailedRun.h"
 #include "mcu/description/BytesModel.h"
 #include "mcu/description/SignatureIndex.h"
 #include "settings/SettingsModel.h"
@@ -372,6 +373,6 @@ Explanation Advice::explain(const FailedRun& run, const Surroundings& surroundin
 
 QString Advice::portOf(const FailedRun& run)
 {
-    const QString own = Avrdude::ownPort(run.settings);
+    const QString own = ExtraArguments(run.settings.arguments).value('P');
     return own.isNull() ? run.settings.port : own;
 }

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #ifdef Q_OS_LINUX
 namespace {
@@ -42,6 +43,9 @@ Surroundings Surroundings::now(const QString& port)
             found.serialPorts += serial.name;
     }
     found.searchPath = qEnvironmentVariable("PATH");
-    found.portGroup = QFileInfo(port).group();
+    // Nobody is to be told to join the group of whatever file a profile calls its port.
+    static const QRegularExpression device(QStringLiteral("^/dev/(tty[A-Z]|parport|spidev|gpiochip)"));
+    if (QFileInfo(port).canonicalFilePath().contains(device))
+        found.portGroup = QFileInfo(port).group();
     return found;
 }

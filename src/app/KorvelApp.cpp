@@ -134,6 +134,11 @@ bool KorvelApp::loadSettings()
     return false;
 }
 
+bool KorvelApp::checksForUpdates() const
+{
+    return m_avrdude->settings().updateCheck;
+}
+
 QSize KorvelApp::sizeHint() const
 {
     return m_content->minimumSizeHint();

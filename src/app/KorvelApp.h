@@ -30,6 +30,9 @@ public:
     /// cannot be used: a box says so, and the log why, and under which other name the file is kept.
     bool loadSettings();
 
+    /// Whether the settings want a newer version to be asked for.
+    [[nodiscard]] bool checksForUpdates() const;
+
     /// The size at which nothing needs to be scrolled.
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -30,7 +30,10 @@ int main(int argc, char* argv[])
     window.setWindowIcon(QIcon(QStringLiteral(":/icons/logo.png")));
     Startup::moveToPointerScreen(window);
     std::optional<UpdateChecker> updateChecker;
-    Startup::afterFirstPaint(window, [&updateChecker] { updateChecker.emplace().checkForUpdates(); });
+    Startup::afterFirstPaint(window, [&] {
+        if (window.checksForUpdates())
+            updateChecker.emplace().checkForUpdates();
+    });
     window.show(); // which paints at once on some platforms
     return QApplication::exec();
 }

@@ -1,13 +1,19 @@
 #include "avrdude/Avrdude.h"
 
 #include "app/log/AvrdudeMessage.h"
+#include "app/record/Identifier.h"
+#include "avrdude/ExtraArguments.h"
 #include "base/Box.h"
+#include "base/JsonFile.h"
 #include "base/ProductInfo.h"
+#include "base/ShownText.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -17,12 +23,21 @@
 namespace {
 
 constexpr int startTimeout = 30000; // milliseconds
+constexpr int largestReading = 64; // bytes: a fuse byte has one, the lock of an AVR DA four; a firmware file has more
 constexpr char partProperty[] = "part"; // of a button that stands for one
 
 /// "375 kHz (-B 2)" and "-B 2" both give "-B 2".
 QString bitClockOption(const QString& speed)
 {
     return speed.split(QLatin1Char('(')).constLast().split(QLatin1Char(')')).constFirst();
+}
+
+/// Whether @p option sets the bit clock, with a unit or without one, or is empty; and nothing else.
+bool isBitClock(const QString& option)
+{
+    static const QRegularExpression clock(
+        QRegularExpression::anchoredPattern(QStringLiteral("(-B *[0-9]*\\.?[0-9]+ *[a-zA-Z]{0,3})?")));
+    return clock.match(option).hasMatch();
 }
 
 /// What every run begins with.
@@ -32,22 +47,43 @@ QStringList commonArguments(const SettingsRecord& settings)
         QStringLiteral("-p"),   settings.mcuId,       QStringLiteral("-c"),
         settings.programmer.id, QStringLiteral("-P"), settings.port,
     };
-    frame += settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    frame += bitClockOption(settings.speed); // one argument, blank included: avrdude takes it so
+    frame += ExtraArguments(settings.arguments).list();
+    const QString bitClock = bitClockOption(settings.speed);
+    frame += isBitClock(bitClock) ? bitClock : SettingsRecord().speed; // one argument, blank included: avrdude takes it
     return frame;
 }
 
-/// Whether a start of @p program would find it: a path where that leads, a bare name where the system looks for names.
-bool isFound(const QString& program)
+bool isPath(const QString& program)
 {
-    if (QDir::fromNativeSeparators(program).contains(QLatin1Char('/')))
-        return !QStandardPaths::findExecutable(program, {QDir::currentPath()}).isEmpty();
+    return QDir::fromNativeSeparators(program).contains(QLatin1Char('/'));
+}
+
+/// Where @p program is: a path where that leads, a bare name in the folders of the search path, and on Windows first
+/// beside this program. Not in the working folder, whatever the system thinks of that: what lies there may have come
+/// with somebody's files. Null when it is nowhere.
+QString findProgram(const QString& program)
+{
+    if (isPath(program))
+        return QStandardPaths::findExecutable(program, {QDir::currentPath()});
+    QStringList folders;
+    QString file = program;
 #ifdef Q_OS_WIN
-    if (!QStandardPaths::findExecutable(program, {QCoreApplication::applicationDirPath(), QDir::currentPath()})
-             .isEmpty())
-        return true;
+    folders += QCoreApplication::applicationDirPath();
+    if (QFileInfo(program).suffix().isEmpty())
+        file += QLatin1String(".exe"); // and no script of that name
 #endif
-    return !QStandardPaths::findExecutable(program).isEmpty();
+    const auto listed = qEnvironmentVariable("PATH").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    std::copy_if(listed.begin(), listed.end(), std::back_inserter(folders),
+                 [](const QString& folder) { return QDir::isAbsolutePath(folder); });
+    return folders.isEmpty() ? QString() : QStandardPaths::findExecutable(file, folders);
+}
+
+/// What to start for the bare name @p program. One that is nowhere is not left for the system to look for: the root
+/// folder, where only an administrator puts something, stands for that.
+QString pathOf(const QString& program)
+{
+    const QString found = findProgram(program);
+    return found.isNull() ? QDir::rootPath() + program : found;
 }
 
 } // namespace
@@ -70,7 +106,7 @@ Avrdude::~Avrdude()
 
 int Avrdude::execute(const QStringList& arguments, Callback callback)
 {
-    return mayUsePort() ? execute(m_settings, arguments, std::move(callback)) : 0;
+    return mayStart() ? execute(m_settings, arguments, std::move(callback)) : 0;
 }
 
 int Avrdude::execute(const SettingsRecord& settings, const QStringList& arguments, Callback callback)
@@ -100,12 +136,14 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     const QStringList allArguments = commonArguments(settings) + arguments;
     emit runningChanged(true);
     m_log->clear();
-    m_process->start(program, allArguments);
+    m_process->start(isPath(program) ? program : pathOf(program), allArguments);
     m_text = ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ') + allArguments.join(QLatin1Char(' '))
         + QLatin1Char('\n');
     m_outputBegin = static_cast<int>(m_text.size());
     m_findings = {};
     m_log->appendPlainText(m_text);
+    if (!isBitClock(bitClockOption(settings.speed)))
+        m_log->appendLine(tr("%1 is no speed: %2 is used.").arg(shownText(settings.speed), SettingsRecord().speed));
     if (!m_process->waitForStarted(startTimeout)) {
         // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart. One that starts
         // after all would work on the chip of somebody who was told that it does not.
@@ -124,14 +162,22 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
 
 int Avrdude::executeReading(const QStringList& arguments, const QStringList& files, Callback callback)
 {
-    if (turnsAway() || !mayUsePort())
+    if (turnsAway() || !mayStart())
         return 0; // the files may be those of the run in progress
-    const bool mayStart = isFound(m_settings.avrdude);
+    for (const QString& file : files) {
+        if (QFileInfo(file).isFile() && QFileInfo(file).size() > largestReading) {
+            Box::tell(QApplication::activeWindow(), ProductInfo::name, tr("Reading would replace this file:"),
+                      fullPath(file) + QLatin1Char('\n') + tr("It is larger than what is read: move it away first."),
+                      QMessageBox::Warning);
+            return 0;
+        }
+    }
+    const bool isFound = !findProgram(m_settings.avrdude).isNull();
     m_filesOfReading.clear();
     for (const QString& file : files) {
-        if (mayStart)
+        if (isFound && QFile::exists(file))
             QFile::remove(file);
-        if (!QFile::exists(file))
+        if (!file.isEmpty() && !QFile::exists(file))
             m_filesOfReading += file;
     }
     return execute(arguments, [this, generation = m_settings.generation, callback = std::move(callback)] {
@@ -161,20 +207,16 @@ void Avrdude::stop()
 #endif
 }
 
-QString Avrdude::ownPort(const SettingsRecord& settings)
+bool Avrdude::mayStart()
 {
-    const QStringList arguments = settings.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const auto found = std::find_if(arguments.rbegin(), arguments.rend(),
-                                    [](const QString& argument) { return argument.startsWith(QLatin1String("-P")); });
-    if (found == arguments.rend())
-        return {};
-    const bool isSeparate = found->size() == 2 && found != arguments.rbegin();
-    return isSeparate ? *std::prev(found) : found->mid(2);
-}
-
-bool Avrdude::mayUsePort()
-{
-    if (isBusy() || !m_settings.hasFormerPort || !ownPort(m_settings).isNull())
+    if (isBusy())
+        return true; // the call will be dropped
+    if (!isIdentifier(m_settings.mcuId)) {
+        m_log->appendLine(
+            tr("avrdude was not started: %1 is no identifier of a part.").arg(shownText(m_settings.mcuId)));
+        return false;
+    }
+    if (!m_settings.hasFormerPort || ExtraArguments(m_settings.arguments).has('P'))
         return true;
     const QString question = tr("No serial port was found for %1: the port is still %2.");
     m_settings.hasFormerPort =

@@ -49,7 +49,8 @@ public:
     /// execute() for a run that writes what it reads from the chip into @p files, for the record. Files of former
     /// readings go before it starts, so that none of them is taken for its own; they stay when avrdude cannot be found.
     /// @p callback is left out when another microcontroller or profile has taken the record over meanwhile: what was
-    /// read is not theirs.
+    /// read is not theirs. When one of the files is larger than anything that is read so, it is somebody's: a box says
+    /// so, and nothing is started.
     int executeReading(const QStringList& arguments, const QStringList& files, Callback callback);
 
     /// Of the last executeReading() the files but those that could not be removed: these would tell of a former
@@ -70,16 +71,13 @@ public:
     /// tells what the chip may hold; the callback does not run, whatever had been done.
     void stop();
 
-    /// Whether a run may go out to the record's port. Asks the user, once, when that port belongs to the programmer
-    /// before and the present one has none: what is plugged in there may be another chip. What runs with the record's
-    /// settings asks by itself, and does nothing when the answer is no.
-    [[nodiscard]] bool mayUsePort();
+    /// Whether a run may start with the record's settings. None may when the part's identifier is no identifier, as the
+    /// log then says. Asks the user, once, when the port belongs to the programmer before and the present one has none:
+    /// what is plugged in there may be another chip. What runs with the record's settings asks by itself, and does
+    /// nothing when the answer is no.
+    [[nodiscard]] bool mayStart();
 
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }
-
-    /// The port that the extra arguments of @p settings name, which avrdude uses instead of the record's: the last one
-    /// counts. Null when they name none.
-    [[nodiscard]] static QString ownPort(const SettingsRecord& settings);
 
     /// What is known of the fuse bytes of chips. Who reads or writes them notes it.
     [[nodiscard]] FusesOnChip& fusesOnChip() { return m_fusesOnChip; }

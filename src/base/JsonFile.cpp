@@ -4,10 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonParseError>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QThread>
 
 namespace {
+
+constexpr qint64 largest = 16 << 20; // bytes; the largest that ships has 51 thousand
 
 bool replaceFile(const QString& path, const QByteArray& content)
 {
@@ -27,7 +30,7 @@ JsonFile JsonFile::read(const QString& path)
     result.state = State::CannotOpen;
     QFile file(path);
     // A pipe would be waited for, and a device may never end.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || info.size() > largest || !file.open(QIODevice::ReadOnly))
         return result;
 
     QJsonParseError error;
@@ -87,6 +90,19 @@ QString fullPath(const QString& file)
     return QDir::toNativeSeparators(QDir().absoluteFilePath(file));
 }
 
+bool isDeviceName(const QString& name)
+{
+    static const QRegularExpression device(QStringLiteral("^(con|prn|aux|nul|(com|lpt)[0-9]) *(\\.|$)"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return name.contains(device);
+}
+
+QString jsonPath(const QString& folder, const QString& name)
+{
+    const bool leads = name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) || isDeviceName(name);
+    return !leads ? folder + QLatin1Char('/') + name + QLatin1String(".json") : QString();
+}
+
 QFileInfoList jsonFiles(const QString& folder)
 {
     // In this letter case only: another one is listed on every system and could be opened on some.
@@ -97,7 +113,9 @@ QStringList jsonBaseNames(const QString& folder)
 {
     QStringList names;
     const auto files = jsonFiles(folder);
-    for (const QFileInfo& file : files)
-        names.append(file.baseName());
+    for (const QFileInfo& file : files) {
+        if (!jsonPath(folder, file.baseName()).isNull())
+            names.append(file.baseName());
+    }
     return names;
 }

@@ -28,7 +28,7 @@ struct JsonFile {
     [[nodiscard]] QString reason() const;
 
     /// Reads the file at @p path whole. Failures are told by `state`; nothing is shown or logged. What is no regular
-    /// file, nor a link to one, is not opened.
+    /// file, nor a link to one, is not opened, nor is one of more than 16 MiB, which would hold up the window.
     [[nodiscard]] static JsonFile read(const QString& path);
 };
 
@@ -39,9 +39,17 @@ struct JsonFile {
 /// The path of @p file, relative to the working directory, as the system's users write it whole.
 [[nodiscard]] QString fullPath(const QString& file);
 
+/// Whether Windows takes @p name, and whatever begins with it and a dot, for a device ("nul", "com1") and no file.
+[[nodiscard]] bool isDeviceName(const QString& name);
+
+/// Path of the file in @p folder for what people call @p name ("ATmega16", "Deutsch"). Null for a name with a slash or
+/// a backslash and for that of a device, which could lead anywhere: names come from profiles too, and those from
+/// others.
+[[nodiscard]] QString jsonPath(const QString& folder, const QString& name);
+
 /// The "*.json" files in @p folder, in the order in which the file system lists them; none when there is no such
 /// folder.
 [[nodiscard]] QFileInfoList jsonFiles(const QString& folder);
 
-/// Their base names: up to the first dot.
+/// Their base names: up to the first dot. Those that jsonPath() knows no file for are left out.
 [[nodiscard]] QStringList jsonBaseNames(const QString& folder);

@@ -1,6 +1,11 @@
 #include "fuses/FuseRequests.h"
 
+#include "app/record/Identifier.h"
+#include "base/ShownText.h"
+
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -10,18 +15,38 @@ QString valueRequest(const FuseByte& byte, QLatin1String operation)
     return QStringLiteral("-U%1:%2:0x%3:m").arg(byte.id, operation, QString::number(byte.currentValue, 16));
 }
 
+/// Empty when no request is made for @p byte.
 QString fileName(const FuseByte& byte)
 {
-    return byte.id + QLatin1String(".hex");
+    return isIdentifier(byte.id) ? byte.id + QLatin1String(".hex") : QString();
 }
 
 } // namespace
+
+FuseBytes FuseRequests::sent(FuseBytes bytes)
+{
+    bytes.erase(std::remove_if(bytes.begin(), bytes.end(), [](const FuseByte& byte) { return !isIdentifier(byte.id); }),
+                bytes.end());
+    return bytes;
+}
+
+QString FuseRequests::leftOut(const FuseBytes& bytes)
+{
+    QStringList names;
+    for (const FuseByte& byte : bytes) {
+        if (!isIdentifier(byte.id))
+            names += shownText(byte.name + QLatin1String(" ( ") + byte.id + QLatin1String(" )"));
+    }
+    return names.isEmpty() ? QString()
+                           : QCoreApplication::translate("FuseRequests", "Not sent, as no fuse byte is called so: %1")
+                                 .arg(names.join(QLatin1String(", ")));
+}
 
 QStringList FuseRequests::write(const FuseBytes& bytes)
 {
     QStringList requests;
     QString lock;
-    for (const FuseByte& byte : bytes) {
+    for (const FuseByte& byte : sent(bytes)) {
         const QString request = valueRequest(byte, QLatin1String("w"));
         if (byte.id.startsWith(QLatin1String("lock")))
             lock += request;
@@ -35,7 +60,7 @@ QStringList FuseRequests::write(const FuseBytes& bytes)
 QStringList FuseRequests::verify(const FuseBytes& bytes)
 {
     QStringList requests;
-    for (const FuseByte& byte : bytes)
+    for (const FuseByte& byte : sent(bytes))
         requests += valueRequest(byte, QLatin1String("v"));
     return requests;
 }
@@ -43,7 +68,7 @@ QStringList FuseRequests::verify(const FuseBytes& bytes)
 QStringList FuseRequests::read(const FuseBytes& bytes)
 {
     QStringList requests;
-    for (const FuseByte& byte : bytes)
+    for (const FuseByte& byte : sent(bytes))
         requests += QStringLiteral("-U%1:r:%2:r").arg(byte.id, fileName(byte));
     return requests;
 }
@@ -59,5 +84,5 @@ QStringList FuseRequests::files(const FuseBytes& bytes)
 QString FuseRequests::remark(const FuseBytes& bytes)
 {
     return bytes.isEmpty() ? QCoreApplication::translate("FuseRequests", "There is no fuse byte here: none was sent.")
-                           : QString();
+                           : leftOut(bytes);
 }

@@ -1,5 +1,6 @@
 #include "fuses/Fuses.h"
 
+#include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
 #include "base/Box.h"
@@ -20,6 +21,7 @@ Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     : QWidget(parent)
     , m_settings(avrdude.settings())
     , m_onChip(avrdude.fusesOnChip())
+    , m_log(avrdude.log())
     , m_bytesModel(new BytesModel(m_settings, this))
     , m_legend(new FusesTextView(this))
     , m_scrollArea(new QScrollArea(this))
@@ -55,6 +57,9 @@ void Fuses::rebuild()
     m_bytes->rebuild();
     m_scrollArea->verticalScrollBar()->setValue(0);
     showLegend();
+    const QString leftOut = FuseRequests::leftOut(m_settings.fusesBytes);
+    if (!leftOut.isEmpty())
+        m_log.appendLine(leftOut);
 }
 
 void Fuses::refresh()

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class Avrdude;
+class AvrdudeMessage;
 class BytesModel;
 class FusesBytes;
 class FusesOnChip;
@@ -42,6 +43,7 @@ private:
 
     SettingsRecord& m_settings;
     const FusesOnChip& m_onChip;
+    AvrdudeMessage& m_log;
     BytesModel* m_bytesModel;
     FusesTextView* m_legend;
     QScrollArea* m_scrollArea;

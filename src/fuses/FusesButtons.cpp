@@ -56,7 +56,7 @@ void FusesButtons::onClickVerifyBt()
 void FusesButtons::setKnown(const QString& part, const FuseBytes& bytes, const QStringList& except)
 {
     m_accepted = {};
-    m_avrdude.fusesOnChip().note(part, bytes, except);
+    m_avrdude.fusesOnChip().note(part, FuseRequests::sent(bytes), except);
     emit known();
 }
 

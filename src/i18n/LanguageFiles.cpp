@@ -1,5 +1,7 @@
 #include "i18n/LanguageFiles.h"
 
+#include "base/JsonFile.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -16,5 +18,5 @@ QString LanguageFiles::folder(const QString& base)
 
 QString LanguageFiles::path(const QString& base, const QString& language)
 {
-    return folder(base) + QLatin1Char('/') + language + QLatin1String(".json");
+    return jsonPath(folder(base), language);
 }

@@ -11,7 +11,7 @@ namespace LanguageFiles {
 /// The folder of the language files below @p base.
 [[nodiscard]] QString folder(const QString& base);
 
-/// Path of the file of @p language (a name as the language list shows it) in that folder.
+/// Path of the file of @p language (a name as the language list shows it) in that folder; null as jsonPath() says.
 [[nodiscard]] QString path(const QString& base, const QString& language);
 
 } // namespace LanguageFiles

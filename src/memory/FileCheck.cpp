@@ -1,14 +1,18 @@
 #include "memory/FileCheck.h"
 
 #include "app/record/SettingsRecord.h"
+#include "avrdude/ExtraArguments.h"
 #include "base/Box.h"
+#include "base/ShownText.h"
 #include "mcu/description/BytesModel.h"
 #include "memory/FirmwareFile.h"
 #include "memory/MemoryRequest.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace {
 
@@ -17,31 +21,41 @@ QString say(const char* sentence)
     return QCoreApplication::translate("FileCheck", sentence);
 }
 
-/// Whether avrdude gets the option @p letter, which takes no value, alone or among others in one argument.
-bool hasOption(const SettingsRecord& settings, char letter)
-{
-    const QRegularExpression option(QStringLiteral("(^| )-[?ADFOVenqrstuvy]*%1").arg(QLatin1Char(letter)));
-    return settings.arguments.contains(option);
-}
-
 /// Whether avrdude erases the chip before it reads the file of @p request, for the sake of that file.
 bool erasesFirst(const SettingsRecord& settings, const MemoryRequest& request)
 {
-    if (request.memory != QLatin1String("flash") || request.operation != QLatin1String("w") || hasOption(settings, 'n'))
+    const ExtraArguments arguments(settings.arguments);
+    if (request.memory != QLatin1String("flash") || request.operation != QLatin1String("w") || arguments.has('n'))
         return false;
     // Of an ATxmega, whose identifiers all begin so, avrdude by itself erases no more than the pages that it writes.
     const bool isXmega = settings.mcuId.startsWith(QLatin1Char('x'));
-    return hasOption(settings, 'e') || !(isXmega || hasOption(settings, 'D'));
+    return arguments.has('e') || !(isXmega || arguments.has('D'));
+}
+
+/// Whether avrdude takes @p path for that of a file, and for the one that is shown. Blanks, colons and a minus sign at
+/// its beginning are no harm: it comes in one argument with what stands before and behind it.
+bool staysPath(const QString& path)
+{
+    const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
+    // "-" is what avrdude reads from and prints to; of "urboot:" and more 8.x makes a boot loader.
+    return path != QLatin1String("-") && !path.startsWith(QLatin1String("urboot:"))
+        && std::none_of(path.begin(), path.end(), isControl) && QFile::decodeName(QFile::encodeName(path)) == path;
 }
 
 } // namespace
 
 bool FileCheck::passes(QWidget* parent, const SettingsRecord& settings, const MemoryRequest& request)
 {
+    const QString title = request.memory.toUpper();
+    if (!staysPath(request.file)) {
+        Box::tell(parent, title,
+                  say(QT_TRANSLATE_NOOP("FileCheck", "avrdude would not take this for the path of a file:")),
+                  shownText(request.file));
+        return false;
+    }
     if (request.operation == QLatin1String("r"))
         return true;
     const qint64 memorySize = BytesModel::memorySize(settings, request.memory);
-    const QString title = request.memory.toUpper();
     const qint64 fileSize = QFileInfo(request.file).size();
     if (request.format == QLatin1String("r") && memorySize > 0 && fileSize > memorySize) {
         const char* tooLarge = QT_TRANSLATE_NOOP("FileCheck", "The file has %1 bytes, the memory only %2.");

@@ -8,6 +8,7 @@
 #include "memory/MemoryRequest.h"
 #include "memory/MemoryView.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMessageBox>
@@ -25,7 +26,7 @@ QString timeOf(const QFileInfo& info)
 
 } // namespace
 
-Memory::Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind, QObject* parent)
+Memory::Memory(MemoryView& view, Avrdude& avrdude, const MemoryKind& kind, QObject* parent)
     : QObject(parent)
     , m_view(view)
     , m_avrdude(avrdude)
@@ -43,7 +44,7 @@ void Memory::setFilePathWrite(const QString& path)
     SettingsRecord& settings = m_avrdude.settings();
     settings.*m_kind.writeFile = path;
     if (hasPath)
-        settings.*m_kind.writeCommand = request("w", path).arguments();
+        settings.*m_kind.writeCommand = m_kind.request("w", path).arguments();
     m_view.writeButton()->setEnabled(hasPath);
     m_view.writeVerifyButton()->setEnabled(hasPath);
     settings.*m_kind.enable = hasPath;
@@ -59,17 +60,7 @@ void Memory::setFilePathRead(const QString& path)
 
 QString Memory::setFormatFile(const QString& suffix) const
 {
-    // Those of Intel hex, raw and ELF files are avrdude's own. "m" for S-records is not (there it is a value on the
-    // command line, and S-records are "s"), so that avrdude refuses them. Deliberate: the guide tells the way out.
-    static const QHash<QString, QString> formats {
-        {QStringLiteral("hex"), QStringLiteral("i")},  {QStringLiteral("eep"), QStringLiteral("i")},
-        {QStringLiteral("bin"), QStringLiteral("r")},  {QStringLiteral("s19"), QStringLiteral("m")},
-        {QStringLiteral("srec"), QStringLiteral("m")}, {QStringLiteral("elf"), QStringLiteral("e")},
-    };
-    // Deliberate: no code of avrdude's own, but passed on unchanged, for the flash only.
-    if (m_kind.passesA90 && suffix == QLatin1String("a90"))
-        return suffix;
-    return formats.value(suffix, QStringLiteral("a"));
+    return m_kind.formatOf(suffix);
 }
 
 void Memory::refresh()
@@ -80,19 +71,20 @@ void Memory::refresh()
 
 void Memory::startWrite(Avrdude::Callback whenDone)
 {
-    const QStringList command = m_avrdude.settings().*m_kind.writeCommand; // a profile brings its own
-    start(MemoryRequest::from(command), command, std::move(whenDone));
+    const QStringList command = m_kind.commandFor(m_avrdude.settings()).value_or(QStringList());
+    if (!command.isEmpty())
+        start(MemoryRequest::from(command), command, std::move(whenDone));
 }
 
 void Memory::startVerify(const QString& file, Avrdude::Callback whenDone)
 {
-    const MemoryRequest verification = request("v", file);
+    const MemoryRequest verification = m_kind.request("v", file);
     start(verification, verification.arguments(), std::move(whenDone));
 }
 
 void Memory::startRead(Avrdude::Callback whenDone)
 {
-    const MemoryRequest reading = request("r", fileToRead());
+    const MemoryRequest reading = m_kind.request("r", fileToRead());
     if (m_avrdude.turnsAway() || !mayReplace(reading.file))
         return;
     start(reading, reading.arguments(), [this, file = reading.file, whenDone = std::move(whenDone)] {
@@ -123,7 +115,7 @@ void Memory::showVerified()
 void Memory::showRead()
 {
     const QFileInfo info(m_lastRead);
-    const MemoryRequest reading = request("r", m_lastRead);
+    const MemoryRequest reading = m_kind.request("r", m_lastRead);
     QString fault;
     if (!m_lastRead.isEmpty() && !info.exists())
         fault = tr("The file is not there: avrdude has not written it.");
@@ -132,12 +124,6 @@ void Memory::showRead()
         fault = tr("The file is empty: the chip is blank or locked, or the disk is full.");
     Box::tell(&m_view, QLatin1String(m_kind.title), tr(m_kind.read), fault,
               fault.isEmpty() ? QMessageBox::Information : QMessageBox::Warning);
-}
-
-MemoryRequest Memory::request(const char* operation, const QString& path) const
-{
-    return {QLatin1String(m_kind.memory), QLatin1String(operation), path,
-            setFormatFile(QFileInfo(path).suffix().toLower())};
 }
 
 bool Memory::mayReplace(const QString& path)
@@ -157,10 +143,12 @@ bool Memory::mayReplace(const QString& path)
 
 QString Memory::describe(const QString& path) const
 {
+    // A file of another computer is not looked at before somebody wants it: a login might go out to whoever named it.
+    const bool isElsewhere = QDir::fromNativeSeparators(path).startsWith(QLatin1String("//"));
     const QFileInfo info(path);
-    if (!info.isFile())
+    if (isElsewhere || !info.isFile())
         return fullPath(path);
-    const MemoryRequest writing = request("w", path);
+    const MemoryRequest writing = m_kind.request("w", path);
     const qint64 memorySize = BytesModel::memorySize(m_avrdude.settings(), writing.memory);
     const FirmwareFile file = FirmwareFile::read(path, writing.format, writing.memory, memorySize);
     QStringList lines {fullPath(path)};

@@ -1,37 +1,22 @@
 #pragma once
 
-#include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "memory/MemoryKind.h"
 
 #include <QDateTime>
 #include <QHash>
 #include <QObject>
 
-struct MemoryRequest;
 class MemoryView;
 
 /// The logic of one memory panel: keeps the two file paths of the settings record and writes, verifies and reads the
-/// memory through the runner. Flash and Eeprom are this design with a table of constants each.
+/// memory through the runner. Flash and Eeprom are this design with a MemoryKind each.
 /// Owned by the Programming tab, as is the view, which may go first. All that lasts lives in the settings record.
 class Memory : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What tells one memory from the other.
-    struct Kind {
-        const char* memory; ///< avrdude's name of the memory
-        const char* title; ///< of the boxes, untranslated
-        const char* written; ///< texts of the boxes, translated when shown
-        const char* verified;
-        const char* read;
-        QString SettingsRecord::*writeFile;
-        QString SettingsRecord::*readFile;
-        QStringList SettingsRecord::*writeCommand;
-        bool SettingsRecord::*enable;
-        bool passesA90; ///< the suffix "a90" goes to avrdude as its own format code
-    };
-
     /// Shows the settings record's two paths again.
     void refresh();
 
@@ -43,11 +28,11 @@ public slots:
     /// Stores the file to read into; the read row's buttons follow.
     void setFilePathRead(const QString& path);
 
-    /// avrdude's format code for a lower-case file @p suffix; "a" (detect) for an unknown one.
+    /// MemoryKind::formatOf() of this memory.
     [[nodiscard]] QString setFormatFile(const QString& suffix) const;
 
 protected:
-    Memory(MemoryView& view, Avrdude& avrdude, const Kind& kind, QObject* parent);
+    Memory(MemoryView& view, Avrdude& avrdude, const MemoryKind& kind, QObject* parent);
 
     [[nodiscard]] QString fileToWrite() const { return m_avrdude.settings().*m_kind.writeFile; }
     [[nodiscard]] QString fileToRead() const { return m_avrdude.settings().*m_kind.readFile; }
@@ -61,8 +46,6 @@ protected:
     void showRead();
 
 private:
-    /// What does @p operation ("r", "w", "v") with the file at @p path.
-    [[nodiscard]] MemoryRequest request(const char* operation, const QString& path) const;
     /// Runs @p arguments, which are those of @p request, unless something speaks against its file.
     void start(const MemoryRequest& request, const QStringList& arguments, Avrdude::Callback whenDone);
     /// Whether what is at @p path may go, which the user is asked if it seems to be theirs.
@@ -73,7 +56,7 @@ private:
 
     MemoryView& m_view;
     Avrdude& m_avrdude;
-    const Kind& m_kind;
+    const MemoryKind& m_kind;
     QHash<QString, QDateTime> m_read; ///< files that a reading wrote, with the time of that
     QString m_lastRead; ///< the one of the last reading
 };

@@ -8,6 +8,7 @@
 #include "profiles/ProfilesPresenter.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
+#include "profiles/Trust.h"
 
 #include <QComboBox>
 #include <QDebug>
@@ -54,8 +55,12 @@ void Profiles::loadProfile(const QString& name)
 {
     // A profile that cannot be read leaves the record as it is, but for its name.
     const QString path = ProfilesPresenter::profileFile(name);
-    const bool isLoaded = m_avrdude.settings().loadFromFile(path);
-    if (!isLoaded) {
+    SettingsRecord profile = m_avrdude.settings();
+    const bool isLoaded = profile.loadFromFile(path, SettingsRecord::File::Profile);
+    if (isLoaded) {
+        Trust::settle(this, profile, m_avrdude.settings());
+        m_avrdude.settings() = profile;
+    } else {
         qDebug().noquote() << "Profile not loaded:" << path;
         m_avrdude.log().appendLine(tr("Failed to load settings from file: ") + path);
     }

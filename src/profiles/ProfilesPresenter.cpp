@@ -5,10 +5,11 @@
 #include "base/Box.h"
 #include "base/ElidedLabel.h"
 #include "base/JsonFile.h"
+#include "base/ShownText.h"
 #include "fuses/FuseRequests.h"
 #include "mcu/description/BytesModel.h"
 #include "memory/FileCheck.h"
-#include "memory/MemoryRequest.h"
+#include "memory/MemoryKind.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
@@ -23,12 +24,13 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSignalBlocker>
 
 #include <utility>
 
 namespace {
+
+constexpr int longestShown = 300; // characters of what a profile brings, in a box
 
 /// All that decides what writing a board does.
 QStringList sentBy(const SettingsRecord& settings)
@@ -37,10 +39,9 @@ QStringList sentBy(const SettingsRecord& settings)
                      settings.port,    settings.speed,   settings.arguments};
     for (const bool isTicked : {settings.flashCheck, settings.eepromCheck, settings.fusesCheck})
         all += QString::number(isTicked ? 1 : 0);
-    for (const QStringList& arguments :
-         {settings.cmdFlashWrite, settings.cmdEepromWrite, FuseRequests::write(settings.fusesBytes)})
-        all += arguments;
-    return all;
+    for (const MemoryKind* kind : {&MemoryKind::flash, &MemoryKind::eeprom})
+        all += kind->commandFor(settings).value_or(settings.*kind->writeCommand);
+    return all + FuseRequests::write(settings.fusesBytes);
 }
 
 /// What keeps a profile from being called @p name, which becomes the name of a file; empty when nothing does.
@@ -56,9 +57,7 @@ QString faultOf(const QString& name)
             return ProfilesPresenter::tr("The name of a profile cannot hold any of these characters: %1")
                 .arg(forbidden);
     }
-    static const QRegularExpression device(QStringLiteral("^(con|prn|aux|nul|(com|lpt)[0-9]) *(\\.|$)"),
-                                           QRegularExpression::CaseInsensitiveOption);
-    if (name.contains(device))
+    if (isDeviceName(name))
         return ProfilesPresenter::tr("Windows keeps this name for a device. Choose another one.");
     constexpr int longest = 230; // bytes, of the 255 that most file systems allow: the rest is for endings
     if (name.toUtf8().size() > longest)
@@ -96,7 +95,7 @@ ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, C
 
 QString ProfilesPresenter::profileFile(const QString& name)
 {
-    return QLatin1String("./profiles/") + name + QLatin1String(".json");
+    return jsonPath(QStringLiteral("./profiles"), name);
 }
 
 void ProfilesPresenter::loadProfileFiles()
@@ -132,7 +131,7 @@ void ProfilesPresenter::saveProfile()
             return;
     }
     // Deliberate: the box below reports success even when the file could not be written. The log tells.
-    const bool isSaved = m_avrdude.settings().saveToFile(path);
+    const bool isSaved = m_avrdude.settings().saveToFile(path, SettingsRecord::File::Profile);
     setLoaded(isSaved);
     if (!isSaved) {
         qDebug().noquote() << "Profile not saved:" << path;
@@ -181,7 +180,10 @@ void ProfilesPresenter::refresh()
     {
         QComboBox& profiles = *m_programmingView.profiles();
         const QSignalBlocker blocker(profiles);
-        profiles.addItems(settings.configurationList);
+        for (const QString& name : settings.configurationList) {
+            if (!profileFile(name).isNull())
+                profiles.addItem(name);
+        }
         profiles.setCurrentText(settings.currentlyProfilesList);
     }
     const auto show = [](QCheckBox* checkBox, bool checked, bool enabled) {
@@ -219,15 +221,17 @@ void ProfilesPresenter::showBoard()
     const SettingsRecord& settings = m_avrdude.settings();
     // The name is shown everywhere, the identifier is what avrdude gets.
     QStringList line {BytesModel::description(settings).isEmpty() ? settings.mcuId : settings.mcuName};
-    const auto addFile = [&line](bool isTicked, const QLatin1String& area, const QStringList& command) {
-        const QString file = QFileInfo(MemoryRequest::from(command).file).fileName();
+    const auto addFile = [&](bool isTicked, const MemoryKind& kind) {
+        // Whole where no field shows it.
+        const QString file = MemoryRequest::from(kind.commandFor(settings).value_or(QStringList())).file;
+        const QString shown = (settings.*kind.writeFile).isEmpty() ? file : QFileInfo(file).fileName();
         if (isTicked)
-            line += file.isEmpty() ? area + QLatin1String(": ") + command.join(QLatin1Char(' ')) : file;
+            line += shown.isEmpty() ? QLatin1String(kind.title) + QLatin1String(": -") : shownText(shown);
     };
-    addFile(settings.flashCheck, QLatin1String("FLASH"), settings.cmdFlashWrite);
-    addFile(settings.eepromCheck, QLatin1String("EEPROM"), settings.cmdEepromWrite);
+    addFile(settings.flashCheck, MemoryKind::flash);
+    addFile(settings.eepromCheck, MemoryKind::eeprom);
     if (settings.fusesCheck) {
-        const auto count = settings.fusesBytes.size();
+        const auto count = FuseRequests::sent(settings.fusesBytes).size();
         line += count == 1 ? tr("1 fuse byte") : tr("%1 fuse bytes").arg(count);
     }
     if (m_loaded.isEmpty())
@@ -273,17 +277,29 @@ void ProfilesPresenter::startWriting()
     const SettingsRecord& settings = isNewBoard ? m_avrdude.settings() : m_board.settings;
     QVector<BoardWriting::Step> steps;
     QVector<MemoryRequest> requests;
-    const auto add = [&](const QCheckBox* area, BoardWriting::Step step, bool isEmpty, const QStringList& command) {
-        if (!area->isChecked() || (isEmpty && !isNewBoard))
-            return;
-        if (isNewBoard || !steps.isEmpty())
-            requests.append(MemoryRequest::from(command));
-        steps.append(step);
+    struct Area {
+        const QCheckBox* box;
+        BoardWriting::Step step;
+        const MemoryKind* kind; ///< null: the fuses
     };
-    add(m_selectView.flash(), &ProfilesPresenter::writeFlash, settings.cmdFlashWrite.isEmpty(), settings.cmdFlashWrite);
-    add(m_selectView.eeprom(), &ProfilesPresenter::writeEeprom, settings.cmdEepromWrite.isEmpty(),
-        settings.cmdEepromWrite);
-    add(m_selectView.fuses(), &ProfilesPresenter::writeFuses, settings.fusesBytes.isEmpty(), {});
+    for (const Area& area : {Area {m_selectView.flash(), &ProfilesPresenter::writeFlash, &MemoryKind::flash},
+                             {m_selectView.eeprom(), &ProfilesPresenter::writeEeprom, &MemoryKind::eeprom},
+                             {m_selectView.fuses(), &ProfilesPresenter::writeFuses, nullptr}}) {
+        if (!area.box->isChecked())
+            continue;
+        const auto command = area.kind ? area.kind->commandFor(settings) : FuseRequests::verify(settings.fusesBytes);
+        if (!command) {
+            Box::tell(&m_programmingView, QLatin1String(area.kind->title),
+                      tr("The command that the profile has for this memory does not write a file. It is not run:"),
+                      shownText((settings.*area.kind->writeCommand).join(QLatin1Char(' ')), longestShown));
+            return;
+        }
+        if (command->isEmpty() && !isNewBoard)
+            continue;
+        if (isNewBoard || !steps.isEmpty())
+            requests.append(MemoryRequest::from(*command));
+        steps.append(area.step);
+    }
     if (steps.isEmpty())
         return;
     for (const MemoryRequest& request : std::as_const(requests)) {
@@ -291,7 +307,7 @@ void ProfilesPresenter::startWriting()
             return; // before any area is written; what is running goes on as it was
     }
     if (isNewBoard) {
-        if (!m_avrdude.mayUsePort())
+        if (!m_avrdude.mayStart())
             return;
         m_board = {};
         m_board.settings = m_avrdude.settings();
@@ -322,7 +338,7 @@ void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& argu
     m_avrdude.execute(m_board.settings, arguments, [this, area, told] {
         m_board.written.insert(area, told); // only now: a step that the runner dropped has written nothing
         if (area == BoardWriting::Area::Fuses) {
-            m_avrdude.fusesOnChip().note(m_board.settings.mcuId, m_board.settings.fusesBytes);
+            m_avrdude.fusesOnChip().note(m_board.settings.mcuId, FuseRequests::sent(m_board.settings.fusesBytes));
             emit fusesWritten();
         }
         nextStep();
@@ -331,13 +347,13 @@ void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& argu
 
 void ProfilesPresenter::writeFlash()
 {
-    runStep(BoardWriting::Area::Flash, m_board.settings.cmdFlashWrite,
+    runStep(BoardWriting::Area::Flash, MemoryKind::flash.commandFor(m_board.settings).value_or(QStringList()),
             tr("Flash write successfully.\nFlash verify successfully.\n"));
 }
 
 void ProfilesPresenter::writeEeprom()
 {
-    runStep(BoardWriting::Area::Eeprom, m_board.settings.cmdEepromWrite,
+    runStep(BoardWriting::Area::Eeprom, MemoryKind::eeprom.commandFor(m_board.settings).value_or(QStringList()),
             tr("Eeprom write successfully.\nEeprom verify successfully.\n"));
 }
 

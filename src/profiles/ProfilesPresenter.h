@@ -20,7 +20,8 @@ public:
     ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
                       ProgrammingView& programmingView, ElidedLabel& boardLine, QObject* parent);
 
-    /// Path of the file of the profile called @p name, which goes into it as typed. The folder is not made.
+    /// Path of the file of the profile called @p name, which goes into it as typed; null as jsonPath() says. The folder
+    /// is not made.
     [[nodiscard]] static QString profileFile(const QString& name);
 
     /// Lists the profiles of the folder "profiles"; leaves the list alone when there is no such folder.

@@ -2,9 +2,9 @@
 
 #include "base/JsonFile.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QVariant>
 
 SettingsModel::SettingsModel(QObject* parent, PortSource ports)
@@ -40,17 +40,20 @@ QStringList SettingsModel::languageList() const
 
 ProgrammerEntry SettingsModel::programmerEntry(const QString& name)
 {
-    const JsonFile file = JsonFile::read(QDir(programmerFolder()).filePath(name + QLatin1String(".json")));
+    const JsonFile file = JsonFile::read(jsonPath(programmerFolder(), name));
     const QJsonObject entry = file.document.object();
     const auto text = [&entry](const char* key) { return entry.value(QLatin1String(key)).toString(); };
     const auto list = [&entry](const char* key) {
         return QVariant(entry.value(QLatin1String(key)).toArray().toVariantList()).toStringList();
     };
+    // A line for the system's configuration may be made of these.
+    static const QRegularExpression usbNumbers(
+        QRegularExpression::anchoredPattern(QStringLiteral("[0-9a-fA-F]{4}:[0-9a-fA-F]{4}")));
     return {file.fault() ? file.faultText() : QString(),
             text("id"),
             text("arguments"),
             text("port"),
             list("interfaces"),
-            list("usb"),
+            list("usb").filter(usbNumbers),
             text("avrdude")};
 }

@@ -3,8 +3,10 @@
 #include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "avrdude/ExtraArguments.h"
 #include "base/JsonFile.h"
 #include "base/ProductInfo.h"
+#include "base/ShownText.h"
 #include "i18n/LanguageFiles.h"
 #include "settings/SettingsModel.h"
 #include "settings/SettingsView.h"
@@ -18,14 +20,14 @@
 SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, SettingsView& view, QObject* parent)
     : QObject(parent)
     , m_settings(avrdude.settings())
+    , m_log(avrdude.log())
     , m_model(model)
     , m_view(view)
 {
     // Filled before they are connected: what happens to stand first is no choice of the user's.
     view.programmer()->addItems(model.programmerList());
     if (view.programmer()->count() == 0)
-        avrdude.log().appendLine(
-            tr("Nothing found in the folder %1.").arg(fullPath(SettingsModel::programmerFolder())));
+        m_log.appendLine(tr("Nothing found in the folder %1.").arg(fullPath(SettingsModel::programmerFolder())));
     view.speed()->addItems(model.speedList());
     view.language()->addItems(model.languageList());
 
@@ -57,6 +59,8 @@ void SettingsPresenter::refreshFromSettings()
             entry.arguments = m_settings.arguments;
         choose(m_settings.programmer.name, entry);
     }
+    if (isStart || isReplaced)
+        logArguments();
     showPort();
     m_view.speed()->setCurrentText(m_settings.speed);
     m_view.language()->setCurrentText(m_settings.language);
@@ -96,6 +100,16 @@ void SettingsPresenter::tell(const ProgrammerEntry& entry)
 {
     if (!entry.fault.isEmpty())
         QMessageBox::information(&m_view, entry.fault, entry.fault);
+}
+
+void SettingsPresenter::logArguments()
+{
+    const ExtraArguments arguments(m_settings.arguments);
+    const ExtraArguments own(SettingsModel::programmerEntry(m_settings.programmer.name).arguments);
+    const QStringList further = arguments.list().mid(arguments.shared(own));
+    if (!further.isEmpty())
+        m_log.appendLine(tr("avrdude gets further arguments that the programmer's file does not have: %1")
+                             .arg(shownText(further.join(QLatin1Char(' ')))));
 }
 
 void SettingsPresenter::showProgrammer()

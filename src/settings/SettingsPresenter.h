@@ -3,6 +3,7 @@
 #include <QObject>
 
 class Avrdude;
+class AvrdudeMessage;
 class QComboBox;
 struct ProgrammerEntry;
 class SettingsModel;
@@ -58,10 +59,14 @@ private:
     /// Tells in a box why @p entry could not be read, if it could not.
     void tell(const ProgrammerEntry& entry);
 
+    /// Says in the log which arguments came in that are none of the catalogue's.
+    void logArguments();
+
     void showProgrammer();
     void showPort();
 
     SettingsRecord& m_settings;
+    AvrdudeMessage& m_log;
     SettingsModel& m_model;
     SettingsView& m_view;
     int m_shownGeneration = -1; ///< of the record, when it was last shown; -1: never

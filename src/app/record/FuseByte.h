@@ -23,6 +23,8 @@ struct FuseBit {
 /// bringTogether() keep them together; the other functions below change the number alone, and bringTogether() is due
 /// after them. Nothing else changes either.
 struct FuseByte {
+    static constexpr int most = 64; ///< of a part; those that there are have up to twelve
+
     QString name; ///< shown to the user
     QString id; ///< avrdude's name of the memory ("lfuse"); "lock..." marks the lock byte
     std::array<FuseBit, 8> fuseBits; ///< index 0 is the least significant bit

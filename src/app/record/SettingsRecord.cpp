@@ -7,7 +7,11 @@
 #include <QMap>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace {
+
+const QLatin1String updateCheckKey("updateCheck");
 
 // The keys of the settings file, once for the reader and the writer: "visit" is either, and is told of every member the
 // object that its key stands in (none: the file's own), the key, the member, and what a missing text becomes.
@@ -161,6 +165,7 @@ private:
         for (FuseBit& bit : bits) {
             Reader reader(array.at(number++)); // past the end there is nothing, which reads as a fresh bit
             visitBit(bit, reader);
+            bit.bitNumber = std::clamp(bit.bitNumber, 0, 7);
             bit.defaultBitValue = bit.defaultBitValue == 0 ? 0 : 1;
             bit.currentBitValue = bit.currentBitValue == 0 ? 0 : 1;
         }
@@ -172,6 +177,8 @@ private:
         bytes.clear();
         const QJsonArray array = json.toArray();
         for (const QJsonValue& element : array) {
+            if (bytes.size() == FuseByte::most)
+                break;
             FuseByte byte;
             Reader reader(element);
             visitByte(byte, reader);
@@ -186,21 +193,27 @@ private:
 
 } // namespace
 
-bool SettingsRecord::saveToFile(const QString& path) const
+bool SettingsRecord::saveToFile(const QString& path, File file) const
 {
     Writer writer;
     visitRecord(*this, writer);
-    return writeFile(path, QJsonDocument(writer.object()).toJson(QJsonDocument::Indented));
+    QJsonObject object = writer.object();
+    if (file == File::Settings && !updateCheck)
+        object.insert(updateCheckKey, false);
+    return writeFile(path, QJsonDocument(object).toJson(QJsonDocument::Indented));
 }
 
-bool SettingsRecord::loadFromFile(const QString& path)
+bool SettingsRecord::loadFromFile(const QString& path, File file)
 {
-    const JsonFile file = JsonFile::read(path);
-    if (!file.isObject())
+    const JsonFile json = JsonFile::read(path);
+    if (!json.isObject())
         return false;
     ++generation;
     hasFormerPort = false;
-    Reader reader(file.document.object());
+    const QJsonObject object = json.document.object();
+    if (file == File::Settings)
+        updateCheck = object.value(updateCheckKey).toBool(true);
+    Reader reader(object);
     visitRecord(*this, reader);
     return true;
 }

@@ -48,6 +48,9 @@ struct SettingsRecord {
     QStringList configurationList; ///< further profile names to offer
     QString currentlyProfilesList; ///< the profile chosen last
 
+    /// Whether to ask for a newer version. Of the settings file alone: no profile carries it.
+    bool updateCheck = true;
+
     /// Not a choice, and not stored: grows whenever a microcontroller or a file is loaded into the record, so that who
     /// waits for something from the chip can see whether it still belongs to what the record holds.
     int generation = 0;
@@ -55,11 +58,14 @@ struct SettingsRecord {
     /// Not stored either: the port is still that of the programmer before, as there was none to choose for this one.
     bool hasFormerPort = false;
 
+    /// What a file of the record is for: one person's settings, or a profile that goes from bench to bench.
+    enum class File { Settings, Profile };
+
     /// Writes the whole record to @p path. The file is replaced at once or not at all.
     /// Returns false, with the old file untouched, when it cannot be written.
-    [[nodiscard]] bool saveToFile(const QString& path) const;
+    [[nodiscard]] bool saveToFile(const QString& path, File file = File::Settings) const;
 
     /// Overwrites the whole record from @p path; a key that is missing or of the wrong type gives the field its
     /// fallback. Returns false, with the record unchanged, when the file cannot be read or holds no JSON object.
-    [[nodiscard]] bool loadFromFile(const QString& path);
+    [[nodiscard]] bool loadFromFile(const QString& path, File file = File::Settings);
 };

@@ -5,7 +5,6 @@
 #include "base/ProductInfo.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QMessageBox>
@@ -16,7 +15,7 @@ constexpr int highestBit = 7;
 
 JsonFile readDescription(const QString& name)
 {
-    return JsonFile::read(QDir(BytesModel::folder()).filePath(name + QLatin1String(".json")));
+    return JsonFile::read(jsonPath(BytesModel::folder(), name));
 }
 
 FuseByte readFuseByte(const QJsonObject& description)
@@ -66,8 +65,10 @@ FuseBytes BytesModel::fuseBytes(const QJsonObject& description)
 {
     FuseBytes fuseBytes;
     const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
-    for (const QJsonValue& byte : bytes)
-        fuseBytes.append(readFuseByte(byte.toObject()));
+    for (const QJsonValue& byte : bytes) {
+        if (fuseBytes.size() < FuseByte::most)
+            fuseBytes.append(readFuseByte(byte.toObject()));
+    }
     return fuseBytes;
 }
 
