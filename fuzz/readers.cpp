@@ -1,23 +1,33 @@
 // Harnesses for what reads more than plain texts out of what comes from outside: READER names the function that gets
 // the input.
 
+#include "app/KorvelApp.h"
 #include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
 #include "avrdude/Avrdude.h"
+#include "avrdude/ExtraArguments.h"
 #include "avrdude/ReadFile.h"
+#include "base/Box.h"
 #include "base/JsonFile.h"
 #include "fuses/FuseRequests.h"
 #include "fuses/FusesByteModel.h"
+#include "i18n/JsonToQtTranslator.h"
 #include "i18n/LanguageFiles.h"
 #include "i18n/TsConverter.h"
 #include "mcu/description/BytesModel.h"
 #include "mcu/description/SignatureIndex.h"
 #include "memory/FirmwareFile.h"
+#include "memory/MemoryKind.h"
+#include "profiles/ConfigurationView.h"
+#include "profiles/ProgrammingView.h"
+#include "settings/SettingsView.h"
 #include "support/BoxAnswerer.h"
 #include "support/WorkFolder.h"
 #include "update/UpdateChecker.h"
 
 #include <QNetworkReply>
+
+void allowFolders(const std::string& first, const std::string& second);
 
 /// What every harness starts with: an application without a screen, a working folder, and a hand that closes boxes.
 struct Fuzz {
@@ -41,6 +51,54 @@ void settings(Fuzz& fuzz, const QByteArray& input)
     if (!first.saveToFile("first.json") || !second.loadFromFile("first.json") || !second.saveToFile("second.json")
         || fuzz.folder.read("first.json") != fuzz.folder.read("second.json"))
         std::abort();
+}
+
+/// A profile, picked in the list of the whole window by somebody who says no to every question: the program stays the
+/// one in use, and what would be sent names no file but those that are shown.
+void profile(Fuzz& fuzz, const QByteArray& input)
+{
+    static auto& window = *new KorvelApp;
+    fuzz.folder.write("profiles/X.json", input);
+    auto& avrdude = *window.findChild<Avrdude*>();
+    SettingsRecord& record = avrdude.settings();
+    record = {};
+    window.refreshPanels();
+    emit window.findChild<ProgrammingView*>()->profiles()->textActivated("X");
+    bool isSafe = record.avrdude == "avrdude" && !ExtraArguments(record.arguments).reachFiles();
+    for (const MemoryKind* kind : {&MemoryKind::flash, &MemoryKind::eeprom}) {
+        const QStringList command = kind->commandFor(record).value_or(QStringList());
+        const QString& path = record.*kind->writeFile;
+        isSafe = isSafe
+            && (command.isEmpty()
+                || (command.size() == 2 && command[0] == "-U"
+                    && command[1].startsWith(kind->memory + QString(":w:") + path)));
+    }
+    for (const QString& file : FuseRequests::files(record.fusesBytes))
+        isSafe = isSafe && !file.contains('/') && !file.contains('\\');
+    if (!isSafe)
+        std::abort();
+}
+
+/// A programmer's entry in the catalogue, picked in the list.
+void programmer(Fuzz& fuzz, const QByteArray& input)
+{
+    fuzz.folder.write("programmer/X.json", input);
+    static auto& window = *new KorvelApp; // whose list has the first
+    window.findChild<SettingsView*>()->programmer()->setCurrentIndex(-1);
+    window.findChild<SettingsView*>()->programmer()->setCurrentText("X");
+}
+
+/// A language file, in a few views and a box.
+void language(Fuzz& fuzz, const QByteArray& input)
+{
+    static const bool isSet = qputenv("APPIMAGE", QFile::encodeName(QDir().absoluteFilePath("package")));
+    static_cast<void>(isSet);
+    fuzz.folder.write("Languages/X.json", input);
+    JsonToQtTranslator translator;
+    translator.loadLanguage("X");
+    QCoreApplication::installTranslator(&translator);
+    const ConfigurationView view;
+    Box::tell(nullptr, "X", JsonFile().faultText(), JsonFile().reason());
 }
 
 /// The description of a microcontroller: loaded, shown in the Fuses tab, and changed there.
@@ -74,9 +132,8 @@ void translation(Fuzz& fuzz, const QByteArray& input)
 }
 
 /// The update server's reply.
-void update(Fuzz& fuzz, const QByteArray& input)
+void update(Fuzz&, const QByteArray& input)
 {
-    fuzz.boxes.button = QMessageBox::No;
     static QNetworkAccessManager manager;
     static UpdateChecker checker;
     const QUrl url("data:application/json;base64," + QString::fromLatin1(input.toBase64()));
@@ -126,7 +183,11 @@ void firmware(Fuzz& fuzz, const QByteArray& input)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static Fuzz fuzz;
+    static auto& fuzz = *new Fuzz; // and the windows: at the end of the program the toolkit has gone before them
+    fuzz.boxes.button = QMessageBox::No;
+    allowFolders(QDir::currentPath().toStdString(),
+                 LanguageFiles::folder(QCoreApplication::applicationDirPath()).toStdString());
     READER(fuzz, {reinterpret_cast<const char*>(data), static_cast<int>(size)});
+    allowFolders({}, {});
     return 0;
 }

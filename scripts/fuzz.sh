@@ -8,7 +8,7 @@ export LC_ALL=C.UTF-8
 seconds=${1:-600}
 [ $# -gt 0 ] && shift
 readers=("$@")
-[ ${#readers[@]} -gt 0 ] || readers=(settings description translation update output firmware)
+[ ${#readers[@]} -gt 0 ] || readers=(settings profile programmer language description translation update output firmware)
 
 need_packages "${build_packages[@]}" clang
 version=$(clang++ -dumpversion)
@@ -21,6 +21,9 @@ cd build/fuzz
 mkdir -p findings
 seed() { mkdir -p "corpus/$1" && cp -n "${@:2}" "corpus/$1/"; }
 seed settings ../../data/save.json ../../data/profiles/*
+seed profile ../../data/profiles/*
+seed programmer ../../data/programmer/USBasp.json ../../data/programmer/Virtual*.json
+seed language ../../tests/data/settings.json
 seed description ../../data/mcu/ATmega16.json ../../data/mcu/ATtiny10.json
 seed translation ../../translations/Deutsch.ts
 seed firmware ../../data/demo/* ../../tests/data/*.elf
@@ -30,8 +33,13 @@ echo '{"version": "6.0", "url": "https://korvel.example", "url_linux": ""}' >cor
 echo 'avrdude: error: program enable: target does not answer. Device signature = 0xffffff' >corpus/output/error
 
 printf '"%s"\n' '\"mcu\":' '\"FuseBytes\":' '\"bits\":' '\"default\":' '\"fusesBytes\":' '\"currentValue\":' \
-    '\"version\":' '\"url\":' '\"id\":' '\"port\":' '<source>' '<translation' 'verification error' 'getsync()' >words
-[ -d /dev/shm ] && export TMPDIR=/dev/shm # the settings are synchronised to the disk at every save
+    '\"version\":' '\"url\":' '\"avrdude\":' '\"arguments\":' '\"cmdFlashWrite\":' '\"flashWrite\":' '\"id\":' \
+    '\"port\":' '-U' '../' '<img src=' '<source>' '<translation' 'verification error' 'getsync()' >words
+folders=/tmp
+[ ! -d /dev/shm ] || folders=/dev/shm # the settings are synchronised to the disk at every save
+TMPDIR=$(mktemp -d -p $folders)
+export TMPDIR
+trap 'rm -rf "$TMPDIR"' EXIT
 export QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=fast_unwind_on_malloc=0 \
     LSAN_OPTIONS=suppressions=$PWD/../../tests/leaks.supp
 status=0
