@@ -64,7 +64,8 @@ void profile(Fuzz& fuzz, const QByteArray& input)
     record = {};
     window.refreshPanels();
     emit window.findChild<ProgrammingView*>()->profiles()->textActivated("X");
-    bool isSafe = record.avrdude == "avrdude" && !ExtraArguments(record.arguments).reachFiles();
+    bool isSafe =
+        record.avrdude == "avrdude" && ExtraArguments(record.arguments).reachingFiles(ExtraArguments({})).isEmpty();
     for (const MemoryKind* kind : {&MemoryKind::flash, &MemoryKind::eeprom}) {
         const QStringList command = kind->commandFor(record).value_or(QStringList());
         const QString& path = record.*kind->writeFile;

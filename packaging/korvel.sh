@@ -2,7 +2,8 @@
 # Starts Korvel in this folder, which is also where it keeps what is yours: "save.json" and "profiles".
 set -eu
 cd "$(dirname "$(readlink -f "$0")")"
-. starter/tell.sh
+tell() { echo "korvel: $1" >&2; }
+[ ! -r starter/tell.sh ] || . starter/tell.sh
 
 if missing=$(ldd ./korvel | grep 'not found'); then
     tell "Korvel needs Qt 5.15. On Debian or Ubuntu: apt-get install libqt5widgets5 libqt5network5 libqt5serialport5

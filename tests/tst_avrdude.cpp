@@ -105,7 +105,7 @@ private slots:
         for (const char* program : {"./no-such-program", "no-such-program"}) {
             Bench bench;
             bench.avrdude.settings().avrdude = program;
-            bench.folder.write("lfuse.hex", "of a former reading");
+            bench.folder.write("lfuse.hex", "formerly");
             QCOMPARE(bench.avrdude.executeReading({}, {"lfuse.hex"}, [] { QFAIL("read"); }), -1);
             QVERIFY(bench.avrdude.log().toPlainText().contains("\navrdude not found"));
             QVERIFY(QFile::exists("lfuse.hex"));

@@ -1021,7 +1021,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;„%1“ ist als Name nicht möglich.&lt;/b&gt;&lt;p&gt;Bitte einen kürzeren Namen oder einen ohne Sonderzeichen versuchen.</translation>
+        <translation>„%1“ ist als Name nicht möglich. Bitte einen kürzeren Namen oder einen ohne Sonderzeichen versuchen.</translation>
     </message>
 </context>
 <context>

@@ -1020,7 +1020,7 @@ Do you want to delete it anyway?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</translation>
+        <translation>The name &quot;%1&quot; cannot be used. Try using another name, with fewer characters or no punctuation marks.</translation>
     </message>
 </context>
 <context>

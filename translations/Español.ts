@@ -1021,7 +1021,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;El nombre «%1» no se puede usar.&lt;/b&gt;&lt;p&gt;Pruebe otro más corto o sin signos de puntuación.</translation>
+        <translation>El nombre «%1» no se puede usar. Pruebe otro más corto o sin signos de puntuación.</translation>
     </message>
 </context>
 <context>

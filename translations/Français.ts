@@ -1021,7 +1021,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;Le nom « %1 » ne peut pas être utilisé.&lt;/b&gt;&lt;p&gt;Essayez un nom plus court ou sans ponctuation.</translation>
+        <translation>Le nom « %1 » ne peut pas être utilisé. Essayez un nom plus court ou sans ponctuation.</translation>
     </message>
 </context>
 <context>

@@ -1021,7 +1021,7 @@ Eliminarlo comunque?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;Il nome «%1» non può essere usato.&lt;/b&gt;&lt;p&gt;Provare un nome più corto o senza punteggiatura.</translation>
+        <translation>Il nome «%1» non può essere usato. Provare un nome più corto o senza punteggiatura.</translation>
     </message>
 </context>
 <context>

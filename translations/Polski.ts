@@ -1021,7 +1021,7 @@ Usunąć mimo to?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;Nazwy „%1” nie można użyć.&lt;/b&gt;&lt;p&gt;Spróbuj nazwy krótszej albo bez znaków interpunkcyjnych.</translation>
+        <translation>Nazwy „%1” nie można użyć. Spróbuj nazwy krótszej albo bez znaków interpunkcyjnych.</translation>
     </message>
 </context>
 <context>

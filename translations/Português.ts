@@ -1021,7 +1021,7 @@ Excluir mesmo assim?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;O nome “%1” não pode ser usado.&lt;/b&gt;&lt;p&gt;Tente um nome mais curto ou sem pontuação.</translation>
+        <translation>O nome “%1” não pode ser usado. Tente um nome mais curto ou sem pontuação.</translation>
     </message>
 </context>
 <context>

@@ -1021,7 +1021,7 @@ Yine de silinsin mi?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;“%1” adı kullanılamaz.&lt;/b&gt;&lt;p&gt;Daha kısa ya da noktalama işareti içermeyen bir ad deneyin.</translation>
+        <translation>“%1” adı kullanılamaz. Daha kısa ya da noktalama işareti içermeyen bir ad deneyin.</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,7 @@ namespace {
     QT_TRANSLATE_NOOP("QFileSystemModel", "Date Modified"),
     QT_TRANSLATE_NOOP("QFileSystemModel", "Computer"),
     QT_TRANSLATE_NOOP("QFileSystemModel", "Invalid filename"),
+    // The one with markup, which no label shows as such: the translations, the English one too, have none.
     QT_TRANSLATE_NOOP("QFileSystemModel",
                       "<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer "
                       "characters or no punctuation marks."),

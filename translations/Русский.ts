@@ -1021,7 +1021,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;Имя «%1» использовать нельзя.&lt;/b&gt;&lt;p&gt;Попробуйте имя короче или без знаков препинания.</translation>
+        <translation>Имя «%1» использовать нельзя. Попробуйте имя короче или без знаков препинания.</translation>
     </message>
 </context>
 <context>

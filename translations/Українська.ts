@@ -1021,7 +1021,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;Назву «%1» використати не можна.&lt;/b&gt;&lt;p&gt;Спробуйте коротшу або без розділових знаків.</translation>
+        <translation>Назву «%1» використати не можна. Спробуйте коротшу або без розділових знаків.</translation>
     </message>
 </context>
 <context>

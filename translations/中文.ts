@@ -1020,7 +1020,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;不能使用名称“%1”。&lt;/b&gt;&lt;p&gt;请换一个较短或不含标点符号的名称。</translation>
+        <translation>不能使用名称“%1”。请换一个较短或不含标点符号的名称。</translation>
     </message>
 </context>
 <context>

@@ -1020,7 +1020,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>&lt;b&gt;名前「%1」は使えません。&lt;/b&gt;&lt;p&gt;もっと短い名前か、記号のない名前にしてください。</translation>
+        <translation>名前「%1」は使えません。もっと短い名前か、記号のない名前にしてください。</translation>
     </message>
 </context>
 <context>

@@ -44,7 +44,7 @@ Surroundings Surroundings::now(const QString& port)
     }
     found.searchPath = qEnvironmentVariable("PATH");
     // Nobody is to be told to join the group of whatever file a profile calls its port.
-    static const QRegularExpression device(QStringLiteral("^/dev/(tty[A-Z]|parport|spidev|gpiochip)"));
+    static const QRegularExpression device(QStringLiteral("^/dev/(tty[A-Z]|cu[.aU]|rfcomm|parport|spidev|gpiochip)"));
     if (QFileInfo(port).canonicalFilePath().contains(device))
         found.portGroup = QFileInfo(port).group();
     return found;

@@ -23,7 +23,8 @@
 namespace {
 
 constexpr int startTimeout = 30000; // milliseconds
-constexpr int largestReading = 64; // bytes: a fuse byte has one, the lock of an AVR DA four; a firmware file has more
+constexpr int largestReading =
+    16; // bytes: a fuse byte has one, the lock of an AVR DA four; Intel HEX with data has more
 constexpr char partProperty[] = "part"; // of a button that stands for one
 
 /// "375 kHz (-B 2)" and "-B 2" both give "-B 2".
@@ -35,8 +36,8 @@ QString bitClockOption(const QString& speed)
 /// Whether @p option sets the bit clock, with a unit or without one, or is empty; and nothing else.
 bool isBitClock(const QString& option)
 {
-    static const QRegularExpression clock(
-        QRegularExpression::anchoredPattern(QStringLiteral("(-B *[0-9]*\\.?[0-9]+ *[a-zA-Z]{0,3})?")));
+    static const QRegularExpression clock(QRegularExpression::anchoredPattern(
+        QStringLiteral("(-B *\\+?([0-9]+\\.?[0-9]*|\\.[0-9]+)(e[+-]?[0-9]+)? *[a-zA-Z]{0,3})?")));
     return clock.match(option).hasMatch();
 }
 
@@ -55,33 +56,46 @@ QStringList commonArguments(const SettingsRecord& settings)
 
 bool isPath(const QString& program)
 {
+#ifdef Q_OS_WIN
+    if (program.contains(QLatin1Char(':')))
+        return true;
+#endif
     return QDir::fromNativeSeparators(program).contains(QLatin1Char('/'));
 }
 
 /// Where @p program is: a path where that leads, a bare name in the folders of the search path, and on Windows first
-/// beside this program. Not in the working folder, whatever the system thinks of that: what lies there may have come
+/// beside this program. Not in the working folder, whatever the system or that path say: what lies there may have come
 /// with somebody's files. Null when it is nowhere.
 QString findProgram(const QString& program)
 {
     if (isPath(program))
         return QStandardPaths::findExecutable(program, {QDir::currentPath()});
-    QStringList folders;
     QString file = program;
+    QStringList folders;
 #ifdef Q_OS_WIN
     folders += QCoreApplication::applicationDirPath();
-    if (QFileInfo(program).suffix().isEmpty())
+    static const QRegularExpression ending(QStringLiteral("\\.(exe|com|bat|cmd)$"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    if (!program.contains(ending))
         file += QLatin1String(".exe"); // and no script of that name
+#else
+    if (!qEnvironmentVariableIsSet("PATH"))
+        return QStandardPaths::findExecutable(file); // which knows the system's own
 #endif
+    const QString here = QDir::current().canonicalPath();
     const auto listed = qEnvironmentVariable("PATH").split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    std::copy_if(listed.begin(), listed.end(), std::back_inserter(folders),
-                 [](const QString& folder) { return QDir::isAbsolutePath(folder); });
+    std::copy_if(listed.begin(), listed.end(), std::back_inserter(folders), [&here](const QString& folder) {
+        return QDir::isAbsolutePath(folder) && QDir(folder).canonicalPath() != here;
+    });
     return folders.isEmpty() ? QString() : QStandardPaths::findExecutable(file, folders);
 }
 
-/// What to start for the bare name @p program. One that is nowhere is not left for the system to look for: the root
-/// folder, where only an administrator puts something, stands for that.
+/// What to start for @p program. A bare name that is nowhere is not left for the system to look for: the root folder,
+/// where only an administrator puts something, stands for that.
 QString pathOf(const QString& program)
 {
+    if (program.isEmpty() || isPath(program))
+        return program;
     const QString found = findProgram(program);
     return found.isNull() ? QDir::rootPath() + program : found;
 }
@@ -136,7 +150,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     const QStringList allArguments = commonArguments(settings) + arguments;
     emit runningChanged(true);
     m_log->clear();
-    m_process->start(isPath(program) ? program : pathOf(program), allArguments);
+    m_process->start(pathOf(program), allArguments);
     m_text = ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ') + allArguments.join(QLatin1Char(' '))
         + QLatin1Char('\n');
     m_outputBegin = static_cast<int>(m_text.size());
@@ -165,7 +179,8 @@ int Avrdude::executeReading(const QStringList& arguments, const QStringList& fil
     if (turnsAway() || !mayStart())
         return 0; // the files may be those of the run in progress
     for (const QString& file : files) {
-        if (QFileInfo(file).isFile() && QFileInfo(file).size() > largestReading) {
+        const QFileInfo info(file);
+        if (info.isFile() && !info.isSymLink() && info.size() > largestReading) {
             Box::tell(QApplication::activeWindow(), ProductInfo::name, tr("Reading would replace this file:"),
                       fullPath(file) + QLatin1Char('\n') + tr("It is larger than what is read: move it away first."),
                       QMessageBox::Warning);
@@ -175,9 +190,11 @@ int Avrdude::executeReading(const QStringList& arguments, const QStringList& fil
     const bool isFound = !findProgram(m_settings.avrdude).isNull();
     m_filesOfReading.clear();
     for (const QString& file : files) {
-        if (isFound && QFile::exists(file))
-            QFile::remove(file);
-        if (!file.isEmpty() && !QFile::exists(file))
+        if (file.isEmpty())
+            continue; // nothing is read for that one
+        if (isFound)
+            QFile::remove(file); // of a link only the link
+        if (!QFile::exists(file))
             m_filesOfReading += file;
     }
     return execute(arguments, [this, generation = m_settings.generation, callback = std::move(callback)] {

@@ -1,7 +1,6 @@
 #include "avrdude/ExtraArguments.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -10,36 +9,33 @@ const QLatin1String alone("?ADFNOVenqrstuvy");
 const QLatin1String withValue("BCEPTUYbcilpx");
 const QLatin1String harmless("?ADFNVenqrsuvyBEPYbcipx"); // left: -C, -T, -U, -l and -t name files, -O makes one
 
-bool isOneOf(const QLatin1String& letters, QChar letter)
-{
-    return letter.unicode() < 0x80 && std::strchr(letters.latin1(), letter.toLatin1()) && !letter.isNull();
-}
-
 } // namespace
 
 ExtraArguments::ExtraArguments(const QString& text)
-    : m_list(text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
 {
-    for (int i = 0; i < m_list.size(); ++i) {
-        const QString argument = m_list.at(i);
-        if (!argument.startsWith(QLatin1Char('-')))
-            continue; // avrdude passes over it
-        for (int place = 1; place < argument.size(); ++place) {
-            m_options += {argument.at(place), QStringLiteral(""), i};
-            if (isOneOf(alone, argument.at(place)))
+    const QStringList arguments = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+        Group group {{*argument}, {}};
+        const QString letters = argument->startsWith(QLatin1Char('-')) ? argument->mid(1) : QString();
+        for (int i = 0; i < letters.size(); ++i) {
+            group.options += {letters.at(i), QStringLiteral("")};
+            if (alone.contains(letters.at(i)))
                 continue;
-            m_options.last().value = argument.mid(place + 1);
-            if (m_options.last().value.isEmpty() && isOneOf(withValue, argument.at(place)) && i + 1 < m_list.size())
-                m_options.last().value = m_list.at(++i);
+            QString& value = group.options.last().value;
+            value = letters.mid(i + 1);
+            if (value.isEmpty() && withValue.contains(letters.at(i)) && std::next(argument) != arguments.end()) {
+                value = *++argument;
+                group.arguments += value;
+            }
             break;
         }
+        m_groups += group;
     }
 }
 
-int ExtraArguments::shared(const ExtraArguments& others) const
+QStringList ExtraArguments::list() const
 {
-    const int count = static_cast<int>(others.m_list.size());
-    return m_list.mid(0, count) == others.m_list ? count : 0;
+    return where([](const Group&) { return true; });
 }
 
 bool ExtraArguments::has(char letter) const
@@ -49,14 +45,56 @@ bool ExtraArguments::has(char letter) const
 
 QString ExtraArguments::value(char letter) const
 {
-    const auto found = std::find_if(m_options.rbegin(), m_options.rend(),
-                                    [letter](const Option& option) { return option.letter == QLatin1Char(letter); });
-    return found == m_options.rend() ? QString() : found->value;
+    QString found;
+    for (const Group& group : m_groups) {
+        for (const Option& option : group.options) {
+            if (option.letter == QLatin1Char(letter))
+                found = option.value;
+        }
+    }
+    return found;
 }
 
-bool ExtraArguments::reachFiles(int first) const
+QStringList ExtraArguments::furtherThan(const ExtraArguments& own) const
 {
-    return std::any_of(m_options.begin(), m_options.end(), [first](const Option& option) {
-        return option.argument >= first && !isOneOf(harmless, option.letter);
-    });
+    return where([&own](const Group& group) { return !own.covers(group); });
+}
+
+QStringList ExtraArguments::reachingFiles(const ExtraArguments& own) const
+{
+    return where([&own](const Group& group) { return !own.leavesFilesTo(group); });
+}
+
+QStringList ExtraArguments::reachingNoFiles(const ExtraArguments& own) const
+{
+    return where([&own](const Group& group) { return own.leavesFilesTo(group); });
+}
+
+QStringList ExtraArguments::where(const std::function<bool(const Group&)>& isWanted) const
+{
+    QStringList found;
+    for (const Group& group : m_groups) {
+        if (isWanted(group))
+            found += group.arguments;
+    }
+    return found;
+}
+
+bool ExtraArguments::covers(const Group& group) const
+{
+    return group.options.isEmpty()
+        ? list().contains(group.arguments.constFirst())
+        : std::all_of(group.options.begin(), group.options.end(), [this](const Option& one) { return covers(one); });
+}
+
+bool ExtraArguments::covers(const Option& option) const
+{
+    return std::any_of(m_groups.begin(), m_groups.end(),
+                       [&option](const Group& group) { return group.options.contains(option); });
+}
+
+bool ExtraArguments::leavesFilesTo(const Group& group) const
+{
+    return std::all_of(group.options.begin(), group.options.end(),
+                       [this](const Option& one) { return harmless.contains(one.letter) || covers(one); });
 }

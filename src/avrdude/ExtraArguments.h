@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
+
 /// The further arguments of a programmer's catalogue entry, a profile or the settings file, taken apart as avrdude
 /// takes its options: several without a value may share an argument ("-FV"), and a value may follow in the same
 /// argument or in the next. A plain value.
@@ -14,10 +16,7 @@ public:
     explicit ExtraArguments(const QString& text);
 
     /// Each as avrdude gets it.
-    [[nodiscard]] const QStringList& list() const { return m_list; }
-
-    /// How many arguments of the first are all of @p others; 0 when these begin otherwise.
-    [[nodiscard]] int shared(const ExtraArguments& others) const;
+    [[nodiscard]] QStringList list() const;
 
     /// Whether the option @p letter is among them.
     [[nodiscard]] bool has(char letter) const;
@@ -25,17 +24,34 @@ public:
     /// The value of the option @p letter, of several the last one's, which is the one that counts. Null without it.
     [[nodiscard]] QString value(char letter) const;
 
-    /// Whether an option from the argument number @p first on may make avrdude read or write files: it is known to, or
-    /// nothing is known of it.
-    [[nodiscard]] bool reachFiles(int first = 0) const;
+    /// Those that @p own, which go by the same programmer, do not have.
+    [[nodiscard]] QStringList furtherThan(const ExtraArguments& own) const;
+
+    /// Of those the ones that may make avrdude read or write files: they are known to, or nothing is known of them.
+    /// With their values, and with the options that share an argument with one.
+    [[nodiscard]] QStringList reachingFiles(const ExtraArguments& own) const;
+
+    /// All but those.
+    [[nodiscard]] QStringList reachingNoFiles(const ExtraArguments& own) const;
 
 private:
     struct Option {
         QChar letter; ///< a minus sign for an option that is a word
         QString value;
-        int argument; ///< the number of the one that it stands in
+
+        bool operator==(const Option& other) const { return letter == other.letter && value == other.value; }
     };
 
-    QStringList m_list;
-    QVector<Option> m_options;
+    /// An argument, and the one after it if that is its value.
+    struct Group {
+        QStringList arguments;
+        QVector<Option> options; ///< none where avrdude passes over it
+    };
+
+    [[nodiscard]] QStringList where(const std::function<bool(const Group&)>& isWanted) const;
+    [[nodiscard]] bool covers(const Group& group) const;
+    [[nodiscard]] bool covers(const Option& option) const;
+    [[nodiscard]] bool leavesFilesTo(const Group& group) const;
+
+    QVector<Group> m_groups;
 };

@@ -99,8 +99,11 @@ bool isDeviceName(const QString& name)
 
 QString jsonPath(const QString& folder, const QString& name)
 {
-    const bool leads = name.contains(QLatin1Char('/')) || name.contains(QLatin1Char('\\')) || isDeviceName(name);
-    return !leads ? folder + QLatin1Char('/') + name + QLatin1String(".json") : QString();
+    bool staysInside = !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\'));
+#ifdef Q_OS_WIN
+    staysInside = staysInside && !isDeviceName(name);
+#endif
+    return staysInside ? folder + QLatin1Char('/') + name + QLatin1String(".json") : QString();
 }
 
 QFileInfoList jsonFiles(const QString& folder)

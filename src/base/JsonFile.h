@@ -43,8 +43,7 @@ struct JsonFile {
 [[nodiscard]] bool isDeviceName(const QString& name);
 
 /// Path of the file in @p folder for what people call @p name ("ATmega16", "Deutsch"). Null for a name with a slash or
-/// a backslash and for that of a device, which could lead anywhere: names come from profiles too, and those from
-/// others.
+/// a backslash and, on Windows, for that of a device: it could lead anywhere, and names come from profiles too.
 [[nodiscard]] QString jsonPath(const QString& folder, const QString& name);
 
 /// The "*.json" files in @p folder, in the order in which the file system lists them; none when there is no such

@@ -59,6 +59,7 @@ void Profiles::loadProfile(const QString& name)
     const bool isLoaded = profile.loadFromFile(path, SettingsRecord::File::Profile);
     if (isLoaded) {
         Trust::settle(this, profile, m_avrdude.settings());
+        profile.generation = m_avrdude.settings().generation + 1; // a box may have changed the record meanwhile
         m_avrdude.settings() = profile;
     } else {
         qDebug().noquote() << "Profile not loaded:" << path;

@@ -278,20 +278,19 @@ void ProfilesPresenter::startWriting()
     QVector<BoardWriting::Step> steps;
     QVector<MemoryRequest> requests;
     struct Area {
+        const MemoryKind& kind;
         const QCheckBox* box;
         BoardWriting::Step step;
-        const MemoryKind* kind; ///< null: the fuses
     };
-    for (const Area& area : {Area {m_selectView.flash(), &ProfilesPresenter::writeFlash, &MemoryKind::flash},
-                             {m_selectView.eeprom(), &ProfilesPresenter::writeEeprom, &MemoryKind::eeprom},
-                             {m_selectView.fuses(), &ProfilesPresenter::writeFuses, nullptr}}) {
+    for (const Area& area : {Area {MemoryKind::flash, m_selectView.flash(), &ProfilesPresenter::writeFlash},
+                             {MemoryKind::eeprom, m_selectView.eeprom(), &ProfilesPresenter::writeEeprom}}) {
         if (!area.box->isChecked())
             continue;
-        const auto command = area.kind ? area.kind->commandFor(settings) : FuseRequests::verify(settings.fusesBytes);
+        const auto command = area.kind.commandFor(settings);
         if (!command) {
-            Box::tell(&m_programmingView, QLatin1String(area.kind->title),
+            Box::tell(&m_programmingView, QLatin1String(area.kind.title),
                       tr("The command that the profile has for this memory does not write a file. It is not run:"),
-                      shownText((settings.*area.kind->writeCommand).join(QLatin1Char(' ')), longestShown));
+                      shownText((settings.*area.kind.writeCommand).join(QLatin1Char(' ')), longestShown));
             return;
         }
         if (command->isEmpty() && !isNewBoard)
@@ -300,6 +299,8 @@ void ProfilesPresenter::startWriting()
             requests.append(MemoryRequest::from(*command));
         steps.append(area.step);
     }
+    if (m_selectView.fuses()->isChecked() && (isNewBoard || !settings.fusesBytes.isEmpty()))
+        steps.append(&ProfilesPresenter::writeFuses);
     if (steps.isEmpty())
         return;
     for (const MemoryRequest& request : std::as_const(requests)) {
@@ -323,8 +324,10 @@ void ProfilesPresenter::nextStep()
     m_board.log += m_avrdude.log().toPlainText();
     if (m_board.nextStep >= m_board.steps.size()) {
         m_avrdude.log().replace(m_board.log);
-        QMessageBox::information(QApplication::activeWindow(), QStringLiteral("Profiles"),
-                                 QStringList(m_board.written.values()).join(QString()));
+        const bool hasFuses = m_board.written.contains(BoardWriting::Area::Fuses);
+        Box::tell(QApplication::activeWindow(), QStringLiteral("Profiles"),
+                  QStringList(m_board.written.values()).join(QString()),
+                  hasFuses ? FuseRequests::remark(m_board.settings.fusesBytes) : QString());
         return;
     }
     const BoardWriting::Step step = m_board.steps.at(m_board.nextStep);

@@ -17,13 +17,6 @@ QString say(const char* sentence)
     return QCoreApplication::translate("Trust", sentence);
 }
 
-bool mayReachFiles(const SettingsRecord& profile)
-{
-    const ExtraArguments arguments(profile.arguments);
-    const ExtraArguments own(SettingsModel::programmerEntry(profile.programmer.name).arguments);
-    return arguments.reachFiles(arguments.shared(own));
-}
-
 bool isAccepted(QWidget* parent, const char* what, const QStringList& facts, const char* question)
 {
     return Box::ask(parent, QStringLiteral("Profiles"), say(what),
@@ -46,10 +39,15 @@ void Trust::settle(QWidget* parent, SettingsRecord& profile, const SettingsRecor
                 "Trust",
                 "A program can do whatever you can. Do you want the one of the profile to be run from now on?")))
         profile.avrdude = present.avrdude;
-    if (mayReachFiles(profile)
+    if (profile.arguments == present.arguments)
+        return;
+    const ExtraArguments arguments(profile.arguments);
+    const ExtraArguments own(SettingsModel::programmerEntry(profile.programmer.name).arguments);
+    const QString reaching = arguments.reachingFiles(own).join(QLatin1Char(' '));
+    if (!reaching.isEmpty()
         && !isAccepted(
             parent, QT_TRANSLATE_NOOP("Trust", "The profile has arguments with which avrdude may read or write files."),
-            {fact(QT_TRANSLATE_NOOP("Trust", "In the profile: %1"), profile.arguments)},
+            {fact(QT_TRANSLATE_NOOP("Trust", "In the profile: %1"), reaching)},
             QT_TRANSLATE_NOOP("Trust", "Do you want to use them?")))
-        profile.arguments.clear();
+        profile.arguments = arguments.reachingNoFiles(own).join(QLatin1Char(' '));
 }

@@ -7,9 +7,9 @@ struct SettingsRecord;
 namespace Trust {
 
 /// Asks, in boxes over @p parent, whether @p profile, which was loaded and takes the place of @p present, may have
-/// another program run than that one, or the one that the system has; and whether its arguments, those apart that its
-/// programmer's catalogue entry begins with, may make avrdude read or write files. Unless the user says yes the present
-/// program stays, and the arguments are left out. Profiles of people who do neither ask nothing.
+/// another program run than that one, or the one that the system has; and whether it may bring arguments with which
+/// avrdude reads or writes files, and which are neither in use nor in its programmer's catalogue entry. Unless the user
+/// says yes the present program stays, and these arguments are left out. Profiles of people who do neither ask nothing.
 void settle(QWidget* parent, SettingsRecord& profile, const SettingsRecord& present);
 
 } // namespace Trust

@@ -53,14 +53,20 @@ void SettingsPresenter::refreshFromSettings()
         setPortMode({}); // the ports of another programmer are none of its
     } else if (isStart || isReplaced) {
         entry = SettingsModel::programmerEntry(m_settings.programmer.name);
+    }
+    if (isStart || isReplaced) {
+        const ExtraArguments own(entry.arguments);
         // At the start the entry's arguments count, so that an edited entry does. Later it is a profile that was
         // loaded: its own count if it has any, whatever was shown before it.
         if (!isStart && !m_settings.arguments.isEmpty())
             entry.arguments = m_settings.arguments;
-        choose(m_settings.programmer.name, entry);
+        if (m_view.programmer()->currentIndex() >= 0)
+            choose(m_settings.programmer.name, entry);
+        const QStringList further = ExtraArguments(m_settings.arguments).furtherThan(own);
+        if (!further.isEmpty())
+            m_log.appendLine(tr("avrdude gets further arguments that the programmer's file does not have: %1")
+                                 .arg(shownText(further.join(QLatin1Char(' ')))));
     }
-    if (isStart || isReplaced)
-        logArguments();
     showPort();
     m_view.speed()->setCurrentText(m_settings.speed);
     m_view.language()->setCurrentText(m_settings.language);
@@ -100,16 +106,6 @@ void SettingsPresenter::tell(const ProgrammerEntry& entry)
 {
     if (!entry.fault.isEmpty())
         QMessageBox::information(&m_view, entry.fault, entry.fault);
-}
-
-void SettingsPresenter::logArguments()
-{
-    const ExtraArguments arguments(m_settings.arguments);
-    const ExtraArguments own(SettingsModel::programmerEntry(m_settings.programmer.name).arguments);
-    const QStringList further = arguments.list().mid(arguments.shared(own));
-    if (!further.isEmpty())
-        m_log.appendLine(tr("avrdude gets further arguments that the programmer's file does not have: %1")
-                             .arg(shownText(further.join(QLatin1Char(' ')))));
 }
 
 void SettingsPresenter::showProgrammer()

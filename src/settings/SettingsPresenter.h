@@ -59,9 +59,6 @@ private:
     /// Tells in a box why @p entry could not be read, if it could not.
     void tell(const ProgrammerEntry& entry);
 
-    /// Says in the log which arguments came in that are none of the catalogue's.
-    void logArguments();
-
     void showProgrammer();
     void showPort();
 

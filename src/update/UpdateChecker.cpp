@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr qint64 largestAnswer = 64 * 1024; // bytes, which is a hundred times what there is to say
+constexpr qint64 largestAnswer = 65536; // bytes, which is a hundred times what there is to say
 
 /// Whether @p text is short and begins as versions do, with a number. It is shown.
 bool isVersion(const QString& text)
@@ -53,6 +53,7 @@ void UpdateChecker::checkForUpdates()
 {
     QNetworkRequest request(m_source);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    request.setRawHeader("Accept-Encoding", "identity"); // what is unpacked has no bound
     QNetworkReply* reply = m_manager.get(request);
     reply->setReadBufferSize(largestAnswer + 1);
     connect(reply, &QNetworkReply::readyRead, this, [reply] {
