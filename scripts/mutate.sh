@@ -26,6 +26,7 @@ fi
 # The test programs that are most likely to notice a fault in a file; all others come after them.
 first_tests() {
     case $1 in
+        */PlainLabels.cpp | */ExtraArguments.cpp | */JsonFile.cpp | */MemoryKind.cpp | */Trust.cpp) echo tst_attacks ;;
         src/app/main.cpp) echo tst_start ;;
         src/app/log/*) echo 'tst_avrdude|tst_app' ;;
         src/memory/FirmwareFile.cpp) echo 'tst_memory|tst_firmware' ;;

@@ -197,10 +197,10 @@ private slots:
     void namesInTheWorkFolder()
     {
         Victim victim;
-        for (const QString name : {"avrdude", "avrdude.exe"})
+        for (const QString name : {"avrdude", "avrdude.exe", "sub/avrdude"})
             QFile::copy(STAND_IN, name);
         const QByteArray path = qgetenv("PATH");
-        for (const QByteArray folders : {"", ".", ":.", "nowhere:./", "%"}) {
+        for (const QByteArray folders : {"", ".", ":./", "sub", "%"}) {
             qputenv("PATH", folders == "%" ? QFile::encodeName(QDir::currentPath()) : folders);
             victim.folder.write("save.json", R"({"avrdude": "avrdude"})");
             victim.open();
