@@ -254,10 +254,14 @@ private slots:
                 receiver = &box;
             return qApp->notify(receiver, &event) && event.isAccepted();
         };
-        struct Ears : QObject { // what gets through to the field
-            bool eventFilter(QObject*, QEvent* event) override
+        struct Ears : QObject { // what gets through to the field, and the presses that get through to the box
+            bool eventFilter(QObject* object, QEvent* event) override
             {
                 const auto type = event->type();
+                if (qobject_cast<QMessageBox*>(object)) {
+                    heard += type == QEvent::MouseButtonPress ? QString("box:%1 ").arg(number) : QString();
+                    return false;
+                }
                 if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease
                     || type == QEvent::MouseButtonDblClick || type == QEvent::KeyPress)
                     heard += QString::number(number) + ' ';
@@ -267,6 +271,7 @@ private slots:
             QString heard;
         } ears;
         under.installEventFilter(&ears);
+        box.installEventFilter(&ears);
         for (const QString& word : cell("events").split(' ')) {
             ++ears.number;
             const QStringList parts = word.split('@'); // what, when and where

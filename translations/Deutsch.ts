@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude wurde nicht gestartet: %1 ist keine Kennung eines Mikrocontrollers.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude wurde nicht gestartet: Seine Argumente enthalten unsichtbare Zeichen: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude wurde nicht gestartet: %1 ist eine Datei und kein Port.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Trotzdem löschen?</translation>
         <translation>Das Profil verlangt, dass ein anderes Programm ausgeführt wird.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>Im Profil: %1</translation>
+        <source>In the profile:</source>
+        <translation>Im Profil:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>Derzeit benutzt: %1</translation>
+        <source>In use:</source>
+        <translation>Derzeit benutzt:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

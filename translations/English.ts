@@ -292,6 +292,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude was not started: %1 is no identifier of a part.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude was not started: its arguments hold characters that cannot be seen: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude was not started: %1 is a file and no port.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1236,12 +1244,12 @@ Do you want to delete it anyway?</translation>
         <translation>The profile wants another program to be run.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>In the profile: %1</translation>
+        <source>In the profile:</source>
+        <translation>In the profile:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>In use: %1</translation>
+        <source>In use:</source>
+        <translation>In use:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

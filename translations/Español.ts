@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude no se ha iniciado: %1 no es el identificador de un microcontrolador.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude no se ha iniciado: sus argumentos contienen caracteres invisibles: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude no se ha iniciado: %1 es un archivo y no un puerto.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Do you want to delete it anyway?</source>
         <translation>El perfil pide que se ejecute otro programa.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>En el perfil: %1</translation>
+        <source>In the profile:</source>
+        <translation>En el perfil:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>En uso: %1</translation>
+        <source>In use:</source>
+        <translation>En uso:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

@@ -279,7 +279,7 @@
     </message>
     <message>
         <source>%1 is no speed: %2 is used.</source>
-        <translation>%1 n&apos;est pas une vitesse valide : l&apos;option %2 est utilisée à la place.</translation>
+        <translation>%1 n&apos;est pas une vitesse valide&#xa0;: l&apos;option %2 est utilisée à la place.</translation>
     </message>
     <message>
         <source>Reading would replace this file:</source>
@@ -287,11 +287,19 @@
     </message>
     <message>
         <source>It is larger than what is read: move it away first.</source>
-        <translation>Il est plus gros que ce qui sera lu : déplacez-le d&apos;abord dans un autre dossier.</translation>
+        <translation>Il est plus gros que ce qui sera lu&#xa0;: déplacez-le d&apos;abord dans un autre dossier.</translation>
     </message>
     <message>
         <source>avrdude was not started: %1 is no identifier of a part.</source>
-        <translation>avrdude n&apos;a pas été lancé : %1 n&apos;est pas un identifiant de microcontrôleur.</translation>
+        <translation>avrdude n&apos;a pas été lancé&#xa0;: %1 n&apos;est pas un identifiant de microcontrôleur.</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude n&apos;a pas été lancé : ses arguments contiennent des caractères invisibles : %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude n&apos;a pas été lancé : %1 est un fichier et non un port.</translation>
     </message>
 </context>
 <context>
@@ -344,7 +352,7 @@ Voulez-vous continuer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>avrdude would not take this for the path of a file:</source>
-        <translation>avrdude n&apos;interpréterait pas ceci comme le chemin d&apos;un fichier :</translation>
+        <translation>avrdude n&apos;interpréterait pas ceci comme le chemin d&apos;un fichier&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -465,7 +473,7 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>Not sent, as no fuse byte is called so: %1</source>
-        <translation>Non transmis, car aucun octet de fusibles ne s&apos;appelle ainsi : %1</translation>
+        <translation>Non transmis, car aucun octet de fusibles ne s&apos;appelle ainsi&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -793,7 +801,7 @@ Fusibles vérifiés.</translation>
     </message>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
-        <translation>La commande que le profil contient pour cette mémoire n&apos;y écrit aucun fichier. Elle n&apos;est pas exécutée :</translation>
+        <translation>La commande que le profil contient pour cette mémoire n&apos;y écrit aucun fichier. Elle n&apos;est pas exécutée&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1212,7 +1220,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
-        <translation>avrdude reçoit des arguments supplémentaires qui ne figurent pas dans le fichier du programmateur : %1</translation>
+        <translation>avrdude reçoit des arguments supplémentaires qui ne figurent pas dans le fichier du programmateur&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1237,16 +1245,16 @@ Le supprimer quand même ?</translation>
         <translation>Le profil demande l&apos;exécution d&apos;un autre programme.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>Dans le profil : %1</translation>
+        <source>In the profile:</source>
+        <translation>Dans le profil&#xa0;:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>Utilisé actuellement : %1</translation>
+        <source>In use:</source>
+        <translation>Utilisé actuellement&#xa0;:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>
-        <translation>Un programme peut faire sur l&apos;ordinateur tout ce que vous pouvez y faire vous-même. Voulez-vous désormais exécuter celui du profil ?</translation>
+        <translation>Un programme peut faire sur l&apos;ordinateur tout ce que vous pouvez y faire vous-même. Voulez-vous désormais exécuter celui du profil&#xa0;?</translation>
     </message>
     <message>
         <source>The profile has arguments with which avrdude may read or write files.</source>
@@ -1254,7 +1262,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>Do you want to use them?</source>
-        <translation>Voulez-vous utiliser ces arguments ?</translation>
+        <translation>Voulez-vous utiliser ces arguments&#xa0;?</translation>
     </message>
 </context>
 <context>

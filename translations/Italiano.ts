@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude non è stato avviato: %1 non è l&apos;identificativo di un microcontrollore.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude non è stato avviato: i suoi argomenti contengono caratteri invisibili: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude non è stato avviato: %1 è un file e non una porta.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Eliminarlo comunque?</translation>
         <translation>Il profilo richiede l&apos;esecuzione di un altro programma.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>Nel profilo: %1</translation>
+        <source>In the profile:</source>
+        <translation>Nel profilo:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>In uso: %1</translation>
+        <source>In use:</source>
+        <translation>In uso:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

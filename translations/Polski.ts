@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>Nie uruchomiono avrdude: %1 nie jest identyfikatorem mikrokontrolera.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>Nie uruchomiono avrdude: argumenty zawierają niewidoczne znaki: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>Nie uruchomiono avrdude: %1 to plik, a nie port.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Usunąć mimo to?</translation>
         <translation>Profil wskazuje inny program do uruchamiania.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>W profilu: %1</translation>
+        <source>In the profile:</source>
+        <translation>W profilu:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>Obecnie używany: %1</translation>
+        <source>In use:</source>
+        <translation>Obecnie używany:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>O avrdude não foi iniciado: %1 não é um identificador de microcontrolador.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>O avrdude não foi iniciado: seus argumentos contêm caracteres invisíveis: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>O avrdude não foi iniciado: %1 é um arquivo e não uma porta.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Excluir mesmo assim?</translation>
         <translation>O perfil indica outro programa a ser executado.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>No perfil: %1</translation>
+        <source>In the profile:</source>
+        <translation>No perfil:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>Em uso: %1</translation>
+        <source>In use:</source>
+        <translation>Em uso:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

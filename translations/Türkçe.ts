@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude başlatılmadı: %1 bir mikrodenetleyici tanımlayıcısı değil.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude başlatılmadı: argümanlarında görünmeyen karakterler var: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude başlatılmadı: %1 bir dosya, port değil.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Yine de silinsin mi?</translation>
         <translation>Profil başka bir programın çalıştırılmasını istiyor.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>Profildeki: %1</translation>
+        <source>In the profile:</source>
+        <translation>Profildeki:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>Kullanılan: %1</translation>
+        <source>In use:</source>
+        <translation>Kullanılan:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

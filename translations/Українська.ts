@@ -293,6 +293,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude не запущено: %1 не є ідентифікатором МК.</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude не запущено: його аргументи містять невидимі символи: %1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude не запущено: %1 — файл, а не порт.</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1237,12 +1245,12 @@ Do you want to delete it anyway?</source>
         <translation>У профілі вказано іншу програму для запуску.</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>У профілі: %1</translation>
+        <source>In the profile:</source>
+        <translation>У профілі:</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>Зараз використовується: %1</translation>
+        <source>In use:</source>
+        <translation>Зараз використовується:</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

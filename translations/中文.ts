@@ -292,6 +292,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude 未启动：%1 不是单片机的标识符。</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude 未启动：其参数包含不可见的字符：%1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude 未启动：%1 是文件，不是端口。</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1236,12 +1244,12 @@ Do you want to delete it anyway?</source>
         <translation>该配置文件要求运行另一个程序。</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>配置文件中：%1</translation>
+        <source>In the profile:</source>
+        <translation>配置文件中：</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>当前使用：%1</translation>
+        <source>In use:</source>
+        <translation>当前使用：</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

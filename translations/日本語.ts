@@ -292,6 +292,14 @@
         <source>avrdude was not started: %1 is no identifier of a part.</source>
         <translation>avrdude を起動しませんでした。%1 はマイコンの識別子ではありません。</translation>
     </message>
+    <message>
+        <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
+        <translation>avrdude を起動しませんでした。引数に見えない文字が含まれています：%1</translation>
+    </message>
+    <message>
+        <source>avrdude was not started: %1 is a file and no port.</source>
+        <translation>avrdude を起動しませんでした。%1 はファイルで、ポートではありません。</translation>
+    </message>
 </context>
 <context>
     <name>BytesModel</name>
@@ -1236,12 +1244,12 @@ Do you want to delete it anyway?</source>
         <translation>このプロファイルは別のプログラムを実行するよう指定しています。</translation>
     </message>
     <message>
-        <source>In the profile: %1</source>
-        <translation>プロファイルの指定：%1</translation>
+        <source>In the profile:</source>
+        <translation>プロファイルの指定：</translation>
     </message>
     <message>
-        <source>In use: %1</source>
-        <translation>使用中：%1</translation>
+        <source>In use:</source>
+        <translation>使用中：</translation>
     </message>
     <message>
         <source>A program can do whatever you can. Do you want the one of the profile to be run from now on?</source>

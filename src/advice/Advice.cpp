@@ -4,6 +4,7 @@
 #include "advice/Surroundings.h"
 #include "avrdude/ExtraArguments.h"
 #include "avrdude/FailedRun.h"
+#include "base/ShownText.h"
 #include "mcu/description/BytesModel.h"
 #include "mcu/description/SignatureIndex.h"
 #include "settings/SettingsModel.h"
@@ -27,6 +28,13 @@ QString say(const char* sentence)
 QString join(const QStringList& names)
 {
     return names.join(QLatin1String(", "));
+}
+
+/// A name from a profile or a description, which must not read like advice of ours.
+QString nameFrom(const QString& name)
+{
+    constexpr int longest = 40; // characters
+    return shownText(name, longest).remove(QLatin1Char('\n'));
 }
 
 /// A failed run with all that is known around it.
@@ -234,12 +242,12 @@ QString unknownTo(const QString& name, const QString& version)
 
 QStringList unknownPart(const Case& of)
 {
-    return {unknownTo(of.run.settings.mcuName, of.part.value(QLatin1String("avrdude")).toString())};
+    return {unknownTo(nameFrom(of.run.settings.mcuName), nameFrom(of.part.value(QLatin1String("avrdude")).toString()))};
 }
 
 QStringList unknownProgrammer(const Case& of)
 {
-    return {unknownTo(of.run.settings.programmer.name, of.programmer.avrdude)};
+    return {unknownTo(nameFrom(of.run.settings.programmer.name), nameFrom(of.programmer.avrdude))};
 }
 
 /// From what avrdude prints to what to do. The first row that matches wins; more special ones come first.
@@ -305,7 +313,7 @@ QStringList wrongInterface(const Case& of)
     if (needed.isEmpty() || spoken.isEmpty() || of.isBootLoader() || fits(needed, spoken))
         return {};
     return {say(QT_TRANSLATE_NOOP("Advice", "%1 is programmed by %2, and this programmer speaks %3."))
-                .arg(of.run.settings.mcuName, join(needed), join(spoken)),
+                .arg(nameFrom(of.run.settings.mcuName), nameFrom(join(needed)), nameFrom(join(spoken))),
             say(QT_TRANSLATE_NOOP("Advice", "Of the list there fit, among others: %1."))
                 .arg(programmersWith(&ProgrammerEntry::interfaces, needed))};
 }
@@ -368,6 +376,8 @@ Explanation Advice::explain(const FailedRun& run, const Surroundings& surroundin
     if (!lines.isEmpty() && !explanation.lines.isEmpty())
         lines += QString();
     explanation.lines = lines + explanation.lines;
+    for (QString& line : explanation.lines)
+        line = shownText(line);
     return explanation;
 }
 

@@ -30,6 +30,12 @@ StrayInput::StrayInput(QObject* parent)
 
 bool StrayInput::eventFilter(QObject* object, QEvent* event)
 {
+    if (event->type() == QEvent::Show && !event->spontaneous() && qobject_cast<QMessageBox*>(object)) {
+        m_box = object;
+        m_opening = m_last;
+    } else if (event->type() == QEvent::Hide && m_box == object) {
+        m_box.clear();
+    }
     if (event->type() == QEvent::Hide && !event->spontaneous() && qobject_cast<QMessageBox*>(object)
         && m_window == object)
         m_closing = m_last;
@@ -75,8 +81,12 @@ bool StrayInput::isStray(const QMouseEvent& mouse)
     if (mouse.type() == QEvent::MouseButtonRelease)
         return m_isPressTaken;
     const auto patience = static_cast<ulong>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-    m_isPressTaken = m_closing.time > 0 && !m_closing.isKey && mouse.timestamp() - m_closing.time < patience
-        && isSamePoint(Toolkit::globalPosition(mouse), m_closing.position);
+    const auto follows = [&mouse](const Stroke& stroke, ulong limit) {
+        return stroke.time > 0 && !stroke.isKey && mouse.timestamp() - stroke.time < limit
+            && isSamePoint(Toolkit::globalPosition(mouse), stroke.position);
+    };
+    // Nobody reads a box as fast as that.
+    m_isPressTaken = follows(m_closing, patience) || (m_box && follows(m_opening, 2 * patience));
     return m_isPressTaken;
 }
 

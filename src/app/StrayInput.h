@@ -10,8 +10,9 @@ class QKeyEvent;
 class QMouseEvent;
 
 /// Takes what a hand sends after a message box that it has just closed: the second half of a double click, and the
-/// repeats of a key that is still down. They were meant for the box, and would start what lies under it. Nothing else
-/// is taken. Looks at all events; owned by the main window.
+/// repeats of a key that is still down. They were meant for the box, and would start what lies under it. Takes the
+/// second half of a double click that opened a box, too: it was not meant for the button that happens to lie there.
+/// Nothing else is taken. Looks at all events; owned by the main window.
 class StrayInput : public QObject
 {
     Q_OBJECT
@@ -36,6 +37,8 @@ private:
 
     Stroke m_last;
     QPointer<QWidget> m_window; ///< which that went to
+    QPointer<QObject> m_box; ///< the message box that was shown last, while it is
+    Stroke m_opening; ///< what had been done when it was shown
     Stroke m_closing; ///< no key and long ago: none
     bool m_isPressTaken = false; ///< its release is for nobody either
     ulong m_keyReleased = 0; ///< when the key that closed a box last seemed to be let go

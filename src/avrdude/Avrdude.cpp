@@ -22,6 +22,7 @@
 
 namespace {
 
+constexpr int longestName = 60; // characters of a name in a sentence
 constexpr int startTimeout = 30000; // milliseconds
 constexpr int largestReading =
     16; // bytes: a fuse byte has one, the lock of an AVR DA four; Intel HEX with data has more
@@ -52,6 +53,25 @@ QStringList commonArguments(const SettingsRecord& settings)
     const QString bitClock = bitClockOption(settings.speed);
     frame += isBitClock(bitClock) ? bitClock : SettingsRecord().speed; // one argument, blank included: avrdude takes it
     return frame;
+}
+
+/// Why no run may start with @p settings, for the log; empty when one may.
+QString faultOf(const SettingsRecord& settings)
+{
+    if (!isIdentifier(settings.mcuId))
+        return Avrdude::tr("avrdude was not started: %1 is no identifier of a part.")
+            .arg(shownText(settings.mcuId, longestName));
+    // The system cuts an argument at some of them, and the next one might mean something else then.
+    const QString shown = commonArguments(settings).join(QLatin1Char(' '));
+    if (hasHidden(shown))
+        return Avrdude::tr("avrdude was not started: its arguments hold characters that cannot be seen: %1")
+            .arg(shownText(shown));
+    const QString own = ExtraArguments(settings.arguments).value('P');
+    for (const QString& port : {settings.port, own}) {
+        if (QFileInfo(port).isFile()) // avrdude would open it for writing
+            return Avrdude::tr("avrdude was not started: %1 is a file and no port.").arg(shownText(port));
+    }
+    return {};
 }
 
 bool isPath(const QString& program)
@@ -228,17 +248,18 @@ bool Avrdude::mayStart()
 {
     if (isBusy())
         return true; // the call will be dropped
-    if (!isIdentifier(m_settings.mcuId)) {
-        m_log->appendLine(
-            tr("avrdude was not started: %1 is no identifier of a part.").arg(shownText(m_settings.mcuId)));
+    const QString fault = faultOf(m_settings);
+    if (!fault.isEmpty()) {
+        m_log->appendLine(fault);
         return false;
     }
     if (!m_settings.hasFormerPort || ExtraArguments(m_settings.arguments).has('P'))
         return true;
     const QString question = tr("No serial port was found for %1: the port is still %2.");
-    m_settings.hasFormerPort =
-        !Box::ask(QApplication::activeWindow(), ProductInfo::name,
-                  question.arg(m_settings.programmer.name, m_settings.port), tr("Do you want to use it all the same?"));
+    m_settings.hasFormerPort = !Box::ask(
+        QApplication::activeWindow(), ProductInfo::name,
+        question.arg(shownText(m_settings.programmer.name, longestName), shownText(m_settings.port, longestName)),
+        tr("Do you want to use it all the same?"));
     return !m_settings.hasFormerPort;
 }
 

@@ -71,10 +71,10 @@ public:
     /// tells what the chip may hold; the callback does not run, whatever had been done.
     void stop();
 
-    /// Whether a run may start with the record's settings. None may when the part's identifier is no identifier, as the
-    /// log then says. Asks the user, once, when the port belongs to the programmer before and the present one has none:
-    /// what is plugged in there may be another chip. What runs with the record's settings asks by itself, and does
-    /// nothing when the answer is no.
+    /// Whether a run may start with the record's settings. None may when the part's identifier is no identifier, an
+    /// argument holds what cannot be seen, or the port is a file, as the log then says. Asks the user, once, when the
+    /// port belongs to the programmer before and the present one has none: what is plugged in there may be another
+    /// chip. What runs with the record's settings asks by itself, and does nothing when the answer is no.
     [[nodiscard]] bool mayStart();
 
     [[nodiscard]] SettingsRecord& settings() { return m_settings; }

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr qint64 largest = 16 << 20; // bytes; the largest that ships has 51 thousand
+constexpr qint64 largest = 1 << 20; // bytes; the largest that ships has 51 thousand
 
 bool replaceFile(const QString& path, const QByteArray& content)
 {

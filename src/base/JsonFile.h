@@ -28,7 +28,7 @@ struct JsonFile {
     [[nodiscard]] QString reason() const;
 
     /// Reads the file at @p path whole. Failures are told by `state`; nothing is shown or logged. What is no regular
-    /// file, nor a link to one, is not opened, nor is one of more than 16 MiB, which would hold up the window.
+    /// file, nor a link to one, is not opened, nor is one of more than 1 MiB, which would hold up the window.
     [[nodiscard]] static JsonFile read(const QString& path);
 };
 

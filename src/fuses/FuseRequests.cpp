@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int longestName = 40; // characters
+
 /// @p operation is "w" or "v". The value goes out as "0x3f": no leading zeros.
 QString valueRequest(const FuseByte& byte, QLatin1String operation)
 {
@@ -35,7 +37,8 @@ QString FuseRequests::leftOut(const FuseBytes& bytes)
     QStringList names;
     for (const FuseByte& byte : bytes) {
         if (!isIdentifier(byte.id))
-            names += shownText(byte.name + QLatin1String(" ( ") + byte.id + QLatin1String(" )"));
+            names += shownText(byte.name, longestName) + QLatin1String(" ( ") + shownText(byte.id, longestName)
+                + QLatin1String(" )");
     }
     return names.isEmpty() ? QString()
                            : QCoreApplication::translate("FuseRequests", "Not sent, as no fuse byte is called so: %1")

@@ -12,9 +12,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace {
+
+constexpr int longestShown = 300; // characters of a path, in a box
 
 QString say(const char* sentence)
 {
@@ -36,10 +36,9 @@ bool erasesFirst(const SettingsRecord& settings, const MemoryRequest& request)
 /// its beginning are no harm: it comes in one argument with what stands before and behind it.
 bool staysPath(const QString& path)
 {
-    const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
     // "-" is what avrdude reads from and prints to; of "urboot:" and more 8.x makes a boot loader.
-    return path != QLatin1String("-") && !path.startsWith(QLatin1String("urboot:"))
-        && std::none_of(path.begin(), path.end(), isControl) && QFile::decodeName(QFile::encodeName(path)) == path;
+    return path != QLatin1String("-") && !path.startsWith(QLatin1String("urboot:")) && !hasHidden(path)
+        && QFile::decodeName(QFile::encodeName(path)) == path;
 }
 
 } // namespace
@@ -50,7 +49,7 @@ bool FileCheck::passes(QWidget* parent, const SettingsRecord& settings, const Me
     if (!staysPath(request.file)) {
         Box::tell(parent, title,
                   say(QT_TRANSLATE_NOOP("FileCheck", "avrdude would not take this for the path of a file:")),
-                  shownText(request.file));
+                  shownText(request.file, longestShown));
         return false;
     }
     if (request.operation == QLatin1String("r"))

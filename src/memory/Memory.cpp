@@ -66,6 +66,8 @@ QString Memory::setFormatFile(const QString& suffix) const
 void Memory::refresh()
 {
     m_view.writePath()->setText(fileToWrite());
+    if (m_avrdude.settings().generation > 1 && fileToRead() != m_view.readPath()->text())
+        m_foreignRead = fileToRead(); // what the settings file has at the start is the user's own
     m_view.readPath()->setText(fileToRead());
 }
 
@@ -128,9 +130,10 @@ void Memory::showRead()
 
 bool Memory::mayReplace(const QString& path)
 {
-    // What is picked in the row's dialog is meant to be replaced, and so is what a former reading wrote there.
+    // What is picked in the row's dialog is meant to be replaced, and so is what a former reading wrote there. A
+    // profile may name any file.
     const QFileInfo info(path);
-    if (!m_view.readPath()->isByHand() || !info.isFile() || info.size() == 0
+    if (!(m_view.readPath()->isByHand() || path == m_foreignRead) || !info.isFile() || info.size() == 0
         || m_read.value(fullPath(path)) == info.lastModified())
         return true;
     const QStringList lines {fullPath(path),

@@ -59,4 +59,5 @@ private:
     const MemoryKind& m_kind;
     QHash<QString, QDateTime> m_read; ///< files that a reading wrote, with the time of that
     QString m_lastRead; ///< the one of the last reading
+    QString m_foreignRead; ///< to read into, as a profile brought it
 };

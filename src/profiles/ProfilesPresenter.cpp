@@ -131,7 +131,9 @@ void ProfilesPresenter::saveProfile()
             return;
     }
     // Deliberate: the box below reports success even when the file could not be written. The log tells.
-    const bool isSaved = m_avrdude.settings().saveToFile(path, SettingsRecord::File::Profile);
+    // Through a link it might be any file: it may have come with somebody's profiles.
+    const bool isSaved =
+        !QFileInfo(path).isSymLink() && m_avrdude.settings().saveToFile(path, SettingsRecord::File::Profile);
     setLoaded(isSaved);
     if (!isSaved) {
         qDebug().noquote() << "Profile not saved:" << path;

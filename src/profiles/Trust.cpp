@@ -6,35 +6,58 @@
 #include "base/ShownText.h"
 #include "settings/SettingsModel.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
+#include <QVector>
+
+#include <utility>
 
 namespace {
 
-constexpr int longestShown = 200; // characters
+struct Fact {
+    const char* label;
+    QString value;
+};
 
 QString say(const char* sentence)
 {
     return QCoreApplication::translate("Trust", sentence);
 }
 
-bool isAccepted(QWidget* parent, const char* what, const QStringList& facts, const char* question)
+/// Asks with two sentences and what they are about. A language file may come from a stranger, too: so the facts stand
+/// apart from all translations, and what a translation says is also there in English.
+bool isAccepted(QWidget* parent, const char* what, const QVector<Fact>& facts, const char* question)
 {
-    return Box::ask(parent, QStringLiteral("Profiles"), say(what),
-                    facts.join(QLatin1Char('\n')) + QLatin1String("\n\n") + say(question));
+    constexpr int longestShown = 160; // characters
+    QStringList below;
+    for (const Fact& fact : facts)
+        below += say(fact.label) + QLatin1String(" \"") + shownText(fact.value, longestShown) + QLatin1Char('"');
+    below += QString();
+    below += say(question);
+    const QString english = QLatin1String(what) + QLatin1Char(' ') + QLatin1String(question);
+    if (say(what) + QLatin1Char(' ') + say(question) != english)
+        below += {QString(), english};
+
+    Box box(QMessageBox::Question, QStringLiteral("Profiles"), say(what), below.join(QLatin1Char('\n')),
+            QMessageBox::Yes | QMessageBox::No, parent);
+    for (const auto& [button, name] : {std::pair(QMessageBox::Yes, "Yes"), {QMessageBox::No, "No"}}) {
+        QAbstractButton* widget = box.button(button);
+        if (widget->text().remove(QLatin1Char('&')) != QLatin1String(name))
+            widget->setText(QLatin1String(name) + QLatin1String(" / ") + widget->text());
+    }
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace
 
 void Trust::settle(QWidget* parent, SettingsRecord& profile, const SettingsRecord& present)
 {
-    const auto fact = [](const char* text, const QString& value) {
-        return say(text).arg(shownText(value, longestShown));
-    };
     if (profile.avrdude != present.avrdude && profile.avrdude != SettingsRecord().avrdude
         && !isAccepted(
             parent, QT_TRANSLATE_NOOP("Trust", "The profile wants another program to be run."),
-            {fact(QT_TRANSLATE_NOOP("Trust", "In the profile: %1"), profile.avrdude),
-             fact(QT_TRANSLATE_NOOP("Trust", "In use: %1"), present.avrdude)},
+            {{QT_TRANSLATE_NOOP("Trust", "In the profile:"), profile.avrdude},
+             {QT_TRANSLATE_NOOP("Trust", "In use:"), present.avrdude}},
             QT_TRANSLATE_NOOP(
                 "Trust",
                 "A program can do whatever you can. Do you want the one of the profile to be run from now on?")))
@@ -47,7 +70,7 @@ void Trust::settle(QWidget* parent, SettingsRecord& profile, const SettingsRecor
     if (!reaching.isEmpty()
         && !isAccepted(
             parent, QT_TRANSLATE_NOOP("Trust", "The profile has arguments with which avrdude may read or write files."),
-            {fact(QT_TRANSLATE_NOOP("Trust", "In the profile: %1"), reaching)},
+            {{QT_TRANSLATE_NOOP("Trust", "In the profile:"), reaching}},
             QT_TRANSLATE_NOOP("Trust", "Do you want to use them?")))
         profile.arguments = arguments.reachingNoFiles(own).join(QLatin1Char(' '));
 }

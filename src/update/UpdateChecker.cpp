@@ -89,10 +89,16 @@ void UpdateChecker::onReplyFinished(QNetworkReply* reply)
     }
     const QUrl page(url);
     // A page and nothing else: with another scheme the server could start any program that is registered for it.
-    const bool isPage =
-        (page.scheme() == QLatin1String("https") || page.scheme() == QLatin1String("http")) && !page.host().isEmpty();
-    constexpr int longestShown = 200; // characters
-    const QString address = shownText(isPage ? page.toString(QUrl::FullyEncoded) : url, longestShown);
+    const bool isPage = (page.scheme() == QLatin1String("https") || page.scheme() == QLatin1String("http"))
+        && !page.host().isEmpty() && page.userInfo().isEmpty();
+    // An address that is too long for the box is cut, and the host stands before it as a whole.
+    constexpr int longestShown = 120; // characters
+    constexpr int longestHost = 300; // more than there are
+    QString address = isPage ? page.toString(QUrl::FullyEncoded) : url;
+    const QString host = address.size() > longestShown && isPage
+        ? shownText(page.host(QUrl::FullyEncoded), longestHost) + QLatin1Char('\n')
+        : QString();
+    address = host + shownText(address, longestShown);
     Box question(QMessageBox::Question, tr("Update available"),
                  tr("New version %1 available.\n\nOpen download page?").arg(shownText(remote)), address,
                  QMessageBox::Yes | QMessageBox::No, window);

@@ -13,6 +13,10 @@ namespace {
 
 const QLatin1String updateCheckKey("updateCheck");
 
+// More is none of what the program writes, and would hold up the window: it counts as missing.
+constexpr int longestText = 4096; // characters; a path has no more
+constexpr int longestList = 1000;
+
 // The keys of the settings file, once for the reader and the writer: "visit" is either, and is told of every member the
 // object that its key stands in (none: the file's own), the key, the member, and what a missing text becomes.
 
@@ -144,7 +148,12 @@ public:
     }
 
 private:
-    static void read(const QJsonValue& json, QString& text, const QString& fallback) { text = json.toString(fallback); }
+    static void read(const QJsonValue& json, QString& text, const QString& fallback)
+    {
+        text = json.toString(fallback);
+        if (text.size() > longestText)
+            text = fallback;
+    }
     static void read(const QJsonValue& json, bool& flag, const QString&) { flag = json.toBool(); }
     static void read(const QJsonValue& json, int& number, const QString&) { number = json.toInt(); }
 
@@ -156,6 +165,9 @@ private:
     static void read(const QJsonValue& json, QStringList& list, const QString&)
     {
         list = QVariant(json.toArray().toVariantList()).toStringList();
+        const auto isTooLong = [](const QString& text) { return text.size() > longestText; };
+        if (list.size() > longestList || std::any_of(list.begin(), list.end(), isTooLong))
+            list.clear();
     }
 
     static void read(const QJsonValue& json, std::array<FuseBit, 8>& bits, const QString&)

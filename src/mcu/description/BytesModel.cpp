@@ -21,8 +21,9 @@ JsonFile readDescription(const QString& name)
 FuseByte readFuseByte(const QJsonObject& description)
 {
     FuseByte byte;
-    byte.id = description.value(QLatin1String("id")).toString();
-    byte.name = description.value(QLatin1String("name")).toString();
+    constexpr int longestName = 200; // characters
+    byte.id = description.value(QLatin1String("id")).toString().left(longestName);
+    byte.name = description.value(QLatin1String("name")).toString().left(longestName);
     const QJsonArray bits = description.value(QLatin1String("bits")).toArray();
     int number = highestBit; // the most significant bit is listed first
     for (const QJsonValue& listed : bits) {
@@ -31,7 +32,7 @@ FuseByte readFuseByte(const QJsonObject& description)
         const QJsonObject bitDescription = listed.toObject();
         FuseBit& bit = byte.fuseBits[static_cast<std::size_t>(number)];
         bit.bitNumber = number;
-        bit.name = bitDescription.value(QLatin1String("name")).toString();
+        bit.name = bitDescription.value(QLatin1String("name")).toString().left(longestName);
         bit.currentBitValue = bitDescription.value(QLatin1String("default")).toInt() == 0 ? 0 : 1;
         bit.defaultBitValue = bit.currentBitValue;
         bit.enabled = bitDescription.value(QLatin1String("enabled")).toInt() != 0;
