@@ -90,15 +90,14 @@ QString findProgram(const QString& program)
 {
     if (isPath(program))
         return QStandardPaths::findExecutable(program, {QDir::currentPath()});
-    QString file = program;
     QStringList folders;
 #ifdef Q_OS_WIN
     folders += QCoreApplication::applicationDirPath();
     static const QRegularExpression ending(QStringLiteral("\\.(exe|com|bat|cmd)$"),
                                            QRegularExpression::CaseInsensitiveOption);
-    if (!program.contains(ending))
-        file += QLatin1String(".exe"); // and no script of that name
+    const QString file = program.contains(ending) ? program : program + QLatin1String(".exe"); // and no script
 #else
+    const QString& file = program;
     if (!qEnvironmentVariableIsSet("PATH"))
         return QStandardPaths::findExecutable(file); // which knows the system's own
 #endif
