@@ -231,7 +231,7 @@ private slots:
         QVERIFY(!reason->isVisibleTo(&tab.tab));
         tab.bytes = {};
         for (const auto& [key, text] :
-             {std::pair("unreachable", "A serial programmer does not reach the fuse bytes of this microcontroller."),
+             {std::pair("unreachable", "An ISP programmer does not reach the fuse bytes of this microcontroller."),
               {"unreliable", "avrdude cannot be relied on for the fuse bytes of this microcontroller."},
               {"", "No fuse bytes are loaded. Choose the microcontroller in the first tab."}}) {
             tab.folder.write("mcu/ATmega16.json", R"({"id": "m16", "withoutFuseBytes": "%1"})");
@@ -254,8 +254,10 @@ private slots:
         QTest::keyClicks(editors[1]->value(), "59"); // RSTDISBL
         QTest::keyClicks(editors[3]->value(), "FC"); // locked
         const QString asked =
-            "FUSES, by default No: High Fuse: The reset pin becomes an ordinary pin: a serial programmer can no longer "
-            "reach the chip. The way back: a high-voltage programmer.\nLock Bits: A programmer can no longer read or "
+            "FUSES, by default No: High Fuse: The reset pin becomes an ordinary pin: an ISP or TPI programmer will no "
+            "longer be able to reach the chip. The way back: a high-voltage programmer.\nLock Bits: A programmer will "
+            "no "
+            "longer be able to read or "
             "write the chip. The way back: erase all of it. + Do you want to write the fuse bytes all the same?";
         const QString written = "Information: Fuse bytes written successfully.";
         const auto press = [&] { return bench.click(buttons->writeButton()).section("|-U", 0, 0); };

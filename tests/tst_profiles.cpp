@@ -199,7 +199,7 @@ private slots:
         tab.add("Board", "ATmega16");
         emit tab.profiles->textActivated("Board");
         QVERIFY(
-            tab.log.toPlainText().startsWith("Low Fuse: Without this clock on its pins the chip does not answer. The"));
+            tab.log.toPlainText().startsWith("Low Fuse: Without this clock on its pins the chip will not answer. The"));
         QCOMPARE(tab.boxes.take().size(), 1); // that it was saved
     }
 

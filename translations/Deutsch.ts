@@ -401,56 +401,8 @@ Trotzdem fortfahren?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Ein so langsamer Chip antwortet nur bei einem Tempo unter einem Viertel seiner Taktfrequenz.
-Der Weg zurück: ein niedrigeres Tempo wählen.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Ohne diesen Takt an seinen Pins antwortet der Chip nicht.
-Der Weg zurück: einen Takt oder Quarz anschließen oder einen Hochvolt-Programmer benutzen.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Werkseinstellung</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>Der Reset-Pin wird zu einem gewöhnlichen Pin: Ein serieller Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: ein Hochvolt-Programmer.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Der Reset-Pin gehört dann dem Debugger: Ein serieller Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: ein Debugger mit debugWIRE oder ein Hochvolt-Programmer.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: ein Programmer mit Hochvolt-UPDI.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Ein Programmer kann den Chip nicht mehr beschreiben.
-Der Weg zurück: alles löschen.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Ein serieller Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: JTAG, wenn der Chip es hat, oder ein Hochvolt-Programmer.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Ein JTAG-Programmer erreicht den Chip nicht mehr.
-Der Weg zurück: ISP, beim ATxmega PDI, oder ein Hochvolt-Programmer.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Der Weg zurück: ein Hochvolt-Programmer.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Der Reset-Pin wird zu einem gewöhnlichen Pin: Ein ISP- oder TPI-Programmer erreicht den Chip danach nicht mehr.
+Der Weg zurück: ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Den Reset-Pin übernimmt der Debugger: Ein ISP-Programmer erreicht den Chip danach nicht mehr.
+Der Weg zurück: ein Debugger mit debugWIRE oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Ein ISP-Programmer erreicht den Chip danach nicht mehr.
+Der Weg zurück: JTAG, wenn der Chip es hat, oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Ein JTAG-Programmer erreicht den Chip danach nicht mehr.
+Der Weg zurück: ISP, beim ATxmega PDI, oder ein Hochvolt-Programmer.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip danach nicht mehr.
+Der Weg zurück: ein Programmer mit Hochvolt-UPDI.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Ohne seinen Quarz antwortet der Chip danach nicht mehr, mit ihm nur noch bei einem Tempo unter 8 kHz (mit CKDIV8 unter 1 kHz).
+Der Weg zurück: einen Quarz mit 32,768 kHz anschließen oder einen Takt an den Takteingang anlegen, dann ein niedrigeres Tempo wählen; oder einen Hochvolt-Programmer benutzen.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Ein so langsamer Chip antwortet danach nur noch bei einem Tempo unter einem Viertel seiner Taktfrequenz.
+Der Weg zurück: ein niedrigeres Tempo wählen.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Ohne diesen Takt an seinen Pins antwortet der Chip danach nicht mehr.
+Der Weg zurück: einen Takt an den Takteingang anlegen (ein Quarz hilft nur, wenn die Einstellung einen nennt) oder einen Hochvolt-Programmer benutzen.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Ein Programmer kann den Chip nicht mehr lesen oder beschreiben.
+        <translation>Ein Programmer kann den Chip danach nicht mehr lesen oder beschreiben.
+Der Weg zurück: alles löschen.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Ein Programmer kann den Chip danach nicht mehr beschreiben.
 Der Weg zurück: alles löschen.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ Der Weg zurück: alles löschen.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Ein serieller Programmer erreicht die Fuse-Bytes dieses Mikrocontrollers nicht.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>Bei den Fuse-Bytes dieses Mikrocontrollers ist auf avrdude kein Verlass.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Keine Fuse-Bytes geladen. Bitte den Mikrocontroller im ersten Reiter wählen.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Ein ISP-Programmer erreicht die Fuse-Bytes dieses Mikrocontrollers nicht.</translation>
     </message>
 </context>
 <context>

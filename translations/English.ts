@@ -400,56 +400,8 @@ Do you want to go on all the same?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Factory setting</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>A programmer can no longer write the chip.
-The way back: erase all of it.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -458,9 +410,63 @@ The way back: a high-voltage programmer.</source>
 The way back: a high-voltage programmer.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
-        <translation>A programmer can no longer read or write the chip.
+        <translation>A programmer will no longer be able to read or write the chip.
+The way back: erase all of it.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>A programmer will no longer be able to write the chip.
 The way back: erase all of it.</translation>
     </message>
 </context>
@@ -527,16 +533,16 @@ The way back: erase all of it.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>A serial programmer does not reach the fuse bytes of this microcontroller.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>avrdude cannot be relied on for the fuse bytes of this microcontroller.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>No fuse bytes are loaded. Choose the microcontroller in the first tab.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>An ISP programmer does not reach the fuse bytes of this microcontroller.</translation>
     </message>
 </context>
 <context>

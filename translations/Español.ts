@@ -401,56 +401,8 @@ Do you want to go on all the same?</source>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Un chip tan lento solo responde a una velocidad menor que un cuarto de la frecuencia de su reloj.
-Para recuperarlo: elija una velocidad menor.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Sin este reloj en sus pines el chip no responde.
-Para recuperarlo: conecte un reloj o un cristal, o use un programador de alto voltaje.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Ajuste de fábrica</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>El pin de reset pasa a ser un pin normal: un programador serie ya no podrá acceder al chip.
-Para recuperarlo: un programador de alto voltaje.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>El pin de reset pasa a ser del depurador: un programador serie ya no podrá acceder al chip.
-Para recuperarlo: un depurador con debugWIRE o un programador de alto voltaje.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
-Para recuperarlo: un programador con UPDI de alto voltaje.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programador ya no podrá grabar el chip.
-Para recuperarlo: bórrelo todo.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Un programador serie ya no podrá acceder al chip.
-Para recuperarlo: JTAG, si el chip lo tiene, o un programador de alto voltaje.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Un programador JTAG ya no podrá acceder al chip.
-Para recuperarlo: ISP (PDI en un ATxmega) o un programador de alto voltaje.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Para recuperarlo: un programador de alto voltaje.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>El pin de reset pasa a ser un pin normal: un programador ISP o TPI ya no podrá acceder al chip.
+Para recuperarlo: un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>El pin de reset pasa a ser del depurador: un programador ISP ya no podrá acceder al chip.
+Para recuperarlo: un depurador con debugWIRE o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Un programador ISP ya no podrá acceder al chip.
+Para recuperarlo: JTAG, si el chip lo tiene, o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Un programador JTAG ya no podrá acceder al chip.
+Para recuperarlo: ISP (PDI en un ATxmega) o un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
+Para recuperarlo: un programador con UPDI de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Sin su cristal el chip no responderá, y con él solo a una velocidad menor que 8 kHz (1 kHz con CKDIV8).
+Para recuperarlo: conecte un cristal de 32,768 kHz o aplique una señal de reloj a su pin de reloj, y luego elija una velocidad menor; o use un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Un chip tan lento solo responderá a una velocidad menor que un cuarto de la frecuencia de su reloj.
+Para recuperarlo: elija una velocidad menor.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Sin este reloj en sus pines el chip no responderá.
+Para recuperarlo: aplique una señal de reloj a su pin de reloj (un cristal solo sirve si el ajuste menciona uno), o use un programador de alto voltaje.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>Un programador ya no podrá leer ni grabar el chip.
+Para recuperarlo: bórrelo todo.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programador ya no podrá grabar el chip.
 Para recuperarlo: bórrelo todo.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ Para recuperarlo: bórrelo todo.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Un programador serie no puede acceder a los bytes de fusibles de este microcontrolador.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>avrdude no es fiable para los bytes de fusibles de este microcontrolador.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>No hay bytes de fusibles cargados. Elija el microcontrolador en la primera pestaña.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Un programador ISP no puede acceder a los bytes de fusibles de este microcontrolador.</translation>
     </message>
 </context>
 <context>

@@ -295,11 +295,11 @@
     </message>
     <message>
         <source>avrdude was not started: its arguments hold characters that cannot be seen: %1</source>
-        <translation>avrdude n&apos;a pas été lancé : ses arguments contiennent des caractères invisibles : %1</translation>
+        <translation>avrdude n&apos;a pas été lancé&#xa0;: ses arguments contiennent des caractères invisibles&#xa0;: %1</translation>
     </message>
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
-        <translation>avrdude n&apos;a pas été lancé : %1 est un fichier et non un port.</translation>
+        <translation>avrdude n&apos;a pas été lancé&#xa0;: %1 est un fichier et non un port.</translation>
     </message>
 </context>
 <context>
@@ -401,56 +401,8 @@ Voulez-vous continuer quand même&#xa0;?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Une puce aussi lente ne répond qu&apos;à une vitesse inférieure au quart de la fréquence de son horloge.
-Pour la récupérer&#xa0;: choisissez une vitesse plus basse.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Sans cette horloge sur ses broches, la puce ne répond pas.
-Pour la récupérer&#xa0;: branchez une horloge ou un quartz, ou utilisez un programmateur haute tension.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Réglage d&apos;usine</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>La broche de reset devient une broche ordinaire&#xa0;: un programmateur série ne peut plus accéder à la puce.
-Pour la récupérer&#xa0;: un programmateur haute tension.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>La broche de reset passe au débogueur&#xa0;: un programmateur série ne peut plus accéder à la puce.
-Pour la récupérer&#xa0;: un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>La broche UPDI reçoit une autre fonction&#xa0;: un programmateur UPDI ordinaire ne peut plus accéder à la puce.
-Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programmateur ne peut plus écrire dans la puce.
-Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Un programmateur série ne peut plus accéder à la puce.
-Pour la récupérer&#xa0;: JTAG, si la puce en dispose, ou un programmateur haute tension.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Un programmateur JTAG ne peut plus accéder à la puce.
-Pour la récupérer&#xa0;: ISP (PDI avec un ATxmega) ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,10 +411,64 @@ The way back: a high-voltage programmer.</source>
 Pour la récupérer&#xa0;: un programmateur haute tension.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>La broche de reset devient une broche ordinaire : un programmateur ISP ou TPI ne pourra plus accéder à la puce.
+Pour la récupérer : un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>La broche de reset passe au débogueur : un programmateur ISP ne pourra plus accéder à la puce.
+Pour la récupérer : un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Un programmateur ISP ne pourra plus accéder à la puce.
+Pour la récupérer : JTAG, si la puce en dispose, ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Un programmateur JTAG ne pourra plus accéder à la puce.
+Pour la récupérer : ISP (PDI avec un ATxmega) ou un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
+Pour la récupérer : un programmateur avec UPDI haute tension.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Sans son quartz, la puce ne répondra pas ; avec lui, elle ne répondra qu&apos;à une vitesse inférieure à 8 kHz (1 kHz avec CKDIV8).
+Pour la récupérer : branchez un quartz de 32,768 kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse ; ou utilisez un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Une puce aussi lente ne répondra qu&apos;à une vitesse inférieure au quart de la fréquence de son horloge.
+Pour la récupérer : choisissez une vitesse plus basse.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Sans cette horloge sur ses broches, la puce ne répondra pas.
+Pour la récupérer : appliquez un signal d&apos;horloge à sa broche d&apos;horloge (un quartz ne convient que si le réglage en mentionne un), ou utilisez un programmateur haute tension.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programmateur ne peut plus ni lire la puce ni y écrire.
-Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
+        <translation>Un programmateur ne pourra plus ni lire la puce ni y écrire.
+Pour la récupérer : effacez-la entièrement.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programmateur ne pourra plus écrire dans la puce.
+Pour la récupérer : effacez-la entièrement.</translation>
     </message>
 </context>
 <context>
@@ -528,16 +534,16 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Un programmateur série ne peut pas accéder aux octets de fusibles de ce microcontrôleur.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>avrdude n&apos;est pas fiable pour les octets de fusibles de ce microcontrôleur.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Aucun octet de fusibles n&apos;est chargé. Choisissez le microcontrôleur dans le premier onglet.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Un programmateur ISP ne peut pas accéder aux octets de fusibles de ce microcontrôleur.</translation>
     </message>
 </context>
 <context>

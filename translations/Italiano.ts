@@ -401,56 +401,8 @@ Continuare comunque?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Un chip così lento risponde solo a una velocità inferiore a un quarto della frequenza del suo clock.
-Per recuperarlo: scegliere una velocità minore.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Senza questo clock sui suoi pin il chip non risponde.
-Per recuperarlo: collegare un clock o un quarzo, o usare un programmatore ad alta tensione.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Impostazione di fabbrica</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>Il pin di reset diventa un pin comune: un programmatore seriale non può più accedere al chip.
-Per recuperarlo: un programmatore ad alta tensione.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Il pin di reset passa al debugger: un programmatore seriale non può più accedere al chip.
-Per recuperarlo: un debugger con debugWIRE o un programmatore ad alta tensione.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Il pin UPDI assume un&apos;altra funzione: un comune programmatore UPDI non può più accedere al chip.
-Per recuperarlo: un programmatore con UPDI ad alta tensione.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programmatore non può più scrivere sul chip.
-Per recuperarlo: cancellare tutto.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Un programmatore seriale non può più accedere al chip.
-Per recuperarlo: JTAG, se il chip ce l&apos;ha, o un programmatore ad alta tensione.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Un programmatore JTAG non può più accedere al chip.
-Per recuperarlo: ISP (PDI con un ATxmega) o un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Per recuperarlo: un programmatore ad alta tensione.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Il pin di reset diventa un pin comune: un programmatore ISP o TPI non potrà più accedere al chip.
+Per recuperarlo: un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Il pin di reset passa al debugger: un programmatore ISP non potrà più accedere al chip.
+Per recuperarlo: un debugger con debugWIRE o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Un programmatore ISP non potrà più accedere al chip.
+Per recuperarlo: JTAG, se il chip ce l&apos;ha, o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Un programmatore JTAG non potrà più accedere al chip.
+Per recuperarlo: ISP (PDI con un ATxmega) o un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Il pin UPDI assume un&apos;altra funzione: un comune programmatore UPDI non potrà più accedere al chip.
+Per recuperarlo: un programmatore con UPDI ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Senza il suo quarzo il chip non risponderà; con il quarzo risponderà solo a una velocità inferiore a 8 kHz (1 kHz con CKDIV8).
+Per recuperarlo: collegare un quarzo da 32,768 kHz o applicare un clock al suo pin di clock, poi scegliere una velocità minore; oppure usare un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Un chip così lento risponderà solo a una velocità inferiore a un quarto della frequenza del suo clock.
+Per recuperarlo: scegliere una velocità minore.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Senza questo clock sui suoi pin il chip non risponderà.
+Per recuperarlo: applicare un clock al suo pin di clock (un quarzo serve solo se l&apos;impostazione ne indica uno), o usare un programmatore ad alta tensione.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Un programmatore non può più né leggere il chip né scriverci.
+        <translation>Un programmatore non potrà più né leggere il chip né scriverci.
+Per recuperarlo: cancellare tutto.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Un programmatore non potrà più scrivere sul chip.
 Per recuperarlo: cancellare tutto.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ Per recuperarlo: cancellare tutto.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Un programmatore seriale non può accedere ai byte dei fuse di questo microcontrollore.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>avrdude non è affidabile per i byte dei fuse di questo microcontrollore.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Nessun byte dei fuse caricato. Scegliere il microcontrollore nella prima scheda.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Un programmatore ISP non può accedere ai byte dei fuse di questo microcontrollore.</translation>
     </message>
 </context>
 <context>

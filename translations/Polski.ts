@@ -401,56 +401,8 @@ Czy mimo to kontynuować?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Tak wolny układ odpowiada tylko przy szybkości poniżej jednej czwartej częstotliwości swojego zegara.
-Jak odzyskać układ: wybierz mniejszą szybkość.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Bez tego sygnału zegarowego na wyprowadzeniach układ nie odpowiada.
-Jak odzyskać układ: podłącz zegar lub kwarc albo użyj programatora wysokonapięciowego.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Ustawienie fabryczne</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>Wyprowadzenie RESET staje się zwykłym pinem: programator szeregowy straci dostęp do układu.
-Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Wyprowadzenie RESET przejmuje debugger: programator szeregowy straci dostęp do układu.
-Jak odzyskać układ: debuggerem z debugWIRE albo programatorem wysokonapięciowym.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Wyprowadzenie UPDI otrzymuje inną funkcję: zwykły programator UPDI straci dostęp do układu.
-Jak odzyskać układ: programatorem z wysokonapięciowym UPDI.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Programator nie będzie już mógł programować układu.
-Jak odzyskać układ: skasuj cały układ.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Programator szeregowy straci dostęp do układu.
-Jak odzyskać układ: przez JTAG, jeśli układ go ma, albo programatorem wysokonapięciowym.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Programator JTAG straci dostęp do układu.
-Jak odzyskać układ: przez ISP (w przypadku ATxmega przez PDI) albo programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Wyprowadzenie RESET stanie się zwykłym pinem: programator ISP lub TPI straci dostęp do układu.
+Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Wyprowadzenie RESET przejmie debugger: programator ISP straci dostęp do układu.
+Jak odzyskać układ: debuggerem z debugWIRE albo programatorem wysokonapięciowym.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Programator ISP straci dostęp do układu.
+Jak odzyskać układ: przez JTAG, jeśli układ go ma, albo programatorem wysokonapięciowym.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Programator JTAG straci dostęp do układu.
+Jak odzyskać układ: przez ISP (w przypadku ATxmega przez PDI) albo programatorem wysokonapięciowym.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Wyprowadzenie UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
+Jak odzyskać układ: programatorem z wysokonapięciowym UPDI.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Bez swojego kwarcu układ nie będzie odpowiadał, a z nim tylko przy szybkości poniżej 8 kHz (1 kHz z CKDIV8).
+Jak odzyskać układ: podłącz kwarc 32,768 kHz albo podaj sygnał zegarowy na wejście zegarowe układu, a potem wybierz mniejszą szybkość; możesz też użyć programatora wysokonapięciowego.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Tak wolny układ będzie odpowiadał tylko przy szybkości poniżej jednej czwartej częstotliwości swojego zegara.
+Jak odzyskać układ: wybierz mniejszą szybkość.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Bez tego sygnału zegarowego na wyprowadzeniach układ nie będzie odpowiadał.
+Jak odzyskać układ: podaj sygnał zegarowy na jego wejście zegarowe (kwarc pomoże tylko wtedy, gdy ustawienie go wymienia) albo użyj programatora wysokonapięciowego.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>Programator nie będzie już mógł odczytywać ani programować układu.
+Jak odzyskać układ: skasuj cały układ.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Programator nie będzie już mógł programować układu.
 Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ Jak odzyskać układ: skasuj cały układ.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Programator szeregowy nie ma dostępu do bajtów fuse tego mikrokontrolera.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>W przypadku bajtów fuse tego mikrokontrolera na avrdude nie można polegać.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Nie wczytano bajtów fuse. Wybierz mikrokontroler na pierwszej karcie.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Programator ISP nie ma dostępu do bajtów fuse tego mikrokontrolera.</translation>
     </message>
 </context>
 <context>

@@ -401,56 +401,8 @@ Deseja continuar mesmo assim?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Um chip tão lento só responde a uma velocidade abaixo de um quarto da frequência do seu clock.
-Para recuperá-lo: escolha uma velocidade menor.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Sem este clock nos seus pinos o chip não responde.
-Para recuperá-lo: conecte um clock ou um cristal, ou use um gravador de alta tensão.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Ajuste de fábrica</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>O pino de reset passa a ser um pino comum: um gravador serial não consegue mais acessar o chip.
-Para recuperá-lo: um gravador de alta tensão.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>O pino de reset passa para o depurador: um gravador serial não consegue mais acessar o chip.
-Para recuperá-lo: um depurador com debugWIRE ou um gravador de alta tensão.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>O pino UPDI passa a ter outra função: um gravador UPDI comum não consegue mais acessar o chip.
-Para recuperá-lo: um gravador com UPDI de alta tensão.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Um gravador não consegue mais gravar o chip.
-Para recuperá-lo: apague tudo.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Um gravador serial não consegue mais acessar o chip.
-Para recuperá-lo: JTAG, se o chip tiver, ou um gravador de alta tensão.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Um gravador JTAG não consegue mais acessar o chip.
-Para recuperá-lo: ISP (PDI com um ATxmega) ou um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Para recuperá-lo: um gravador de alta tensão.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>O pino de reset passará a ser um pino comum: um gravador ISP ou TPI não conseguirá mais acessar o chip.
+Para recuperá-lo: um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>O pino de reset passará para o depurador: um gravador ISP não conseguirá mais acessar o chip.
+Para recuperá-lo: um depurador com debugWIRE ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Um gravador ISP não conseguirá mais acessar o chip.
+Para recuperá-lo: JTAG, se o chip tiver, ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Um gravador JTAG não conseguirá mais acessar o chip.
+Para recuperá-lo: ISP (PDI com um ATxmega) ou um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>O pino UPDI passará a ter outra função: um gravador UPDI comum não conseguirá mais acessar o chip.
+Para recuperá-lo: um gravador com UPDI de alta tensão.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Sem o seu cristal o chip não responderá e, com ele, só a uma velocidade abaixo de 8 kHz (1 kHz com CKDIV8).
+Para recuperá-lo: conecte um cristal de 32,768 kHz, ou aplique um clock ao pino de clock do chip, e escolha uma velocidade menor; ou use um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Um chip tão lento só responderá a uma velocidade abaixo de um quarto da frequência do seu clock.
+Para recuperá-lo: escolha uma velocidade menor.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Sem este clock nos seus pinos o chip não responderá.
+Para recuperá-lo: aplique um clock ao pino de clock do chip (um cristal só ajuda se o ajuste mencionar um) ou use um gravador de alta tensão.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Um gravador não consegue mais ler nem gravar o chip.
+        <translation>Um gravador não conseguirá mais ler nem gravar o chip.
+Para recuperá-lo: apague tudo.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Um gravador não conseguirá mais gravar o chip.
 Para recuperá-lo: apague tudo.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ Para recuperá-lo: apague tudo.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Um gravador serial não consegue acessar os bytes de fuse deste microcontrolador.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>O avrdude não é confiável para os bytes de fuse deste microcontrolador.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Nenhum byte de fuse carregado. Escolha o microcontrolador na primeira aba.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Um gravador ISP não consegue acessar os bytes de fuse deste microcontrolador.</translation>
     </message>
 </context>
 <context>

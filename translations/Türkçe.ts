@@ -401,56 +401,8 @@ Yine de devam edilsin mi?</translation>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Bu kadar yavaş bir çip yalnızca saat frekansının dörtte birinden düşük bir hızda yanıt verir.
-Kurtarmak için: daha düşük bir hız seçin.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Bacaklarında bu saat sinyali olmadan çip yanıt vermez.
-Kurtarmak için: bir saat sinyali ya da kristal bağlayın veya yüksek gerilimli bir programlayıcı kullanın.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Fabrika ayarı</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>Reset bacağı sıradan bir bacak olur: seri programlayıcı artık çipe erişemez.
-Kurtarmak için: yüksek gerilimli bir programlayıcı.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Reset bacağı hata ayıklayıcıya geçer: seri programlayıcı artık çipe erişemez.
-Kurtarmak için: debugWIRE destekli bir hata ayıklayıcı ya da yüksek gerilimli bir programlayıcı.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>UPDI bacağı başka bir işlev alır: sıradan bir UPDI programlayıcısı artık çipe erişemez.
-Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Programlayıcı artık çipe yazamaz.
-Kurtarmak için: tümünü silin.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Seri programlayıcı artık çipe erişemez.
-Kurtarmak için: çipte varsa JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>JTAG programlayıcısı artık çipe erişemez.
-Kurtarmak için: ISP (ATxmega&apos;da PDI) ya da yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Kurtarmak için: yüksek gerilimli bir programlayıcı.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Reset bacağı sıradan bir bacak olacak: ISP veya TPI programlayıcısı artık çipe erişemeyecek.
+Kurtarmak için: yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Reset bacağı hata ayıklayıcıya geçecek: ISP programlayıcısı artık çipe erişemeyecek.
+Kurtarmak için: debugWIRE destekli bir hata ayıklayıcı ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>ISP programlayıcısı artık çipe erişemeyecek.
+Kurtarmak için: çipte varsa JTAG ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>JTAG programlayıcısı artık çipe erişemeyecek.
+Kurtarmak için: ISP (ATxmega&apos;da PDI) ya da yüksek gerilimli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>UPDI bacağı başka bir işlev alacak: sıradan bir UPDI programlayıcısı artık çipe erişemeyecek.
+Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Kristali olmadan çip yanıt vermeyecek, kristaliyle de yalnızca 8 kHz&apos;ten (CKDIV8 ile 1 kHz&apos;ten) düşük bir hızda yanıt verecek.
+Kurtarmak için: 32,768 kHz&apos;lik bir kristal bağlayın ya da çipin saat bacağına bir saat sinyali verin, ardından daha düşük bir hız seçin; veya yüksek gerilimli bir programlayıcı kullanın.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Bu kadar yavaş bir çip yalnızca saat frekansının dörtte birinden düşük bir hızda yanıt verecek.
+Kurtarmak için: daha düşük bir hız seçin.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Bacaklarında bu saat sinyali olmadan çip yanıt vermeyecek.
+Kurtarmak için: çipin saat bacağına bir saat sinyali verin (kristal yalnızca ayarda adı geçiyorsa işe yarar) veya yüksek gerilimli bir programlayıcı kullanın.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
-        <translation>Programlayıcı artık çipi okuyamaz ve çipe yazamaz.
+        <translation>Programlayıcı artık çipi okuyamayacak ve çipe yazamayacak.
+Kurtarmak için: tümünü silin.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Programlayıcı artık çipe yazamayacak.
 Kurtarmak için: tümünü silin.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ Kurtarmak için: tümünü silin.</translation>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Seri programlayıcı bu mikrodenetleyicinin fuse baytlarına erişemez.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>avrdude bu mikrodenetleyicinin fuse baytları için güvenilir değil.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Yüklü fuse baytı yok. İlk sekmede mikrodenetleyiciyi seçin.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>ISP programlayıcısı bu mikrodenetleyicinin fuse baytlarına erişemez.</translation>
     </message>
 </context>
 <context>

@@ -401,56 +401,8 @@ Do you want to go on all the same?</source>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Такой медленный МК отвечает только на скорости ниже четверти его тактовой частоты.
-Как восстановить: выберите меньшую скорость.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Без этого тактового сигнала на выводах МК не отвечает.
-Как восстановить: подключите генератор или кварц либо используйте высоковольтный программатор.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Заводская настройка</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>Вывод сброса становится обычным: последовательный программатор потеряет доступ к МК.
-Как восстановить: высоковольтным программатором.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Вывод сброса переходит к отладчику: последовательный программатор потеряет доступ к МК.
-Как восстановить: отладчиком с debugWIRE или высоковольтным программатором.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
-Как восстановить: программатором с высоковольтным UPDI.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Программатор больше не сможет записывать в МК.
-Как восстановить: сотрите всё.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Последовательный программатор потеряет доступ к МК.
-Как восстановить: через JTAG, если он есть в МК, или высоковольтным программатором.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Программатор JTAG потеряет доступ к МК.
-Как восстановить: через ISP (для ATxmega через PDI) или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Как восстановить: высоковольтным программатором.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Вывод сброса становится обычным: программатор ISP или TPI потеряет доступ к МК.
+Как восстановить: высоковольтным программатором.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Вывод сброса переходит к отладчику: программатор ISP потеряет доступ к МК.
+Как восстановить: отладчиком с debugWIRE или высоковольтным программатором.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Программатор ISP потеряет доступ к МК.
+Как восстановить: через JTAG, если он есть в МК, или высоковольтным программатором.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Программатор JTAG потеряет доступ к МК.
+Как восстановить: через ISP (для ATxmega через PDI) или высоковольтным программатором.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
+Как восстановить: программатором с высоковольтным UPDI.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Без кварца МК не будет отвечать, а с кварцем ответит только на скорости ниже 8 kHz (с CKDIV8 ниже 1 kHz).
+Как восстановить: подключите кварц на 32,768 kHz или подайте тактовый сигнал на тактовый вход, а затем выберите меньшую скорость; либо используйте высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Такой медленный МК будет отвечать только на скорости ниже четверти его тактовой частоты.
+Как восстановить: выберите меньшую скорость.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Без этого тактового сигнала на выводах МК не будет отвечать.
+Как восстановить: подайте тактовый сигнал на тактовый вход (кварц поможет, только если он указан в самой настройке) либо используйте высоковольтный программатор.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>Программатор больше не сможет ни считывать МК, ни записывать в него.
+Как восстановить: сотрите всё.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Программатор больше не сможет записывать в МК.
 Как восстановить: сотрите всё.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ The way back: erase all of it.</source>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Последовательный программатор не имеет доступа к фьюз-байтам этого микроконтроллера.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>avrdude ненадёжно работает с фьюз-байтами этого микроконтроллера.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Фьюз-байты не загружены. Выберите микроконтроллер на первой вкладке.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Программатор ISP не имеет доступа к фьюз-байтам этого микроконтроллера.</translation>
     </message>
 </context>
 <context>

@@ -401,56 +401,8 @@ Do you want to go on all the same?</source>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>Такий повільний МК відповідає лише на швидкості, нижчій за чверть його тактової частоти.
-Як відновити: виберіть меншу швидкість.</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>Без цього тактового сигналу на виводах МК не відповідає.
-Як відновити: підключіть генератор чи кварц або скористайтеся високовольтним програматором.</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>Заводське налаштування</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>Вивід скидання стає звичайним: послідовний програматор втратить доступ до МК.
-Як відновити: високовольтним програматором.</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Вивід скидання переходить до налагоджувача: послідовний програматор втратить доступ до МК.
-Як відновити: налагоджувачем із debugWIRE або високовольтним програматором.</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Вивід UPDI отримує інше призначення: звичайний програматор UPDI втратить доступ до МК.
-Як відновити: програматором із високовольтним UPDI.</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>Програматор більше не зможе записувати в МК.
-Як відновити: зітріть усе.</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>Послідовний програматор втратить доступ до МК.
-Як відновити: через JTAG, якщо він є в МК, або високовольтним програматором.</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>Програматор JTAG втратить доступ до МК.
-Як відновити: через ISP (для ATxmega через PDI) або високовольтним програматором.</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -459,9 +411,63 @@ The way back: a high-voltage programmer.</source>
 Як відновити: високовольтним програматором.</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>Вивід скидання стане звичайним: програматор ISP або TPI втратить доступ до МК.
+Як відновити: високовольтним програматором.</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>Вивід скидання перейде до налагоджувача: програматор ISP втратить доступ до МК.
+Як відновити: налагоджувачем із debugWIRE або високовольтним програматором.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>Програматор ISP втратить доступ до МК.
+Як відновити: через JTAG, якщо він є в МК, або високовольтним програматором.</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>Програматор JTAG втратить доступ до МК.
+Як відновити: через ISP (для ATxmega через PDI) або високовольтним програматором.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>Вивід UPDI отримає інше призначення: звичайний програматор UPDI втратить доступ до МК.
+Як відновити: програматором із високовольтним UPDI.</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>Без свого кварцу МК не відповідатиме, а з ним відповідатиме лише на швидкості, нижчій за 8 kHz (1 kHz із CKDIV8).
+Як відновити: підключіть кварц на 32,768 kHz або подайте тактовий сигнал на тактовий вхід МК, а тоді виберіть меншу швидкість; або скористайтеся високовольтним програматором.</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>Такий повільний МК відповідатиме лише на швидкості, нижчій за чверть його тактової частоти.
+Як відновити: виберіть меншу швидкість.</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>Без цього тактового сигналу на виводах МК не відповідатиме.
+Як відновити: подайте тактовий сигнал на тактовий вхід МК (кварц допоможе, лише якщо його названо в налаштуванні) або скористайтеся високовольтним програматором.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>Програматор більше не зможе ні зчитувати МК, ні записувати в нього.
+Як відновити: зітріть усе.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>Програматор більше не зможе записувати в МК.
 Як відновити: зітріть усе.</translation>
     </message>
 </context>
@@ -528,16 +534,16 @@ The way back: erase all of it.</source>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>Послідовний програматор не має доступу до фʼюз-байтів цього мікроконтролера.</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>Щодо фʼюз-байтів цього мікроконтролера на avrdude не можна покластися.</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>Фʼюз-байти не завантажено. Виберіть мікроконтролер на першій вкладці.</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>Програматор ISP не має доступу до фʼюз-байтів цього мікроконтролера.</translation>
     </message>
 </context>
 <context>

@@ -400,56 +400,8 @@ Do you want to go on all the same?</source>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>时钟这么慢的芯片只有在速度低于其时钟频率的四分之一时才会应答。
-恢复方法：选择更低的速度。</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>引脚上没有此时钟时，芯片不会应答。
-恢复方法：接上时钟或晶振，或使用高压编程器。</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>出厂设置</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>复位引脚变为普通引脚：串行编程器将无法再访问芯片。
-恢复方法：使用高压编程器。</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>复位引脚归调试器使用：串行编程器将无法再访问芯片。
-恢复方法：使用支持 debugWIRE 的调试器或高压编程器。</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
-恢复方法：使用支持高压 UPDI 的编程器。</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>编程器将无法再写入芯片。
-恢复方法：全部擦除。</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>串行编程器将无法再访问芯片。
-恢复方法：使用 JTAG（如果芯片有）或高压编程器。</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>JTAG 编程器将无法再访问芯片。
-恢复方法：使用 ISP（ATxmega 使用 PDI）或高压编程器。</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -458,9 +410,63 @@ The way back: a high-voltage programmer.</source>
 恢复方法：使用高压编程器。</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>复位引脚变为普通引脚：ISP 或 TPI 编程器将无法再访问芯片。
+恢复方法：使用高压编程器。</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>复位引脚归调试器使用：ISP 编程器将无法再访问芯片。
+恢复方法：使用支持 debugWIRE 的调试器或高压编程器。</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>ISP 编程器将无法再访问芯片。
+恢复方法：使用 JTAG（如果芯片有）或高压编程器。</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>JTAG 编程器将无法再访问芯片。
+恢复方法：使用 ISP（ATxmega 使用 PDI）或高压编程器。</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
+恢复方法：使用支持高压 UPDI 的编程器。</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>不接晶振，芯片将不会应答；接上晶振，也只有在速度低于 8 kHz（启用 CKDIV8 时为 1 kHz）时才会应答。
+恢复方法：接上 32.768 kHz 晶振或向时钟引脚输入时钟信号，并选择更低的速度；或使用高压编程器。</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>时钟这么慢，芯片将只有在速度低于其时钟频率的四分之一时才会应答。
+恢复方法：选择更低的速度。</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>引脚上没有此时钟时，芯片将不会应答。
+恢复方法：向时钟引脚输入时钟信号（仅当该设置注明晶振时，接晶振才有用），或使用高压编程器。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>编程器将无法再读取或写入芯片。
+恢复方法：全部擦除。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>编程器将无法再写入芯片。
 恢复方法：全部擦除。</translation>
     </message>
 </context>
@@ -527,16 +533,16 @@ The way back: erase all of it.</source>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>串行编程器无法访问此单片机的熔丝字节。</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>对于此单片机的熔丝字节，avrdude 并不可靠。</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>尚未加载熔丝字节。请在第一个选项卡中选择单片机。</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>ISP 编程器无法访问此单片机的熔丝字节。</translation>
     </message>
 </context>
 <context>

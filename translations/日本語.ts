@@ -400,56 +400,8 @@ Do you want to go on all the same?</source>
 <context>
     <name>FuseMeanings</name>
     <message>
-        <source>So slow a chip answers only at a speed below a quarter of its clock.
-The way back: choose a lower speed.</source>
-        <translation>これほど遅いチップは、クロック周波数の 4 分の 1 より低い速度でしか応答しません。
-元に戻すには：より低い速度を選びます。</translation>
-    </message>
-    <message>
-        <source>Without this clock on its pins the chip does not answer.
-The way back: connect a clock or a crystal, or use a high-voltage programmer.</source>
-        <translation>ピンにこのクロックがないと、チップは応答しません。
-元に戻すには：クロックまたは水晶振動子をつなぐか、高電圧書込器を使います。</translation>
-    </message>
-    <message>
         <source>Factory setting</source>
         <translation>工場出荷時の設定</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.
-The way back: a high-voltage programmer.</source>
-        <translation>リセットピンが通常のピンになり、シリアル書込器はチップにアクセスできなくなります。
-元に戻すには：高電圧書込器を使います。</translation>
-    </message>
-    <message>
-        <source>The reset pin becomes the debugger&apos;s: a serial programmer can no longer reach the chip.
-The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>リセットピンがデバッガ用になり、シリアル書込器はチップにアクセスできなくなります。
-元に戻すには：debugWIRE 対応のデバッガまたは高電圧書込器を使います。</translation>
-    </message>
-    <message>
-        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.
-The way back: a programmer with high-voltage UPDI.</source>
-        <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
-元に戻すには：高電圧 UPDI 対応の書込器を使います。</translation>
-    </message>
-    <message>
-        <source>A programmer can no longer write the chip.
-The way back: erase all of it.</source>
-        <translation>書込器はチップに書き込めなくなります。
-元に戻すには：全消去します。</translation>
-    </message>
-    <message>
-        <source>A serial programmer can no longer reach the chip.
-The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
-        <translation>シリアル書込器はチップにアクセスできなくなります。
-元に戻すには：JTAG（チップにある場合）または高電圧書込器を使います。</translation>
-    </message>
-    <message>
-        <source>A JTAG programmer can no longer reach the chip.
-The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
-        <translation>JTAG 書込器はチップにアクセスできなくなります。
-元に戻すには：ISP（ATxmega では PDI）または高電圧書込器を使います。</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -458,9 +410,63 @@ The way back: a high-voltage programmer.</source>
 元に戻すには：高電圧書込器を使います。</translation>
     </message>
     <message>
-        <source>A programmer can no longer read or write the chip.
+        <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
+The way back: a high-voltage programmer.</source>
+        <translation>リセットピンが通常のピンになり、ISP 書込器や TPI 書込器はチップにアクセスできなくなります。
+元に戻すには：高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
+The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
+        <translation>リセットピンがデバッガ用になり、ISP 書込器はチップにアクセスできなくなります。
+元に戻すには：debugWIRE 対応のデバッガまたは高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>An ISP programmer will no longer be able to reach the chip.
+The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
+        <translation>ISP 書込器はチップにアクセスできなくなります。
+元に戻すには：JTAG（チップにある場合）または高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A JTAG programmer will no longer be able to reach the chip.
+The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
+        <translation>JTAG 書込器はチップにアクセスできなくなります。
+元に戻すには：ISP（ATxmega では PDI）または高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI.</source>
+        <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
+元に戻すには：高電圧 UPDI 対応の書込器を使います。</translation>
+    </message>
+    <message>
+        <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
+The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
+        <translation>水晶振動子がないとチップは応答しなくなり、つないでも 8 kHz（CKDIV8 有効時は 1 kHz）より低い速度でしか応答しません。
+元に戻すには：32.768 kHz の水晶振動子をつなぐか、クロックピンにクロックを入力し、いずれの場合もより低い速度を選びます。または、高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>So slow a chip will answer only at a speed below a quarter of its clock.
+The way back: choose a lower speed.</source>
+        <translation>これほど遅いクロックでは、チップはその 4 分の 1 より低い速度でしか応答しなくなります。
+元に戻すには：より低い速度を選びます。</translation>
+    </message>
+    <message>
+        <source>Without this clock on its pins the chip will not answer.
+The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
+        <translation>ピンにこのクロックがないと、チップは応答しなくなります。
+元に戻すには：クロックピンにクロックを入力するか（水晶振動子が役立つのは、設定に水晶振動子と示されている場合だけです）、高電圧書込器を使います。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>書込器はチップの読み出しも書き込みもできなくなります。
+元に戻すには：全消去します。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write the chip.
+The way back: erase all of it.</source>
+        <translation>書込器はチップに書き込めなくなります。
 元に戻すには：全消去します。</translation>
     </message>
 </context>
@@ -527,16 +533,16 @@ The way back: erase all of it.</source>
 <context>
     <name>FusesBytes</name>
     <message>
-        <source>A serial programmer does not reach the fuse bytes of this microcontroller.</source>
-        <translation>シリアル書込器では、このマイコンのヒューズバイトにアクセスできません。</translation>
-    </message>
-    <message>
         <source>avrdude cannot be relied on for the fuse bytes of this microcontroller.</source>
         <translation>このマイコンのヒューズバイトの扱いでは、avrdude を信頼できません。</translation>
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
         <translation>ヒューズバイトが読み込まれていません。最初のタブでマイコンを選択してください。</translation>
+    </message>
+    <message>
+        <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
+        <translation>ISP 書込器では、このマイコンのヒューズバイトにアクセスできません。</translation>
     </message>
 </context>
 <context>

@@ -82,46 +82,52 @@ struct Warning {
 
 // Fields that begin with "safe" lock nobody out: PDI works without the reset pin, and a part that knows high-voltage
 // programming only gets its clock from there.
-constexpr std::array<Warning, 10> lockOuts = {{
+constexpr std::array<Warning, 11> lockOuts = {{
     {"^rstdisbl:gpio",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "The reset pin becomes an ordinary pin: a serial programmer can no longer reach the chip.\n"
-                       "The way back: a high-voltage programmer.")},
+                       "The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach "
+                       "the chip.\nThe way back: a high-voltage programmer.")},
     {"^dwen:dw_enabled",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "The reset pin becomes the debugger's: a serial programmer can no longer reach the chip.\n"
-                       "The way back: a debugger with debugWIRE, or a high-voltage programmer.")},
+                       "The reset pin becomes the debugger's: an ISP programmer will no longer be able to reach the "
+                       "chip.\nThe way back: a debugger with debugWIRE, or a high-voltage programmer.")},
     {"^spien:isp_disabled",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "A serial programmer can no longer reach the chip.\n"
+                       "An ISP programmer will no longer be able to reach the chip.\n"
                        "The way back: JTAG, if the chip has it, or a high-voltage programmer.")},
     {"^jtagen:jtag_disabled",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "A JTAG programmer can no longer reach the chip.\n"
+                       "A JTAG programmer will no longer be able to reach the chip.\n"
                        "The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.")},
     {"^(updi_rstpincfg:(gpio|rst)|updipincfg:gpio)$",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "The UPDI pin gets another purpose: an ordinary UPDI programmer can no longer reach the chip.\n"
-                       "The way back: a programmer with high-voltage UPDI.")},
+                       "The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach "
+                       "the chip.\nThe way back: a programmer with high-voltage UPDI.")},
+    {"^(sut_)?cksel:extlofxtal(?!res)",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with "
+                       "CKDIV8).\nThe way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and "
+                       "choose a lower speed; or use a high-voltage programmer.")},
     {"^(sut_)?cksel:.*(128|32)khz",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "So slow a chip answers only at a speed below a quarter of its clock.\n"
+                       "So slow a chip will answer only at a speed below a quarter of its clock.\n"
                        "The way back: choose a lower speed.")},
     {"^((sut_)?cksel|rcen):.*(ext|xosc|cres|fsosc|tosc)",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "Without this clock on its pins the chip does not answer.\n"
-                       "The way back: connect a clock or a crystal, or use a high-voltage programmer.")},
+                       "Without this clock on its pins the chip will not answer.\n"
+                       "The way back: feed a clock into its clock pin (a crystal helps only where the setting names "
+                       "one), or use a high-voltage programmer.")},
     {"^((sut_)?cksel|updi_rstpincfg):$",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "This setting is reserved: the chip may no longer answer.\n"
                        "The way back: a high-voltage programmer.")},
     {"^lb:(prog_ver_disabled|rwlock)",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "A programmer can no longer read or write the chip.\n"
+                       "A programmer will no longer be able to read or write the chip.\n"
                        "The way back: erase all of it.")},
     {"^lb:(prog_disabled|wlock)",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "A programmer can no longer write the chip.\n"
+                       "A programmer will no longer be able to write the chip.\n"
                        "The way back: erase all of it.")},
 }};
 

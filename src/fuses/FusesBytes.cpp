@@ -72,7 +72,7 @@ void FusesBytes::explainAbsence()
     }
     const QString reason = BytesModel::description(m_settings).value(QLatin1String("withoutFuseBytes")).toString();
     if (reason == QLatin1String("unreachable"))
-        m_view.setReason(tr("A serial programmer does not reach the fuse bytes of this microcontroller."));
+        m_view.setReason(tr("An ISP programmer does not reach the fuse bytes of this microcontroller."));
     else if (reason == QLatin1String("unreliable"))
         m_view.setReason(tr("avrdude cannot be relied on for the fuse bytes of this microcontroller."));
     else
