@@ -4,6 +4,7 @@
 #include "fuses/Fuses.h"
 #include "fuses/FusesButtonsView.h"
 #include "fuses/FusesBytesView.h"
+#include "fuses/SettingsMenu.h"
 #include "mcu/description/BytesModel.h"
 #include "support/Bench.h"
 #include "support/ShownFuses.h"
@@ -167,6 +168,40 @@ private slots:
         QCOMPARE(changed.value(1).left(cell("setting").size()), cell("setting"));
         QCOMPARE(changed.value(3).left(cell("warning").size()), cell("warning"));
         QCOMPARE(changed.value(3).isEmpty(), cell("warning").isEmpty());
+    }
+
+    void choosingByMeaning_data() { casesFrom("choices.txt", {"mcu", "byte", "bit", "listed", "chosen", "value"}); }
+
+    void choosingByMeaning()
+    {
+        Bench bench;
+        bench.folder.copy({"mcu/" + cell("mcu") + ".json", "mcu/meanings/fields.json", "mcu/meanings/words.json"});
+        Fuses fuses(bench.avrdude, nullptr);
+        fuses.loadMcu(cell("mcu"));
+        fuses.rebuild();
+        fuses.show();
+        const FuseBytes& bytes = bench.avrdude.settings().fusesBytes;
+        const auto isMeant = [](const FuseByte& byte) { return byte.id == cell("byte"); };
+        const auto byte = std::find_if(bytes.begin(), bytes.end(), isMeant);
+        const auto* editor = fuses.findChildren<FusesByteView*>()[static_cast<int>(byte - bytes.begin())];
+        QCheckBox* bit = editor->fusesBit()[cell("bit").toInt()];
+        QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {3, 3}, {3, 3});
+        QCoreApplication::sendEvent(bit, &wanted);
+        QStringList listed;
+        QHash<QString, QAction*> settings; // by their digits
+        if (auto* menu = editor->findChild<SettingsMenu*>()) {
+            for (QAction* entry : menu->actions()) {
+                const auto inGroup = entry->menu() ? entry->menu()->actions() : QList<QAction*> {entry};
+                for (QAction* setting : inGroup)
+                    settings.insert(setting->text().section('\t', 1), setting);
+                const QString group = QString("[%1 %2]").arg(entry->text()).arg(inGroup.size());
+                listed += (entry->menu() ? group : entry->text().replace('\t', ' ')) + (entry->isChecked() ? "*" : "");
+            }
+        }
+        QTEST(listed.join(", "), "listed");
+        if (!cell("chosen").isEmpty())
+            settings.value(cell("chosen"))->trigger();
+        QTEST(editor->value()->text() + QString::number(byte->currentValue, 16).toUpper(), "value");
     }
 
     void aReadingTakesItsOwnFiles()

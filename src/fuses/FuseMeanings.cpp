@@ -84,9 +84,10 @@ struct Warning {
 // programming only gets its clock from there.
 constexpr std::array<Warning, 11> lockOuts = {{
     {"^rstdisbl:gpio",
-     QT_TRANSLATE_NOOP("FuseMeanings",
-                       "The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach "
-                       "the chip.\nThe way back: a high-voltage programmer.")},
+     QT_TRANSLATE_NOOP(
+         "FuseMeanings",
+         "The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach "
+         "the chip.\nThe way back: a high-voltage programmer.")},
     {"^dwen:dw_enabled",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "The reset pin becomes the debugger's: an ISP programmer will no longer be able to reach the "
@@ -104,10 +105,11 @@ constexpr std::array<Warning, 11> lockOuts = {{
                        "The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach "
                        "the chip.\nThe way back: a programmer with high-voltage UPDI.")},
     {"^(sut_)?cksel:extlofxtal(?!res)",
-     QT_TRANSLATE_NOOP("FuseMeanings",
-                       "Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with "
-                       "CKDIV8).\nThe way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and "
-                       "choose a lower speed; or use a high-voltage programmer.")},
+     QT_TRANSLATE_NOOP(
+         "FuseMeanings",
+         "Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with "
+         "CKDIV8).\nThe way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and "
+         "choose a lower speed; or use a high-voltage programmer.")},
     {"^(sut_)?cksel:.*(128|32)khz",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "So slow a chip will answer only at a speed below a quarter of its clock.\n"
@@ -196,6 +198,38 @@ QVector<FuseMeanings::Text> FuseMeanings::of(const FuseByte& byte) const
             texts.append({bits, textOf(field, byte)});
     }
     return texts;
+}
+
+QVector<FuseMeanings::Setting> FuseMeanings::settings(const FuseByte& byte, int number) const
+{
+    const auto fields = m_fields.value(byte.id);
+    const auto field = std::find_if(fields.begin(), fields.end(), [number](const Field& one) {
+        return isIn(one.bits, static_cast<std::size_t>(number)) && !one.symbols.isEmpty();
+    });
+    QVector<Setting> found;
+    if (field == fields.end())
+        return found;
+    const quint32 bits = existing(byte, field->bits);
+    quint32 changeable = bits;
+    for (std::size_t i = 0; i < byte.fuseBits.size(); ++i) {
+        if (!byte.fuseBits[i].enabled)
+            changeable &= ~(1U << i);
+    }
+    for (quint32 part = 0; part <= field->bits; ++part) {
+        const quint32 value = (byte.currentValue & ~field->bits) | part;
+        const QString symbol = symbolOf(*field, value);
+        if ((part & ~field->bits) != 0 || ((value ^ byte.currentValue) & ~changeable) != 0 || symbol.isEmpty())
+            continue;
+        const Setting setting {value, digitsOf(value, bits), meaningOf(field->name, symbol), value == byte.currentValue,
+                               ((value ^ factoryValue(byte)) & bits) == 0};
+        const auto same = std::find_if(found.begin(), found.end(),
+                                       [&setting](const Setting& one) { return one.meaning == setting.meaning; });
+        if (same == found.end())
+            found.append(setting);
+        else if (setting.isPresent || (setting.isFactory && !same->isPresent))
+            *same = setting;
+    }
+    return found;
 }
 
 QStringList FuseMeanings::warnings(const SettingsRecord& settings, const QVector<FusesOnChip>& known)

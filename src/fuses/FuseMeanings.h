@@ -24,6 +24,15 @@ public:
         QString text; ///< plain, of several lines
     };
 
+    /// A setting that a field of a byte can have.
+    struct Setting {
+        quint32 value; ///< of the whole byte, with this setting in it and all else as it is
+        QString digits; ///< of the field's bits, from the highest down
+        QString meaning;
+        bool isPresent;
+        bool isFactory;
+    };
+
     /// Reads what is known of the microcontroller in @p settings, in place of the one before.
     void load(const SettingsRecord& settings);
 
@@ -39,6 +48,11 @@ public:
     /// One text for each known field of @p byte, from the highest bit down: the field in words, its present setting
     /// with its meaning, the factory's if that is another, and what to expect where a setting locks the programmer out.
     [[nodiscard]] QVector<Text> of(const FuseByte& byte) const;
+
+    /// The settings that clicks can give to the field which the bit @p number of @p byte belongs to, by value. Reserved
+    /// ones are left out, and of those that mean the same there is one. None where the field is a number, or
+    /// nothing is known.
+    [[nodiscard]] QVector<Setting> settings(const FuseByte& byte, int number) const;
 
     /// What to expect of those settings among the fuse bytes of @p settings that lock the programmer out, as in their
     /// texts, a line each with the byte's name. Left out are those that the part has according to one of @p known.

@@ -4,6 +4,7 @@
 #include "fuses/FusesByteModel.h"
 #include "fuses/FusesByteView.h"
 #include "fuses/HexField.h"
+#include "fuses/SettingsMenu.h"
 
 #include <QCheckBox>
 #include <QKeyEvent>
@@ -72,6 +73,7 @@ FusesBytePresenter::FusesBytePresenter(FusesByteView& view, FusesByteModel& mode
     , m_meanings(meanings)
 {
     connect(&view, &FusesByteView::bitChanged, this, &FusesBytePresenter::onBitChanged);
+    connect(&view, &FusesByteView::settingsWanted, this, &FusesBytePresenter::offerSettings);
     connect(view.value(), &HexField::left, this, &FusesBytePresenter::showValue);
     setModel(model.byte());
     view.value()->installEventFilter(this);
@@ -91,12 +93,14 @@ void FusesBytePresenter::setByte(quint32 value)
 
 void FusesBytePresenter::show()
 {
+    delete m_settings; // it is about another value
     showBits();
     showValue();
 }
 
 void FusesBytePresenter::release()
 {
+    delete m_settings;
     m_view.disconnect(this);
     m_view.value()->disconnect(this);
     m_view.value()->removeEventFilter(this);
@@ -181,4 +185,19 @@ void FusesBytePresenter::typeDigit(QChar digit)
     text.replace(QLatin1Char(' '), QLatin1Char('0')); // until it is typed
     setByte(text.toUInt(nullptr, 16));
     field->setCursorPosition(cursor);
+}
+
+void FusesBytePresenter::offerSettings(int number, const QPoint& position)
+{
+    const auto settings = m_meanings.settings(m_model.byte(), number);
+    if (settings.isEmpty())
+        return;
+    auto* menu = new SettingsMenu(settings, &m_view);
+    m_settings = menu;
+    connect(menu, &SettingsMenu::chosen, this, [this](quint32 value) {
+        const QVector<QCheckBox*>& boxes = m_view.fusesBit();
+        for (int i = 0; i < boxes.size(); ++i)
+            boxes.at(i)->setChecked((value >> i & 1U) == 0); // as a click does
+    });
+    menu->popup(position);
 }

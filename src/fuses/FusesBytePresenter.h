@@ -3,12 +3,14 @@
 #include "app/record/FuseByte.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QVector>
 
 class FuseMeanings;
 class FusesByteModel;
 class FusesByteView;
 class QCheckBox;
+class QMenu;
 
 /// Keeps the check boxes, the hexadecimal field and the record of one fuse byte in step, and what is told about them.
 /// Lives as long as the byte's editor, which owns view and model too.
@@ -43,8 +45,10 @@ private:
     void showValue();
     void onBitChanged(const QVector<QCheckBox*>& fusesBit, QCheckBox* checkBox);
     void typeDigit(QChar digit);
+    void offerSettings(int number, const QPoint& position);
 
     FusesByteView& m_view;
     FusesByteModel& m_model;
     const FuseMeanings& m_meanings;
+    QPointer<QMenu> m_settings; ///< while it is open
 };

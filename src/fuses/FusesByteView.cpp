@@ -17,6 +17,10 @@ FusesByteView::FusesByteView(QWidget* parent)
         auto* checkBox = new QCheckBox(this);
         connect(checkBox, &QCheckBox::stateChanged, this, [this, checkBox] { emit bitChanged(m_fusesBit, checkBox); });
         m_fusesBit.prepend(checkBox);
+        checkBox->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(checkBox, &QCheckBox::customContextMenuRequested, this, [this, checkBox](const QPoint& position) {
+            emit settingsWanted(static_cast<int>(m_fusesBit.indexOf(checkBox)), checkBox->mapToGlobal(position));
+        });
     }
     m_value = new HexField(this);
     auto* label = new QLabel(QStringLiteral("HEX"), this);

@@ -25,6 +25,9 @@ signals:
     /// The user changed a check box of @p fusesBit.
     void bitChanged(QVector<QCheckBox*> fusesBit, QCheckBox* checkBox);
 
+    /// The user wants to choose among the settings of the bit @p number, at @p position on the screens.
+    void settingsWanted(int number, const QPoint& position);
+
     /// The value was shown anew.
     void byteChanged(quint32 byte);
 
