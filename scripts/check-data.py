@@ -134,9 +134,11 @@ for name, found in sorted(ships.items()):
 meanings, words = load('mcu/meanings')['fields'], load('mcu/meanings')['words']
 rules = [(re.compile(pattern), replacement) for pattern, replacement in words['rules']]
 check(set(meanings) <= seen, 'fields of no part:', *sorted(set(meanings) - seen))
+alike = devices('Settings that read alike')
 for field, settings in meanings.items():
     name = field.split(' ')[0]
     check(words['fields'].get(name), field, 'has no words')
+    texts = []
     for symbol in settings.values():
         text = words['symbols'].get(f'{name}:{symbol}', words['symbols'].get(symbol))
         if text is None:
@@ -144,6 +146,8 @@ for field, settings in meanings.items():
             for pattern, replacement in rules:
                 text = pattern.sub(replacement, text)
         check(re.fullmatch('[^_]+', text) and text not in ('reserved', symbol), field, symbol, 'has no words but', text)
+        texts.append(text)
+    check((len(set(texts)) < len(texts)) == (f'`{field}`' in alike), field, 'has settings that read alike, or has none')
 
 samples = dict(load('profiles'), save=json.loads((top / 'data/save.json').read_text()))
 for name, sample in samples.items():
