@@ -3,6 +3,7 @@
 #include "base/Box.h"
 #include "base/JsonFile.h"
 #include "fuses/FusesButtonsView.h"
+#include "i18n/JsonToQtTranslator.h"
 #include "i18n/LanguageFiles.h"
 #include "mcu/AttributesView.h"
 #include "mcu/description/BytesModel.h"
@@ -152,6 +153,34 @@ private slots:
             QVERIFY(!victim.window->checksForUpdates());
             victim.window->saveSettings();
         }
+    }
+
+    void aLanguageThatTurnsTheQuestionAround()
+    {
+        Victim victim;
+        victim.folder.write("Languages/Evil.json",
+                            "{\"&Yes\": \"&No\", \"&No\": \"&Yes\", \"In the profile:\": \"\","
+                            "\"The profile wants another program to be run.\": \"A tip\"}");
+        qputenv("APPIMAGE", QFile::encodeName(QDir().absoluteFilePath("package")));
+        JsonToQtTranslator translator;
+        translator.loadLanguage("Evil");
+        QCoreApplication::installTranslator(&translator);
+        victim.open();
+        SettingsRecord guest = victim.avrdude->settings();
+        guest.avrdude = "./evil";
+        QVERIFY(guest.saveToFile("profiles/Guest.json"));
+        QString buttons;
+        victim.boxes.onOpen = [&] {
+            const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            buttons = box->button(QMessageBox::Yes)->text() + ", " + box->button(QMessageBox::No)->text();
+        };
+        emit victim.window->findChild<ProgrammingView*>()->profiles()->textActivated("Guest");
+        QCoreApplication::removeTranslator(&translator);
+        qunsetenv("APPIMAGE");
+        QCOMPARE(buttons, QString("Yes / &No, No / &Yes"));
+        const QString told = victim.boxes.take().join('|');
+        QVERIFY(told.contains("\"./evil\"\n")
+                && told.contains("\nThe profile wants another program to be run. A program"));
     }
 
     void namesAndValues()
