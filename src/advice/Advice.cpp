@@ -33,7 +33,7 @@ QString join(const QStringList& names)
 /// A name from a profile or a description, which must not read like advice of ours.
 QString nameFrom(const QString& name)
 {
-    constexpr int longest = 40; // characters
+    constexpr int longest = 60; // characters
     return shownText(name, longest).remove(QLatin1Char('\n'));
 }
 
@@ -376,8 +376,6 @@ Explanation Advice::explain(const FailedRun& run, const Surroundings& surroundin
     if (!lines.isEmpty() && !explanation.lines.isEmpty())
         lines += QString();
     explanation.lines = lines + explanation.lines;
-    for (QString& line : explanation.lines)
-        line = shownText(line);
     return explanation;
 }
 

@@ -22,10 +22,9 @@
 
 namespace {
 
-constexpr int longestName = 60; // characters of a name in a sentence
+constexpr int longestName = 40; // characters of a name in a sentence
 constexpr int startTimeout = 30000; // milliseconds
-constexpr int largestReading =
-    16; // bytes: a fuse byte has one, the lock of an AVR DA four; Intel HEX with data has more
+constexpr int largestReading = 16; // bytes: a fuse byte has one, the lock of an AVR DA four; firmware has more
 constexpr char partProperty[] = "part"; // of a button that stands for one
 
 /// "375 kHz (-B 2)" and "-B 2" both give "-B 2".
@@ -68,7 +67,8 @@ QString faultOf(const SettingsRecord& settings)
             .arg(shownText(shown));
     const QString own = ExtraArguments(settings.arguments).value('P');
     for (const QString& port : {settings.port, own}) {
-        if (QFileInfo(port).isFile()) // avrdude would open it for writing
+        // avrdude would open it for writing. "usb" and "COM3" are none to it, whatever lies in the working folder.
+        if (!port.startsWith(QLatin1String("usb")) && !isDeviceName(port) && QFileInfo(port).isFile())
             return Avrdude::tr("avrdude was not started: %1 is a file and no port.").arg(shownText(port));
     }
     return {};

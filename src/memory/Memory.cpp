@@ -66,8 +66,9 @@ QString Memory::setFormatFile(const QString& suffix) const
 void Memory::refresh()
 {
     m_view.writePath()->setText(fileToWrite());
-    if (m_avrdude.settings().generation > 1 && fileToRead() != m_view.readPath()->text())
-        m_foreignRead = fileToRead(); // what the settings file has at the start is the user's own
+    if (m_isShown && fileToRead() != m_view.readPath()->text())
+        m_foreignRead = fileToRead(); // what is shown first, at the start, is the user's own
+    m_isShown = true;
     m_view.readPath()->setText(fileToRead());
 }
 

@@ -59,5 +59,6 @@ private:
     const MemoryKind& m_kind;
     QHash<QString, QDateTime> m_read; ///< files that a reading wrote, with the time of that
     QString m_lastRead; ///< the one of the last reading
+    bool m_isShown = false; ///< the settings record's paths have been
     QString m_foreignRead; ///< to read into, as a profile brought it
 };
