@@ -58,6 +58,16 @@ def has_word(text, word):
     return re.search(r'(?<![\w-])' + re.escape(word) + r'\b', text) is not None
 
 
+def check_other_names(name, entry):
+    """What people call a thing, which is found by its name and identifier anyway."""
+    def essence(text):
+        return re.sub(r'[\s_-]', '', text).casefold()
+
+    own = essence(name), essence(entry['id'])
+    for word in entry.pop('aka', []):
+        check(word.strip() and not any(essence(word) in text for text in own), name, 'is also called', word)
+
+
 facts = {}  # what the table says, in the form of our files
 for line in (top / 'tests/data/parts.txt').read_text().splitlines():
     name, *cells = line.split(' ')
@@ -127,6 +137,7 @@ for name, found in sorted(ships.items()):
     check(found.pop('avrdude', '7') == ('8' if has_word(newer, name) else '7'), name, 'needs avrdude 8, or does not')
     if name.startswith('AVR') and not has_word(newer, name):  # 7.1 has the whole name, which newer ones take too
         expected = dict(expected, id=name.lower())
+    check_other_names(name, found)
     check(found == expected, name, 'is', found, 'instead of', expected)
     accepted = (known or [found['id']]) + [name.lower()] * (version > (7, 1))
     check(found['id'] in accepted, name, 'is called', known, 'by avrdude')
@@ -182,6 +193,7 @@ for name, entry in programmers.items():
     identifier, arguments = entry['id'], entry['arguments']
     is_newer = f'| {name} | `{identifier}` | {entry["port"]} |' in newer
     older += not is_newer
+    check_other_names(name, entry)
     check(identifier in optional or is_known_rightly(identifier in ports, is_newer), name, 'needs a newer avrdude')
     port = 'usb' if '-P ' in arguments else ports.get(identifier) or entry['port']
     expected = {'id': identifier, 'arguments': arguments, 'port': port, **tells.get(identifier, {}),

@@ -1,3 +1,4 @@
+#include "base/JsonFile.h"
 #include "base/ListComboBox.h"
 #include "settings/SettingsModel.h"
 #include "settings/SettingsPresenter.h"
@@ -21,7 +22,7 @@ struct Panel : Bench {
         folder.write("programmer/Serial.json", R"({"id": "stk500v1", "port": "com"})");
         folder.write("programmer/Broken.json", "{\"id\": ");
         folder.write("Languages/New.json", "{}");
-        for (QComboBox* list : {view.programmer(), view.language()})
+        for (QComboBox* list : {static_cast<QComboBox*>(view.programmer()), view.language()})
             list->addItem("none"); // stands first, in whatever order the folders are read
         presenter = std::make_unique<SettingsPresenter>(avrdude, model, view);
     }
@@ -43,12 +44,17 @@ class tst_Settings : public QObject
     Q_OBJECT
 
 private slots:
-    void findingInAList_data() { casesFrom("searches.txt", {"typed", "keys", "picked", "search"}); }
+    void findingInAList_data() { casesFrom("searches.txt", {"list", "typed", "keys", "picked", "search"}); }
 
     void findingInAList()
     {
         ListComboBox list(ListComboBox::Width::Any);
-        list.addItems({"first", "ATmega1608", "ATmega16", "ATmega328P"});
+        const QString folder = cell("list").isEmpty() ? QString() : QStringLiteral(DATA_FOLDER "/") + cell("list");
+        QStringList names = jsonBaseNames(folder);
+        names.sort();
+        list.addItems(folder.isNull() ? QStringList {"first", "ATmega1608", "ATmega16", "ATmega328P"}
+                                      : QStringList {"first"} + names);
+        list.setOtherWords([&folder](const QString& name) { return otherNames(folder, name); });
         list.show();
         QVERIFY(QTest::qWaitForWindowActive(&list));
         QString picked;

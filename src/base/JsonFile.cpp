@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QThread>
+#include <QVariant>
 
 namespace {
 
@@ -121,4 +122,15 @@ QStringList jsonBaseNames(const QString& folder)
             names.append(file.baseName());
     }
     return names;
+}
+
+QStringList jsonTexts(const QJsonValue& value)
+{
+    return QVariant(value.toArray().toVariantList()).toStringList();
+}
+
+QStringList otherNames(const QString& folder, const QString& name)
+{
+    const QJsonObject entry = JsonFile::read(jsonPath(folder, name)).document.object();
+    return jsonTexts(entry.value(QLatin1String("aka"))) + QStringList {entry.value(QLatin1String("id")).toString()};
 }

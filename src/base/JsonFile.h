@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QFileInfoList>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -52,3 +54,9 @@ struct JsonFile {
 
 /// Their base names: up to the first dot. Those that jsonPath() knows no file for are left out.
 [[nodiscard]] QStringList jsonBaseNames(const QString& folder);
+
+/// The texts in the list @p value; what is no text is an empty one. Empty for what is no list.
+[[nodiscard]] QStringList jsonTexts(const QJsonValue& value);
+
+/// Other names of what the file in @p folder for @p name describes: avrdude's identifier, and what else people call it.
+[[nodiscard]] QStringList otherNames(const QString& folder, const QString& name);

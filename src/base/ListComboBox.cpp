@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QStylePainter>
 #include <QWheelEvent>
@@ -28,6 +29,25 @@ bool wouldChoose(int key)
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown
         || key == Qt::Key_Home || key == Qt::Key_End;
 }
+
+/// What of @p text counts where something is looked for.
+QString essence(QString text)
+{
+    static const QRegularExpression ignored(QStringLiteral("[\\s_-]"));
+    return text.remove(ignored).toCaseFolded();
+}
+
+constexpr int wordsRole = Qt::UserRole + 1; ///< the words for an entry, each between line breaks
+
+/// Looks for the essence of what is typed in the words of the entries, and shows their names.
+class EntryCompleter : public QCompleter
+{
+public:
+    using QCompleter::QCompleter;
+
+    [[nodiscard]] QStringList splitPath(const QString& typed) const override { return {essence(typed)}; }
+    [[nodiscard]] QString pathFromIndex(const QModelIndex& index) const override { return index.data().toString(); }
+};
 
 } // namespace
 
@@ -129,9 +149,9 @@ void ListComboBox::makeSearch()
     m_search->setContextMenuPolicy(Qt::NoContextMenu);
     m_search->setAccessibleName(accessibleName());
     m_search->installEventFilter(this);
-    m_completer = new QCompleter(model(), this);
+    m_completer = new EntryCompleter(model(), this);
+    m_completer->setCompletionRole(wordsRole);
     m_completer->setFilterMode(Qt::MatchContains);
-    m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setMaxVisibleItems(maxVisibleItems());
     m_completer->popup()->installEventFilter(this);
     m_search->setCompleter(m_completer);
@@ -144,6 +164,7 @@ void ListComboBox::startSearch(QKeyEvent* firstKey)
 {
     if (count() == 0)
         return;
+    learnWords();
     if (!m_search)
         makeSearch();
     hidePopup();
@@ -163,6 +184,18 @@ void ListComboBox::endSearch()
     m_search->hide();
 }
 
+void ListComboBox::learnWords()
+{
+    for (int i = 0; i < count(); ++i) {
+        if (itemData(i, wordsRole).isValid())
+            continue;
+        QString words(QLatin1Char('\n'));
+        for (const QString& word : QStringList {itemText(i)} + (m_wordsFor ? m_wordsFor(itemText(i)) : QStringList()))
+            words += essence(word) + QLatin1Char('\n');
+        setItemData(i, words, wordsRole);
+    }
+}
+
 void ListComboBox::pickFound()
 {
     const QString typed = m_search->text();
@@ -171,6 +204,9 @@ void ListComboBox::pickFound()
     int index = findText(typed);
     if (index < 0)
         index = findText(typed, Qt::MatchFixedString); // in whatever case
+    if (index < 0)
+        index = findData(QLatin1Char('\n') + essence(typed) + QLatin1Char('\n'), wordsRole,
+                         Qt::MatchContains | Qt::MatchCaseSensitive);
     if (index < 0)
         index = findText(m_completer->currentCompletion());
     pick(index);

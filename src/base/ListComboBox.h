@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+#include <functional>
+
 class QCompleter;
 class QLineEdit;
 
@@ -10,8 +12,8 @@ class QLineEdit;
 /// tooltip.
 ///
 /// Only a finished choice changes it: the wheel does nothing, the arrow keys open the list, and typing looks for what
-/// is typed anywhere in the names. Enter then picks the exact name, else the topmost that is listed; Escape leaves
-/// everything as it was.
+/// is typed anywhere in the names, and in other words for them; blanks, hyphens and case do not count. Enter then picks
+/// the exact name, else an exact other word, else the topmost that is listed; Escape leaves everything as it was.
 class ListComboBox : public QComboBox
 {
     Q_OBJECT
@@ -21,6 +23,9 @@ public:
     enum class Width { OfEntries, Any };
 
     explicit ListComboBox(Width width, QWidget* parent = nullptr);
+
+    /// @p wordsFor tells what else an entry is called. It is asked for each once, when something is looked for.
+    void setOtherWords(std::function<QStringList(const QString& name)> wordsFor) { m_wordsFor = std::move(wordsFor); }
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -36,9 +41,11 @@ private:
     void makeSearch();
     void startSearch(QKeyEvent* firstKey);
     void endSearch();
+    void learnWords();
     void pickFound();
     void pick(int index);
 
+    std::function<QStringList(const QString& name)> m_wordsFor;
     QLineEdit* m_search = nullptr; ///< lies over the box while something is looked for; made by the first search
     QCompleter* m_completer = nullptr;
 };

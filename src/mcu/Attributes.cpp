@@ -8,7 +8,6 @@
 #include "mcu/AttributesView.h"
 #include "mcu/description/BytesModel.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -30,6 +29,7 @@ Attributes::Attributes(Avrdude& avrdude, SignatureIndex& /*index*/, AttributesVi
     QStringList names = jsonBaseNames(BytesModel::folder());
     names.sort();
     view.mcuList()->addItems(names);
+    view.mcuList()->setOtherWords([](const QString& name) { return otherNames(BytesModel::folder(), name); });
     if (names.isEmpty())
         avrdude.log().appendLine(tr("Nothing found in the folder %1.").arg(fullPath(BytesModel::folder())));
 

@@ -1,6 +1,5 @@
 #include "mcu/AttributesView.h"
 
-#include "base/ListComboBox.h"
 #include "base/RowBox.h"
 #include "base/RunButton.h"
 

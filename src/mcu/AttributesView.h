@@ -1,10 +1,11 @@
 #pragma once
 
+#include "base/ListComboBox.h"
+
 #include <QWidget>
 
 #include <memory>
 
-class QComboBox;
 class QLineEdit;
 class QPushButton;
 
@@ -18,14 +19,14 @@ public:
     explicit AttributesView(QWidget* parent = nullptr);
     ~AttributesView() override;
 
-    [[nodiscard]] QComboBox* mcuList() const { return m_mcuList; }
+    [[nodiscard]] ListComboBox* mcuList() const { return m_mcuList; }
     [[nodiscard]] QPushButton* autoDetectButton() const { return m_autoDetect.get(); }
     [[nodiscard]] QPushButton* eraseButton() const { return m_erase; }
     [[nodiscard]] QPushButton* readButton() const { return m_read; }
     [[nodiscard]] QLineEdit* calibrationByte() const { return m_calibrationByte; }
 
 private:
-    QComboBox* m_mcuList;
+    ListComboBox* m_mcuList;
     std::unique_ptr<QPushButton> m_autoDetect; ///< deliberately on no panel: avrdude must be told the part to find it
     QPushButton* m_erase;
     QPushButton* m_read;

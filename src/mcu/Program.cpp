@@ -10,7 +10,6 @@
 #include "memory/Flash.h"
 #include "memory/FlashView.h"
 
-#include <QComboBox>
 #include <QMessageBox>
 #include <QVBoxLayout>
 

@@ -11,7 +11,6 @@
 #include "settings/SettingsModel.h"
 #include "settings/SettingsView.h"
 
-#include <QComboBox>
 #include <QDebug>
 #include <QJsonObject>
 #include <QMessageBox>
@@ -26,6 +25,8 @@ SettingsPresenter::SettingsPresenter(Avrdude& avrdude, SettingsModel& model, Set
 {
     // Filled before they are connected: what happens to stand first is no choice of the user's.
     view.programmer()->addItems(model.programmerList());
+    view.programmer()->setOtherWords(
+        [](const QString& name) { return otherNames(SettingsModel::programmerFolder(), name); });
     if (view.programmer()->count() == 0)
         m_log.appendLine(tr("Nothing found in the folder %1.").arg(fullPath(SettingsModel::programmerFolder())));
     view.speed()->addItems(model.speedList());

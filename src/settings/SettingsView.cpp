@@ -1,6 +1,5 @@
 #include "settings/SettingsView.h"
 
-#include "base/ListComboBox.h"
 #include "base/RowBox.h"
 
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QGroupBox>
+#include "base/ListComboBox.h"
 
-class QComboBox;
+#include <QGroupBox>
 
 /// The strip of four lists under the tabs. Owned by the settings panel.
 class SettingsView : public QGroupBox
@@ -12,13 +12,13 @@ class SettingsView : public QGroupBox
 public:
     explicit SettingsView(QWidget* parent = nullptr);
 
-    [[nodiscard]] QComboBox* programmer() const { return m_programmer; }
+    [[nodiscard]] ListComboBox* programmer() const { return m_programmer; }
     [[nodiscard]] QComboBox* port() const { return m_port; }
     [[nodiscard]] QComboBox* speed() const { return m_speed; }
     [[nodiscard]] QComboBox* language() const { return m_language; }
 
 private:
-    QComboBox* m_programmer;
+    ListComboBox* m_programmer;
     QComboBox* m_port;
     QComboBox* m_speed;
     QComboBox* m_language;

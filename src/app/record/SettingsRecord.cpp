@@ -5,7 +5,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QMap>
-#include <QVariant>
 
 #include <algorithm>
 
@@ -164,7 +163,7 @@ private:
 
     static void read(const QJsonValue& json, QStringList& list, const QString&)
     {
-        list = QVariant(json.toArray().toVariantList()).toStringList();
+        list = jsonTexts(json);
         const auto isTooLong = [](const QString& text) { return text.size() > longestText; };
         if (list.size() > longestList || std::any_of(list.begin(), list.end(), isTooLong))
             list.clear();
