@@ -150,7 +150,11 @@ for field, settings in meanings.items():
     name = field.split(' ')[0]
     check(words['fields'].get(name), field, 'has no words')
     texts = []
-    for symbol in settings.values():
+    for setting, symbol in settings.items():
+        if isinstance(symbol, int):  # bytes: the end of a section from that of the flash, or of each block from its start
+            check(symbol > 0 if setting == '*' else symbol < 0, field, symbol, 'is beyond the flash')
+            texts.append(symbol)
+            continue
         text = words['symbols'].get(f'{name}:{symbol}', words['symbols'].get(symbol))
         if text is None:
             text = symbol
@@ -186,18 +190,20 @@ for line in (top / 'tests/data/interfaces.txt').read_text().splitlines():
     if not line.startswith('#'):
         identifier, interfaces, usb = line.split(' ')
         tells[identifier] = {'interfaces': interfaces.split('+'), **({} if usb == '-' else {'usb': usb.split('+')})}
+# avrdude's own words for it are: "note AVR F_CPU > 6.8 MHz".
+more = {'ch341a': {'avrdude': '7.3', 'slowestChip': '6.8 MHz'}}
 offered = set()
 older = 0  # those that 7.1 knows
 programmers = load('programmer')
 for name, entry in programmers.items():
     identifier, arguments = entry['id'], entry['arguments']
-    is_newer = f'| {name} | `{identifier}` | {entry["port"]} |' in newer
+    is_newer = f'`{identifier}`' in newer
     older += not is_newer
     check_other_names(name, entry)
     check(identifier in optional or is_known_rightly(identifier in ports, is_newer), name, 'needs a newer avrdude')
     port = 'usb' if '-P ' in arguments else ports.get(identifier) or entry['port']
     expected = {'id': identifier, 'arguments': arguments, 'port': port, **tells.get(identifier, {}),
-                **({'avrdude': '8'} if is_newer else {})}
+                **({'avrdude': '8'} if is_newer else {}), **more.get(identifier, {})}
     check(entry == expected, name, 'is', entry, 'instead of', expected)
     check((identifier, arguments) not in offered, name, 'is there twice')
     offered |= {identifier, (identifier, arguments)}

@@ -4,16 +4,15 @@
 #include "advice/Surroundings.h"
 #include "avrdude/ExtraArguments.h"
 #include "avrdude/FailedRun.h"
+#include "base/JsonFile.h"
 #include "base/ShownText.h"
 #include "mcu/description/BytesModel.h"
 #include "mcu/description/SignatureIndex.h"
 #include "settings/SettingsModel.h"
 
 #include <QCoreApplication>
-#include <QJsonArray>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QVariant>
 
 #include <algorithm>
 #include <iterator>
@@ -44,10 +43,7 @@ struct Case {
     QJsonObject part; ///< its description; empty when there is none
     ProgrammerEntry programmer; ///< of the catalogue; empty when it is another's
 
-    [[nodiscard]] QStringList partInterfaces() const
-    {
-        return QVariant(part.value(QLatin1String("interfaces")).toArray().toVariantList()).toStringList();
-    }
+    [[nodiscard]] QStringList partInterfaces() const { return jsonTexts(part.value(QLatin1String("interfaces"))); }
     [[nodiscard]] bool isBootLoader() const { return programmer.interfaces.value(0) == QLatin1String("bootloader"); }
 };
 
@@ -205,15 +201,25 @@ QStringList noAnswer(const Case& of)
             presentPorts(of)};
 }
 
+QString tooFast(const Case& of)
+{
+    const QString& slowest = of.programmer.slowestChip;
+    if (!slowest.isEmpty())
+        return say(QT_TRANSLATE_NOOP("Advice",
+                                     "The speed of this programmer is fixed: the chip's clock has to be above %1, and "
+                                     "a new chip's is mostly 1 MHz."))
+            .arg(nameFrom(slowest));
+    return say(QT_TRANSLATE_NOOP("Advice", "The speed has to be below a quarter of the chip's clock: try a lower one."))
+        + inBrackets(of.run.settings.speed.section(QStringLiteral(" ("), 0, 0));
+}
+
 QStringList noChip(const Case& of)
 {
-    return {
-        say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
-        say(QT_TRANSLATE_NOOP("Advice", "The speed has to be below a quarter of the chip's clock: try a lower one."))
-            + inBrackets(of.run.settings.speed.section(QStringLiteral(" ("), 0, 0)),
-        say(QT_TRANSLATE_NOOP("Advice",
-                              "Its fuses may ask for a clock that is not there, or use the reset pin as an "
-                              "ordinary one."))};
+    return {say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
+            tooFast(of),
+            say(QT_TRANSLATE_NOOP("Advice",
+                                  "Its fuses may ask for a clock that is not there, or use the reset pin as an "
+                                  "ordinary one."))};
 }
 
 QStringList mismatch(const Case&)

@@ -149,6 +149,7 @@ void FuseMeanings::load(const SettingsRecord& settings)
     clear();
     m_isLoaded = true;
     const QJsonObject description = BytesModel::description(settings);
+    m_flashSize = description.value(QLatin1String("flash")).toInt();
     const auto factory = BytesModel::fuseBytes(description);
     for (const FuseByte& byte : factory)
         m_factoryValues.insert(byte.id, byte.defaultValue);
@@ -204,7 +205,7 @@ QVector<FuseMeanings::Setting> FuseMeanings::settings(const FuseByte& byte, int 
 {
     const auto fields = m_fields.value(byte.id);
     const auto field = std::find_if(fields.begin(), fields.end(), [number](const Field& one) {
-        return isIn(one.bits, static_cast<std::size_t>(number)) && !one.symbols.isEmpty();
+        return isIn(one.bits, static_cast<std::size_t>(number)) && !one.isNumber();
     });
     QVector<Setting> found;
     if (field == fields.end())
@@ -217,8 +218,8 @@ QVector<FuseMeanings::Setting> FuseMeanings::settings(const FuseByte& byte, int 
     }
     for (quint32 part = 0; part <= field->bits; ++part) {
         const quint32 value = (byte.currentValue & ~field->bits) | part;
-        const QString symbol = symbolOf(*field, value);
-        if ((part & ~field->bits) != 0 || ((value ^ byte.currentValue) & ~changeable) != 0 || symbol.isEmpty())
+        const QJsonValue symbol = symbolOf(*field, value);
+        if ((part & ~field->bits) != 0 || ((value ^ byte.currentValue) & ~changeable) != 0 || symbol == QString())
             continue;
         const Setting setting {value, digitsOf(value, bits), meaningOf(field->name, symbol), value == byte.currentValue,
                                ((value ^ factoryValue(byte)) & bits) == 0};
@@ -251,25 +252,35 @@ QStringList FuseMeanings::warnings(const SettingsRecord& settings, const QVector
     return lines;
 }
 
-QString FuseMeanings::symbolOf(const Field& field, quint32 value) const
+bool FuseMeanings::Field::isNumber() const
 {
+    return symbols.isEmpty() || symbols.value(QLatin1String("*")).isDouble();
+}
+
+QJsonValue FuseMeanings::symbolOf(const Field& field, quint32 value)
+{
+    const quint32 number = numberIn(value, field.bits);
+    const QJsonValue own = field.symbols.value(QString::number(number));
+    if (!own.isUndefined())
+        return own;
     const QJsonValue others = field.symbols.value(QLatin1String("*"));
-    return field.symbols.value(QString::number(numberIn(value, field.bits))).toString(others.toString());
+    return others.isDouble() ? QJsonValue(others.toInt() * static_cast<int>(number)) : QJsonValue(others.toString());
 }
 
 QString FuseMeanings::warningOf(const Field& field, const FuseByte& byte) const
 {
     const bool isFactory = (changed(byte) & field.bits) == 0; // which locks nobody out
-    return isFactory ? QString() : warningFor(field.name + QLatin1Char(':') + symbolOf(field, byte.currentValue));
+    return isFactory ? QString()
+                     : warningFor(field.name + QLatin1Char(':') + symbolOf(field, byte.currentValue).toString());
 }
 
 QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
 {
     const quint32 bits = existing(byte, field.bits);
     const auto setting = [&](quint32 value) {
-        return field.symbols.isEmpty()
-            ? QString::number(numberIn(value, field.bits))
-            : digitsOf(value, bits) + QStringLiteral(": ") + meaningOf(field.name, symbolOf(field, value));
+        const QString text = field.isNumber() ? QString::number(numberIn(value, field.bits)) : digitsOf(value, bits);
+        return field.symbols.isEmpty() ? text
+                                       : text + QStringLiteral(": ") + meaningOf(field.name, symbolOf(field, value));
     };
     QStringList lines {field.text, namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
     if ((changed(byte) & bits) != 0) {
@@ -282,8 +293,9 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
     return lines.join(QLatin1Char('\n')).replace(QLatin1Char('\n'), QLatin1String("\n    "));
 }
 
-QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
+QString FuseMeanings::meaningOf(const QString& field, const QJsonValue& setting) const
 {
+    QString symbol = setting.isDouble() ? sectionSymbol(setting.toInt()) : setting.toString();
     const QJsonValue ofField = m_words.value(field + QLatin1Char(':') + symbol);
     const QJsonValue words = ofField.isString() ? ofField : m_words.value(symbol);
     if (words.isString())
@@ -291,4 +303,12 @@ QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
     for (const auto& [pattern, replacement] : m_rules)
         symbol.replace(pattern, replacement);
     return symbol;
+}
+
+QString FuseMeanings::sectionSymbol(int bytes) const
+{
+    if (bytes > 0)
+        return QStringLiteral("to_%1b").arg(bytes);
+    const QString size = QStringLiteral("%1b_%2w").arg(-bytes).arg(-bytes / 2);
+    return m_flashSize + bytes < 0 ? size : size + QStringLiteral("_0x%1").arg(m_flashSize + bytes, 0, 16);
 }

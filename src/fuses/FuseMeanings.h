@@ -63,16 +63,24 @@ private:
         quint32 bits;
         QString name; ///< the vendor's, in lower case, or ours where one name of theirs stands for two things
         QString text; ///< what it is for
-        QJsonObject symbols; ///< by value, "*" for all others; without any the field holds a number
+        /// The vendor's symbols by value, "*" for all others. In place of a symbol stands a number of bytes where a
+        /// setting bounds a section of the flash: counted from its start, or, if negative, from its end; that of "*"
+        /// is for each 1 of the value. Without any the field holds a number.
+        QJsonObject symbols;
+
+        /// Whether its settings are read as a number, and are too many to list.
+        [[nodiscard]] bool isNumber() const;
     };
 
     [[nodiscard]] quint32 factoryValue(const FuseByte& byte) const;
-    [[nodiscard]] QString symbolOf(const Field& field, quint32 value) const;
+    [[nodiscard]] static QJsonValue symbolOf(const Field& field, quint32 value);
     [[nodiscard]] QString warningOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
-    [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
+    [[nodiscard]] QString meaningOf(const QString& field, const QJsonValue& setting) const;
+    [[nodiscard]] QString sectionSymbol(int bytes) const;
 
     bool m_isLoaded = false;
+    int m_flashSize = 0; ///< bytes; 0 if not known
     QHash<QString, quint32> m_factoryValues; ///< by the byte's id
     QHash<QString, QVector<Field>> m_fields; ///< the same
     QJsonObject m_words; ///< by symbol, or by field and symbol where fields share one; those without one are reserved

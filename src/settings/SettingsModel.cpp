@@ -2,10 +2,8 @@
 
 #include "base/JsonFile.h"
 
-#include <QJsonArray>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QVariant>
 
 SettingsModel::SettingsModel(QObject* parent, PortSource ports)
     : QObject(parent)
@@ -43,9 +41,7 @@ ProgrammerEntry SettingsModel::programmerEntry(const QString& name)
     const JsonFile file = JsonFile::read(jsonPath(programmerFolder(), name));
     const QJsonObject entry = file.document.object();
     const auto text = [&entry](const char* key) { return entry.value(QLatin1String(key)).toString(); };
-    const auto list = [&entry](const char* key) {
-        return QVariant(entry.value(QLatin1String(key)).toArray().toVariantList()).toStringList();
-    };
+    const auto list = [&entry](const char* key) { return jsonTexts(entry.value(QLatin1String(key))); };
     // A line for the system's configuration may be made of these.
     static const QRegularExpression usbNumbers(
         QRegularExpression::anchoredPattern(QStringLiteral("[0-9a-fA-F]{4}:[0-9a-fA-F]{4}")));
@@ -55,5 +51,6 @@ ProgrammerEntry SettingsModel::programmerEntry(const QString& name)
             text("port"),
             list("interfaces"),
             list("usb").filter(usbNumbers),
-            text("avrdude")};
+            text("avrdude"),
+            text("slowestChip")};
 }

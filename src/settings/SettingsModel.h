@@ -16,6 +16,7 @@ struct ProgrammerEntry {
     QStringList interfaces; ///< that it programs parts by, "ISP", or "bootloader"; empty: not known
     QStringList usb; ///< vendor and product numbers, "16c0:05dc"; empty: none, or not known
     QString avrdude; ///< the version that first knew it, where that is newer than 7.1
+    QString slowestChip; ///< "6.8 MHz": the clock that a chip needs for a programmer whose speed is fixed; else empty
 };
 
 /// The lists that the settings panel offers. The folders are those of the working directory; a missing one gives an
