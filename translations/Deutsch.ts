@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Ordner, in denen danach gesucht wird: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>Das Tempo dieses Programmers steht fest: Der Takt des Chips muss über %1 liegen, und ein neuer Chip läuft meist mit 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

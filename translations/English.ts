@@ -140,6 +140,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Folders that are searched for it: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Carpetas en las que se busca: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>La velocidad de este programador es fija: el reloj del chip debe superar %1, y el de un chip nuevo suele ser de 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Dossiers où il est cherché : %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>La vitesse de ce programmateur est fixe : l&apos;horloge de la puce doit dépasser %1, et celle d&apos;une puce neuve est le plus souvent de 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -413,62 +417,62 @@ Pour la récupérer&#xa0;: un programmateur haute tension.</translation>
     <message>
         <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>La broche de reset devient une broche ordinaire : un programmateur ISP ou TPI ne pourra plus accéder à la puce.
-Pour la récupérer : un programmateur haute tension.</translation>
+        <translation>La broche de reset devient une broche ordinaire&#xa0;: un programmateur ISP ou TPI ne pourra plus accéder à la puce.
+Pour la récupérer&#xa0;: un programmateur haute tension.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>La broche de reset passe au débogueur : un programmateur ISP ne pourra plus accéder à la puce.
-Pour la récupérer : un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
+        <translation>La broche de reset passe au débogueur&#xa0;: un programmateur ISP ne pourra plus accéder à la puce.
+Pour la récupérer&#xa0;: un débogueur avec debugWIRE ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>An ISP programmer will no longer be able to reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
         <translation>Un programmateur ISP ne pourra plus accéder à la puce.
-Pour la récupérer : JTAG, si la puce en dispose, ou un programmateur haute tension.</translation>
+Pour la récupérer&#xa0;: JTAG, si la puce en dispose, ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>A JTAG programmer will no longer be able to reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
         <translation>Un programmateur JTAG ne pourra plus accéder à la puce.
-Pour la récupérer : ISP (PDI avec un ATxmega) ou un programmateur haute tension.</translation>
+Pour la récupérer&#xa0;: ISP (PDI avec un ATxmega) ou un programmateur haute tension.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
-Pour la récupérer : un programmateur avec UPDI haute tension.</translation>
+        <translation>La broche UPDI reçoit une autre fonction&#xa0;: un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
+Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension.</translation>
     </message>
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
-        <translation>Sans son quartz, la puce ne répondra pas ; avec lui, elle ne répondra qu&apos;à une vitesse inférieure à 8 kHz (1 kHz avec CKDIV8).
-Pour la récupérer : branchez un quartz de 32,768 kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse ; ou utilisez un programmateur haute tension.</translation>
+        <translation>Sans son quartz, la puce ne répondra pas&#xa0;; avec lui, elle ne répondra qu&apos;à une vitesse inférieure à 8&#xa0;kHz (1&#xa0;kHz avec CKDIV8).
+Pour la récupérer&#xa0;: branchez un quartz de 32,768&#xa0;kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse&#xa0;; ou utilisez un programmateur haute tension.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
         <translation>Une puce aussi lente ne répondra qu&apos;à une vitesse inférieure au quart de la fréquence de son horloge.
-Pour la récupérer : choisissez une vitesse plus basse.</translation>
+Pour la récupérer&#xa0;: choisissez une vitesse plus basse.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip will not answer.
 The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
         <translation>Sans cette horloge sur ses broches, la puce ne répondra pas.
-Pour la récupérer : appliquez un signal d&apos;horloge à sa broche d&apos;horloge (un quartz ne convient que si le réglage en mentionne un), ou utilisez un programmateur haute tension.</translation>
+Pour la récupérer&#xa0;: appliquez un signal d&apos;horloge à sa broche d&apos;horloge (un quartz ne convient que si le réglage en mentionne un), ou utilisez un programmateur haute tension.</translation>
     </message>
     <message>
         <source>A programmer will no longer be able to read or write the chip.
 The way back: erase all of it.</source>
         <translation>Un programmateur ne pourra plus ni lire la puce ni y écrire.
-Pour la récupérer : effacez-la entièrement.</translation>
+Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
     <message>
         <source>A programmer will no longer be able to write the chip.
 The way back: erase all of it.</source>
         <translation>Un programmateur ne pourra plus écrire dans la puce.
-Pour la récupérer : effacez-la entièrement.</translation>
+Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     </message>
 </context>
 <context>

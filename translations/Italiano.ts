@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Cartelle in cui viene cercato: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>La velocità di questo programmatore è fissa: il clock del chip deve superare %1, e quello di un chip nuovo è di solito 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

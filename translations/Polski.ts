@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Przeszukiwane katalogi: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>Szybkość tego programatora jest stała: zegar układu musi mieć ponad %1, a nowy układ ma zwykle 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

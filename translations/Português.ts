@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Pastas em que é procurado: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>A velocidade deste programador é fixa: o clock do chip deve ficar acima de %1, e o de um chip novo costuma ser de 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

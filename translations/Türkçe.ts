@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Arandığı klasörler: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>Bu programlayıcının hızı sabittir: çipin saat frekansı %1 değerinin üzerinde olmalıdır; yeni bir çipinki ise çoğunlukla 1 MHz&apos;dir.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

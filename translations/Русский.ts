@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Поиск ведётся в папках: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>Скорость этого программатора фиксирована: тактовая частота МК должна быть выше %1, а у нового МК она обычно 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -141,6 +141,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>Теки, у яких його шукають: %1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>Швидкість цього програматора незмінна: тактова частота МК має бути вищою за %1, а в нового МК вона зазвичай 1 MHz.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -140,6 +140,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>在以下文件夹中查找：%1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>此编程器的速度是固定的：芯片的时钟频率必须高于 %1，而新芯片通常为 1 MHz。</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>

@@ -140,6 +140,10 @@
         <source>Folders that are searched for it: %1</source>
         <translation>検索先のフォルダー：%1</translation>
     </message>
+    <message>
+        <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
+        <translation>この書込器の速度は固定です。チップのクロック周波数は %1 より高くなければなりませんが、新品のチップは通常 1 MHz です。</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
