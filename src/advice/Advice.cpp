@@ -4,6 +4,7 @@
 #include "advice/Surroundings.h"
 #include "avrdude/ExtraArguments.h"
 #include "avrdude/FailedRun.h"
+#include "avrdude/Message.h"
 #include "base/JsonFile.h"
 #include "base/ShownText.h"
 #include "mcu/description/BytesModel.h"
@@ -276,7 +277,7 @@ constexpr Row rows[] = {
      usbMissing},
     {"part \"?\\S+\"? not found|valid parts are", unknownPart},
     {"find programmer id", unknownProgrammer},
-    {"device is locked|for device to unlock", lockedChip},
+    {"device (is )?locked|for device to unlock", lockedChip},
     {"initialization failed|no device\\r?$|target does(n't| not) answer|invalid device signature|"
      "responding to program enable|device not responding|signature = (0x|)(ff ?ff ?ff|00 ?00 ?00)",
      noChip},
@@ -284,19 +285,6 @@ constexpr Row rows[] = {
      noAnswer},
     {"mismatch|verification error", mismatch},
 };
-
-/// The three bytes that avrdude has read, "1E 94 03"; empty when it has read none that a chip can have.
-QString signatureIn(const QString& output)
-{
-    static const QRegularExpression read(
-        QStringLiteral("signature = (?:0x)?([0-9a-f]{2}) ?([0-9a-f]{2}) ?([0-9a-f]{2})"),
-        QRegularExpression::CaseInsensitiveOption);
-    QString signature;
-    for (auto found = read.globalMatch(output); found.hasNext();) // avrdude tries again: the last one counts
-        signature = found.next().capturedTexts().mid(1).join(QLatin1Char(' ')).toUpper();
-    const bool isNone = signature == QLatin1String("FF FF FF") || signature == QLatin1String("00 00 00");
-    return isNone ? QString() : signature;
-}
 
 /// Another chip than the one that was chosen.
 Explanation otherChip(const QString& signature)
@@ -347,7 +335,7 @@ Explanation adviceFor(const Case& of)
         return output.contains(QRegularExpression(
             QLatin1String(seen), QRegularExpression::CaseInsensitiveOption | QRegularExpression::MultilineOption));
     };
-    const QString signature = signatureIn(output);
+    const QString signature = Message::signatureIn(output);
     if (has("expected signature for") && !signature.isEmpty())
         return otherChip(signature);
     const auto* const row =

@@ -158,3 +158,15 @@ bool Message::showsSilentProgrammer(const QString& errorText)
     return std::any_of(std::begin(silentProgrammer), std::end(silentProgrammer),
                        [&errorText](const char* fragment) { return errorText.contains(QLatin1String(fragment)); });
 }
+
+QString Message::signatureIn(const QString& output)
+{
+    static const QRegularExpression read(
+        QStringLiteral("signature = (?:0x)?([0-9a-f]{2}) ?([0-9a-f]{2}) ?([0-9a-f]{2})"),
+        QRegularExpression::CaseInsensitiveOption);
+    QString signature;
+    for (auto found = read.globalMatch(output); found.hasNext();) // avrdude tries again: the last one counts
+        signature = found.next().capturedTexts().mid(1).join(QLatin1Char(' ')).toUpper();
+    const bool isNone = signature == QLatin1String("FF FF FF") || signature == QLatin1String("00 00 00");
+    return isNone ? QString() : signature;
+}

@@ -48,6 +48,10 @@ public:
     /// answer, so that waiting for avrdude's own retries is pointless.
     [[nodiscard]] static bool showsSilentProgrammer(const QString& errorText);
 
+    /// The three bytes that avrdude has read, "1E 94 03", by @p output; empty when it has read none that a chip can
+    /// have.
+    [[nodiscard]] static QString signatureIn(const QString& output);
+
 private:
     struct Entry {
         QLatin1String fragment;
