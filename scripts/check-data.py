@@ -64,7 +64,9 @@ def check_other_names(name, entry):
         return re.sub(r'[\s_-]', '', text).casefold()
 
     own = essence(name), essence(entry['id'])
-    for word in entry.pop('aka', []):
+    words = entry.pop('aka', [])
+    check(isinstance(words, list) and len(set(map(essence, words))) == len(words), name, 'is also called', words)
+    for word in words:
         check(word.strip() and not any(essence(word) in text for text in own), name, 'is also called', word)
 
 
@@ -98,6 +100,7 @@ newer = devices('What needs avrdude 8')
 other_names = re.compile('LVL|OSCSEL|OSCHFFRQ|PLLCK|NVLB|JTAGUSERID')  # than their field's
 ships = load('mcu')
 seen = set()  # fields that some part has
+smallest = {}  # flash of the parts that have a field
 factory = {}  # identifier, and the factory values
 for name, found in sorted(ships.items()):
     expected, is_serial, memories = facts.get(name, ({}, False, []))
@@ -107,6 +110,8 @@ for name, found in sorted(ships.items()):
                                   for byte in found['FuseBytes']]
     for byte in found.pop('FuseBytes'):
         seen |= set(byte['fields'].values())
+        for field in byte['fields'].values():
+            smallest[field] = min(smallest.get(field, 1 << 20), found['flash'])
         where = f'{name} {byte["id"]}'
         check(byte['name'].strip() and byte['id'] in memories_of.get(name, [byte['id']]), where,
               'is no memory of this avrdude')
@@ -152,7 +157,8 @@ for field, settings in meanings.items():
     texts = []
     for setting, symbol in settings.items():
         if isinstance(symbol, int):  # bytes: the end of a section from that of the flash, or of each block from its start
-            check(symbol > 0 if setting == '*' else symbol < 0, field, symbol, 'is beyond the flash')
+            check(symbol in (256, 512) if setting == '*' else -smallest[field] < symbol < 0, field, symbol,
+                  'is beyond the flash')
             texts.append(symbol)
             continue
         text = words['symbols'].get(f'{name}:{symbol}', words['symbols'].get(symbol))
@@ -201,7 +207,8 @@ for name, entry in programmers.items():
     older += not is_newer
     check_other_names(name, entry)
     check(identifier in optional or is_known_rightly(identifier in ports, is_newer), name, 'needs a newer avrdude')
-    port = 'usb' if '-P ' in arguments else ports.get(identifier) or entry['port']
+    port = 'usb' if '-P ' in arguments else (ports.get(identifier)
+                                                    or ('usb' if 'usb' in tells.get(identifier, {}) else 'com'))
     expected = {'id': identifier, 'arguments': arguments, 'port': port, **tells.get(identifier, {}),
                 **({'avrdude': '8'} if is_newer else {}), **more.get(identifier, {})}
     check(entry == expected, name, 'is', entry, 'instead of', expected)

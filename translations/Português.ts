@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
-        <translation>A velocidade deste programador é fixa: o clock do chip deve ficar acima de %1, e o de um chip novo costuma ser de 1 MHz.</translation>
+        <translation>A velocidade deste gravador é fixa: o clock do chip deve ficar acima de %1, e o de um chip novo costuma ser de 1 MHz.</translation>
     </message>
 </context>
 <context>

@@ -55,7 +55,7 @@ struct JsonFile {
 /// Their base names: up to the first dot. Those that jsonPath() knows no file for are left out.
 [[nodiscard]] QStringList jsonBaseNames(const QString& folder);
 
-/// The texts in the list @p value; what is no text is an empty one. Empty for what is no list.
+/// The list @p value as texts: numbers in digits, nested lists and objects as empty ones. Empty for what is no list.
 [[nodiscard]] QStringList jsonTexts(const QJsonValue& value);
 
 /// Other names of what the file in @p folder for @p name describes: avrdude's identifier, and what else people call it.

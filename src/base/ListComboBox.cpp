@@ -186,6 +186,7 @@ void ListComboBox::endSearch()
 
 void ListComboBox::learnWords()
 {
+    const QSignalBlocker blocker(this); // what an entry is also called changes no choice
     for (int i = 0; i < count(); ++i) {
         if (itemData(i, wordsRole).isValid())
             continue;
@@ -198,15 +199,15 @@ void ListComboBox::learnWords()
 
 void ListComboBox::pickFound()
 {
-    const QString typed = m_search->text();
+    const QString typed = essence(m_search->text());
     if (typed.isEmpty())
         return;
-    int index = findText(typed);
+    const QString word = QLatin1Char('\n') + typed + QLatin1Char('\n');
+    int index = findText(m_search->text());
     if (index < 0)
-        index = findText(typed, Qt::MatchFixedString); // in whatever case
+        index = findData(word, wordsRole, Qt::MatchStartsWith); // a name, in whatever spelling
     if (index < 0)
-        index = findData(QLatin1Char('\n') + essence(typed) + QLatin1Char('\n'), wordsRole,
-                         Qt::MatchContains | Qt::MatchCaseSensitive);
+        index = findData(word, wordsRole, Qt::MatchContains);
     if (index < 0)
         index = findText(m_completer->currentCompletion());
     pick(index);

@@ -82,7 +82,7 @@ struct Warning {
 
 // Fields that begin with "safe" lock nobody out: PDI works without the reset pin, and a part that knows high-voltage
 // programming only gets its clock from there.
-constexpr std::array<Warning, 11> lockOuts = {{
+constexpr std::array<Warning, 12> lockOuts = {{
     {"^rstdisbl:gpio",
      QT_TRANSLATE_NOOP(
          "FuseMeanings",
@@ -100,10 +100,15 @@ constexpr std::array<Warning, 11> lockOuts = {{
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "A JTAG programmer will no longer be able to reach the chip.\n"
                        "The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.")},
-    {"^(updi_rstpincfg:(gpio|rst)|updipincfg:gpio)$",
+    {"^updi_rstpincfg:(gpio|rst)$",
      QT_TRANSLATE_NOOP("FuseMeanings",
                        "The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach "
                        "the chip.\nThe way back: a programmer with high-voltage UPDI.")},
+    {"^updipincfg:gpio$",
+     QT_TRANSLATE_NOOP("FuseMeanings",
+                       "The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach "
+                       "the chip.\nThe way back: a programmer with high-voltage UPDI for this family, which gives the "
+                       "reset pin a little more than the supply. 12 V destroy it.")},
     {"^(sut_)?cksel:extlofxtal(?!res)",
      QT_TRANSLATE_NOOP(
          "FuseMeanings",
@@ -149,7 +154,7 @@ void FuseMeanings::load(const SettingsRecord& settings)
     clear();
     m_isLoaded = true;
     const QJsonObject description = BytesModel::description(settings);
-    m_flashSize = description.value(QLatin1String("flash")).toInt();
+    m_flashSize = std::max(0, description.value(QLatin1String("flash")).toInt());
     const auto factory = BytesModel::fuseBytes(description);
     for (const FuseByte& byte : factory)
         m_factoryValues.insert(byte.id, byte.defaultValue);
@@ -164,7 +169,7 @@ void FuseMeanings::load(const SettingsRecord& settings)
             const QString name = key.section(QLatin1Char(' '), 0, 0);
             const QString text = words[QLatin1String("fields")][name].toString();
             if (symbols.contains(key) && !text.isEmpty())
-                fields.append({field.key().toUInt(nullptr, 16), name, text, symbols.value(key).toObject()});
+                fields.append({field.key().toUInt(nullptr, 16) & 0xFF, name, text, symbols.value(key).toObject()});
         }
         std::sort(fields.begin(), fields.end(), [](const Field& a, const Field& b) { return a.bits > b.bits; });
         m_fields.insert(byte[QLatin1String("id")].toString(), fields);
@@ -218,8 +223,8 @@ QVector<FuseMeanings::Setting> FuseMeanings::settings(const FuseByte& byte, int 
     }
     for (quint32 part = 0; part <= field->bits; ++part) {
         const quint32 value = (byte.currentValue & ~field->bits) | part;
-        const QJsonValue symbol = symbolOf(*field, value);
-        if ((part & ~field->bits) != 0 || ((value ^ byte.currentValue) & ~changeable) != 0 || symbol == QString())
+        const QString symbol = symbolOf(*field, value);
+        if ((part & ~field->bits) != 0 || ((value ^ byte.currentValue) & ~changeable) != 0 || symbol.isEmpty())
             continue;
         const Setting setting {value, digitsOf(value, bits), meaningOf(field->name, symbol), value == byte.currentValue,
                                ((value ^ factoryValue(byte)) & bits) == 0};
@@ -257,21 +262,23 @@ bool FuseMeanings::Field::isNumber() const
     return symbols.isEmpty() || symbols.value(QLatin1String("*")).isDouble();
 }
 
-QJsonValue FuseMeanings::symbolOf(const Field& field, quint32 value)
+QString FuseMeanings::symbolOf(const Field& field, quint32 value) const
 {
     const quint32 number = numberIn(value, field.bits);
     const QJsonValue own = field.symbols.value(QString::number(number));
-    if (!own.isUndefined())
-        return own;
     const QJsonValue others = field.symbols.value(QLatin1String("*"));
-    return others.isDouble() ? QJsonValue(others.toInt() * static_cast<int>(number)) : QJsonValue(others.toString());
+    if (own.isUndefined())
+        return others.isDouble() ? sectionSymbol(others.toInt() * static_cast<int>(number)) : others.toString();
+    return own.isDouble() ? sectionSymbol(own.toInt()) : own.toString();
 }
 
 QString FuseMeanings::warningOf(const Field& field, const FuseByte& byte) const
 {
-    const bool isFactory = (changed(byte) & field.bits) == 0; // which locks nobody out
-    return isFactory ? QString()
-                     : warningFor(field.name + QLatin1Char(':') + symbolOf(field, byte.currentValue).toString());
+    // What the chip was delivered with locks nobody out, whatever the start-up time.
+    const QString symbol = symbolOf(field, byte.currentValue);
+    const auto clock = [&](const QString& one) { return meaningOf(field.name, one).section(QLatin1Char(';'), 0, 0); };
+    const bool isFactory = clock(symbol) == clock(symbolOf(field, factoryValue(byte)));
+    return isFactory ? QString() : warningFor(field.name + QLatin1Char(':') + symbol);
 }
 
 QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
@@ -293,9 +300,8 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
     return lines.join(QLatin1Char('\n')).replace(QLatin1Char('\n'), QLatin1String("\n    "));
 }
 
-QString FuseMeanings::meaningOf(const QString& field, const QJsonValue& setting) const
+QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
 {
-    QString symbol = setting.isDouble() ? sectionSymbol(setting.toInt()) : setting.toString();
     const QJsonValue ofField = m_words.value(field + QLatin1Char(':') + symbol);
     const QJsonValue words = ofField.isString() ? ofField : m_words.value(symbol);
     if (words.isString())

@@ -73,10 +73,10 @@ private:
     };
 
     [[nodiscard]] quint32 factoryValue(const FuseByte& byte) const;
-    [[nodiscard]] static QJsonValue symbolOf(const Field& field, quint32 value);
+    [[nodiscard]] QString symbolOf(const Field& field, quint32 value) const;
     [[nodiscard]] QString warningOf(const Field& field, const FuseByte& byte) const;
     [[nodiscard]] QString textOf(const Field& field, const FuseByte& byte) const;
-    [[nodiscard]] QString meaningOf(const QString& field, const QJsonValue& setting) const;
+    [[nodiscard]] QString meaningOf(const QString& field, QString symbol) const;
     [[nodiscard]] QString sectionSymbol(int bytes) const;
 
     bool m_isLoaded = false;
