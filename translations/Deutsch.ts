@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Ein Programmer kann den Chip danach nicht mehr beschreiben.
 Der Weg zurück: alles löschen.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip danach nicht mehr.
+Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der dem Reset-Pin etwas mehr als die Versorgungsspannung gibt. 12 V zerstören ihn.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

@@ -473,6 +473,12 @@ The way back: erase all of it.</source>
         <translation>A programmer will no longer be able to write the chip.
 The way back: erase all of it.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Un programador ya no podrá grabar el chip.
 Para recuperarlo: bórrelo todo.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
+Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que aplica al pin de reset algo más que la tensión de alimentación. 12 V lo destruyen.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
-        <translation>La vitesse de ce programmateur est fixe : l&apos;horloge de la puce doit dépasser %1, et celle d&apos;une puce neuve est le plus souvent de 1 MHz.</translation>
+        <translation>La vitesse de ce programmateur est fixe&#xa0;: l&apos;horloge de la puce doit dépasser %1, et celle d&apos;une puce neuve est le plus souvent de 1 MHz.</translation>
     </message>
 </context>
 <context>
@@ -473,6 +473,12 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
 The way back: erase all of it.</source>
         <translation>Un programmateur ne pourra plus écrire dans la puce.
 Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
+    </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
+Pour la récupérer : un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset un peu plus que l&apos;alimentation. 12 V la détruisent.</translation>
     </message>
 </context>
 <context>

@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Un programmatore non potrà più scrivere sul chip.
 Per recuperarlo: cancellare tutto.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>Il pin UPDI assume un&apos;altra funzione: un comune programmatore UPDI non potrà più accedere al chip.
+Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia, che dà al pin di reset poco più della tensione di alimentazione. 12 V lo distruggono.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

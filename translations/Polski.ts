@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Programator nie będzie już mógł programować układu.
 Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>Wyprowadzenie UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
+Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, który podaje na wyprowadzenie reset nieco więcej niż napięcie zasilania. 12 V je zniszczy.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Um gravador não conseguirá mais gravar o chip.
 Para recuperá-lo: apague tudo.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>O pino UPDI passará a ter outra função: um gravador UPDI comum não conseguirá mais acessar o chip.
+Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que aplica ao pino de reset um pouco mais que a alimentação. 12 V o destroem.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

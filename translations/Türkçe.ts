@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Programlayıcı artık çipe yazamayacak.
 Kurtarmak için: tümünü silin.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>UPDI bacağı başka bir işlev alacak: sıradan bir UPDI programlayıcısı artık çipe erişemeyecek.
+Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı (bu aile için; reset bacağına besleme geriliminden biraz fazlasını verir. 12 V onu bozar).</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

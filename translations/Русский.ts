@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Программатор больше не сможет записывать в МК.
 Как восстановить: сотрите всё.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
+Как восстановить: программатором с высоковольтным UPDI для этого семейства, который подаёт на вывод сброса чуть больше напряжения питания. 12 V его сожгут.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

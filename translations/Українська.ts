@@ -474,6 +474,12 @@ The way back: erase all of it.</source>
         <translation>Програматор більше не зможе записувати в МК.
 Як відновити: зітріть усе.</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>Вивід UPDI отримає інше призначення: звичайний програматор UPDI втратить доступ до МК.
+Як відновити: програматором із високовольтним UPDI для цієї родини, який подає на вивід скидання трохи більше за напругу живлення. 12 V його спалять.</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

@@ -473,6 +473,12 @@ The way back: erase all of it.</source>
         <translation>编程器将无法再写入芯片。
 恢复方法：全部擦除。</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
+恢复方法：使用支持高压 UPDI 的编程器（适用于该系列，向复位引脚施加略高于电源的电压。12 V 会烧毁它）。</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>

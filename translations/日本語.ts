@@ -473,6 +473,12 @@ The way back: erase all of it.</source>
         <translation>書込器はチップに書き込めなくなります。
 元に戻すには：全消去します。</translation>
     </message>
+    <message>
+        <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
+The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
+        <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
+元に戻すには：高電圧 UPDI 対応の書込器を使います。このファミリー用のもので、リセットピンには電源より少し高い電圧をかけます。12 V では壊れます。</translation>
+    </message>
 </context>
 <context>
     <name>FuseRequests</name>
