@@ -1,9 +1,12 @@
 #include "base/ElidedLabel.h"
 #include "mcu/description/BytesModel.h"
+#include "profiles/BoardLog.h"
+#include "profiles/BoardView.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/Profiles.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
+#include "profiles/SerialNumber.h"
 #include "support/Bench.h"
 #include "support/Table.h"
 
@@ -73,6 +76,52 @@ struct Board : Tab {
     {
         folder.write("script", "");
         folder.write("go" + QString::number(requests().size() - 1), "");
+    }
+};
+
+/// The tab with a profile loaded that has something to say of boards.
+struct Bench200 : Board {
+    Bench200()
+    {
+        folder.write("mcu/ATmega16.json", R"({"id": "m16", "flash": 16384, "eeprom": 512})");
+        tick("fef");
+        add("Lot", "ATmega16");
+        load(R"({"quiet": true, "boardLog": "boards.csv", "serial": )" + serial(1001) + "}");
+    }
+
+    static QByteArray serial(int next)
+    {
+        return R"({"memory": "eeprom", "address": 16, "bytes": 4, "format": "little", "next": )"
+            + QByteArray::number(next) + "}";
+    }
+
+    /// Loads the profile with @p keys in its file.
+    void load(const QByteArray& keys)
+    {
+        QJsonObject profile = QJsonDocument::fromJson(folder.read("profiles/Lot.json")).object();
+        const QJsonObject more = QJsonDocument::fromJson(keys).object();
+        for (const QString key : {"quiet", "boardLog", "serial"})
+            more.contains(key) ? void(profile.insert(key, more[key])) : profile.remove(key);
+        folder.write("profiles/Lot.json", QJsonDocument(profile).toJson());
+        boxes.take();
+        emit profiles->textActivated("Lot");
+        tab.refresh();
+    }
+
+    static int next(const QString& profile = "Lot")
+    {
+        return QJsonDocument::fromJson(WorkFolder::read("profiles/" + profile + ".json"))["serial"]["next"].toInt();
+    }
+
+    /// The texts of the last board.
+    QString shown() const
+    {
+        QStringList texts;
+        for (QLabel* label : tab.findChild<BoardView*>()->findChildren<QLabel*>())
+            if (label->isVisibleTo(&tab))
+                texts += label->accessibleName().isEmpty() ? label->text() : label->accessibleName();
+        texts.removeAll({}); // the mark's
+        return texts.join(" | ").replace(QRegularExpression(", [0-9.]+ s"), ", ? s");
     }
 };
 
@@ -323,6 +372,141 @@ private slots:
         board.finish(); // what was running goes on
         QCOMPARE(board.boxes.wait().size(), 1);
         QCOMPARE(board.written(), QString("flash"));
+    }
+
+    void serialNumbers_data() { casesFrom("numbers.txt", {"serial", "image", "fault"}); }
+
+    void serialNumbers()
+    {
+        WorkFolder folder;
+        folder.copy({"mcu/ATmega16.json"});
+        const QJsonDocument json = QJsonDocument::fromJson("[" + cell("serial").toUtf8() + "]");
+        const SerialNumber number = SerialNumber::from(json[0]);
+        QCOMPARE(QString(number.image().toHex()), cell("image"));
+        QCOMPARE(number.fault({}).left(cell("fault").size()), cell("fault"));
+        QVERIFY(number.fault({}).isEmpty() == cell("fault").isEmpty());
+    }
+
+    void linesOfTheRecord()
+    {
+        WorkFolder folder;
+        folder.write("check", "123456789"); // by which CRC-32 is known
+        BoardLog::Board board;
+        board.profile = "A, \"B\"\nПлата";
+        board.areas = QStringList {"FLASH", "FUSES"};
+        board.milliseconds = 2740;
+        board.files = BoardLog::nameAndSum("check") + BoardLog::nameAndSum("gone");
+        for (int i = 0; i < 2; ++i) {
+            BoardLog log;
+            QVERIFY(log.open("b.csv") && log.append(board));
+        }
+        const QString text = folder.read("b.csv");
+        const QString line = ",\"A, \"\"B\"\"\nПлата\",,,FLASH FUSES,,,2.7,check,CBF43926,gone,,\r\n";
+        const QString time = "\\d{4}-\\d\\d-\\d\\dT[\\d:]{8}(Z|[+-]\\d\\d:\\d\\d)";
+        const QString expected = "^time,[\\w ,-]+\r\n(" + time + QRegularExpression::escape(line) + "){2}$";
+        QVERIFY2(text.contains(QRegularExpression(expected)), qPrintable(text));
+        QDir().mkdir("folder.csv");
+        QVERIFY(!BoardLog().open("folder.csv"));
+        for (const QString name : {"b.txt", "../b.csv", "C:b.csv", ".b.csv", "con.csv", "a/b.csv", "b\n.csv", ""})
+            QVERIFY2(!BoardLog::isFileName(name), qPrintable(name));
+        QVERIFY(BoardLog::isFileName("boards of lot 7.csv"));
+    }
+
+    void oneBoardAfterAnother()
+    {
+        Bench200 bench;
+        QVERIFY(bench.log.toPlainText().endsWith("With this profile no box tells of a board that is good.\n"));
+        QCOMPARE(
+            bench.shown(),
+            QString::fromUtf8("m16 · /f · /f · 1 fuse byte · number 1001 · boards.csv").replace("m16", "ATmega16"));
+
+        bench.writeUntil("number"); // in the middle nobody else can get it
+        QCOMPARE(Bench200::next(), 1002);
+        QVERIFY(bench.requests().last().contains(QRegularExpression("^-U eeprom:w:number-\\w+\\.hex:i$")));
+        const QString file = bench.requests().last().section(':', 2, 2);
+        QCOMPARE(bench.folder.read(file),
+                 QByteArray(":020000040000FA\n:01001000E906\n:020000040000FA\n:0100110003EB\n:020000040000FA\n"
+                            ":0100120000ED\n:020000040000FA\n:0100130000EC\n:00000001FF\n"));
+        bench.finish();
+        QTRY_VERIFY(bench.isIdle());
+        QVERIFY(!QFile::exists(file));
+        QVERIFY(bench.boxes.take().isEmpty());
+        QVERIFY(bench.shown().endsWith("number 1002 · boards.csv | Board 1: written, ? s | 1 good, 0 failed"));
+        QCOMPARE(bench.written(), QString("flash eeprom eeprom lock"));
+
+        bench.folder.write("script", "err avrdude: signature = 0x1e9403\nerr verification error\n");
+        QCOMPARE(bench.click(bench.write).section('|', 0, 0), QString("AVRDUDE, warning: Verification error."));
+        QVERIFY(bench.shown().endsWith(
+            "number 1002 · boards.csv | Board 2: failed: Verification error. | 1 good, 1 failed"));
+        QCOMPARE(Bench200::next(), 1002);
+
+        const QStringList lines = QString(bench.folder.read("boards.csv")).split("\r\n");
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines[1].contains(",Lot,ATmega16,,FLASH EEPROM FUSES,good,,") && lines[1].endsWith(",1001"));
+        QVERIFY(lines[2].contains(",1E 94 03,FLASH EEPROM FUSES,failed,Verification error.,"));
+        QVERIFY(lines[2].endsWith(",f,,f,,"));
+
+        bench.tab.findChild<BoardView*>()->resetButton()->click();
+        QVERIFY(bench.shown().endsWith("0 good, 0 failed"));
+        bench.settings.avrdude = "gone";
+        bench.write->click();
+        QVERIFY(bench.shown().endsWith("Board 1: failed: avrdude not found | 0 good, 1 failed"));
+        QCOMPARE(Bench200::next(), 1002);
+    }
+
+    void aNumberInTheFlash()
+    {
+        Bench200 bench;
+        bench.load(R"({"serial": {"memory": "flash", "address": 65536, "bytes": 1, "format": "big", "next": 7}})");
+        QVERIFY(bench.boxes.take().last().endsWith("It lies outside the memory, which has 16384 bytes."));
+        bench.folder.write("mcu/ATmega16.json", "{}"); // nothing is known of its memories
+        bench.tick("f.f");
+        QCOMPARE(bench.click(bench.write).section('|', 0, 0),
+                 QString("Profiles: Flash write successfully.\nFlash verify successfully.\nFuse bits write "
+                         "successfully.\nFuse bits verify successfully. + number 7"));
+        QVERIFY(bench.requests()[1].contains(QRegularExpression("^-D -U flash:w:number-\\w+\\.hex:i$")));
+        QVERIFY(bench.requests()[2].startsWith("-Ulock:"));
+        QCOMPARE(bench.requests().size(), 3);
+    }
+
+    void keysStayInTheFileOfTheirProfile()
+    {
+        Bench200 bench;
+        bench.boxes.button = QMessageBox::Yes;
+        bench.add("Lot", "ATmega16");
+        QCOMPARE(Bench200::next(), 1001);
+        bench.add("Other", "ATmega16");
+        QCOMPARE(Bench200::next("Other"), 0);
+        QVERIFY(!bench.shown().contains("number"));
+        QVERIFY(bench.settings.saveToFile("save.json") && !bench.folder.read("save.json").contains("boards.csv"));
+        bench.load(R"({"serial": )" + Bench200::serial(5) + "}");
+        bench.folder.write("profiles/Lot.json", QByteArray(bench.folder.read("profiles/Lot.json")).replace(" 5", " 9"));
+        QVERIFY(bench.click(bench.write).contains("+ number 9")); // read again at each press
+    }
+
+    void noBoardIsTouchedWhenItsKeysCannotBeFollowed()
+    {
+        Bench200 bench;
+        const QString told = "Profiles, warning: No board is written with this profile. + ";
+        for (const auto& [keys, fault] : {
+                 std::pair<QByteArray, QString>(R"({"quiet": 1})", "\"quiet\" is neither true nor false."),
+                 {R"({"boardLog": "../boards.csv"})", "\"boardLog\" is not the name of a file that ends in .csv."},
+                 {R"({"serial": {}})", "The serial number cannot be written. Its memory is neither"},
+             }) {
+            bench.load(keys);
+            QCOMPARE(bench.boxes.take().join('|').left((told + fault).size()), told + fault);
+            QCOMPARE(bench.click(bench.write).left((told + fault).size()), told + fault);
+        }
+        QDir().mkdir("folder.csv");
+        bench.load(R"({"boardLog": "folder.csv"})");
+        QVERIFY(bench.click(bench.write).startsWith(told + "The record of the boards cannot be written: "));
+        bench.load(R"({"serial": )" + Bench200::serial(1) + "}");
+        bench.settings.arguments = "-e";
+        QVERIFY(bench.click(bench.write).contains("The argument -e would erase the chip"));
+        bench.settings.arguments.clear();
+        QFile::remove("profiles/Lot.json");
+        QVERIFY(bench.click(bench.write).startsWith(told));
+        QVERIFY(bench.requests().isEmpty());
     }
 };
 

@@ -23,6 +23,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -81,7 +82,10 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_central->setWidget(m_content);
     setCentralWidget(m_central);
 
-    new StrayInput(this);
+    auto* strays = new StrayInput(this);
+    connect(m_profiles, &Profiles::writePressed, strays, &StrayInput::expectRepeats);
+    // Queued: by then the layouts know.
+    connect(m_profiles, &Profiles::grew, this, &KorvelApp::makeRoom, Qt::QueuedConnection);
     m_avrdude->setExplainer(
         [](const FailedRun& run) { return Advice::explain(run, Surroundings::now(Advice::portOf(run))); });
     connect(m_avrdude, &Avrdude::partChosen, m_program, &Program::chooseMcu);
@@ -156,6 +160,14 @@ void KorvelApp::onTabChanged(int index)
 {
     if (m_tabs->widget(index) == m_profiles)
         m_profiles->updateAreas();
+}
+
+void KorvelApp::makeRoom(int pixels)
+{
+    const int missing = m_content->minimumSizeHint().height() - m_central->viewport()->height();
+    const int most = screen()->availableGeometry().bottom() - geometry().bottom();
+    if (missing > 0 && missing <= pixels && missing <= most && !isMaximized() && !isFullScreen())
+        resize(width(), height() + missing);
 }
 
 void KorvelApp::showRunning(bool isRunning)

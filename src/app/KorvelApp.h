@@ -47,6 +47,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// Grows by what is missing after something in the window has grown by @p pixels, unless the window was too small
+    /// before, or the screen is: there a scroll bar serves.
+    void makeRoom(int pixels);
+
     void showRunning(bool isRunning);
     void askToClose();
 

@@ -55,7 +55,10 @@ bool StrayInput::eventFilter(QObject* object, QEvent* event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease: {
         const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (isStray(key)) {
+        const bool isTaken = isStray(key);
+        if (event->type() == QEvent::KeyRelease)
+            m_keyReleased = key.timestamp();
+        if (isTaken) {
             event->accept(); // or it would be tried as a shortcut
             return true;
         }
@@ -94,14 +97,11 @@ bool StrayInput::isStray(const QKeyEvent& key)
 {
     if (!m_closing.isKey || key.key() != m_closing.key)
         return false;
-    if (key.type() == QEvent::KeyRelease) {
-        m_keyReleased = key.timestamp();
+    if (key.type() == QEvent::KeyRelease)
         return key.isAutoRepeat();
-    }
     // On X11 many repeats come as a release and a press at the same time, which is more than a hand can do.
     if (key.isAutoRepeat() || (m_keyReleased > 0 && key.timestamp() == m_keyReleased))
         return true;
     m_closing = {};
-    m_keyReleased = 0;
     return false;
 }

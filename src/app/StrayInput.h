@@ -10,9 +10,10 @@ class QKeyEvent;
 class QMouseEvent;
 
 /// Takes what a hand sends after a message box that it has just closed: the second half of a double click, and the
-/// repeats of a key that is still down. They were meant for the box, and would start what lies under it. Takes the
-/// second half of a double click that opened a box, too: it was not meant for the button that happens to lie there.
-/// Nothing else is taken. Looks at all events; owned by the main window.
+/// repeats of a key that is still down. They were meant for the box, and would start what lies under it. Takes what
+/// follows the press that began a board, too, and the second half of a double click that opened a box, too: it was not
+/// meant for the button that happens to lie there. Nothing else is taken. Looks at all events; owned by the main
+/// window.
 class StrayInput : public QObject
 {
     Q_OBJECT
@@ -21,6 +22,9 @@ public:
     explicit StrayInput(QObject* parent);
 
     bool eventFilter(QObject* object, QEvent* event) override;
+
+    /// What a hand did last has done its work: its repeats are for nobody, as after a box that it closed.
+    void expectRepeats() { m_closing = m_last; }
 
 private:
     /// What a hand did last, or did when it closed a box.
@@ -41,5 +45,5 @@ private:
     Stroke m_opening; ///< what had been done when it was shown
     Stroke m_closing; ///< no key and long ago: none
     bool m_isPressTaken = false; ///< its release is for nobody either
-    ulong m_keyReleased = 0; ///< when the key that closed a box last seemed to be let go
+    ulong m_keyReleased = 0; ///< when a key last seemed to be let go
 };

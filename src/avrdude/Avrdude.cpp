@@ -188,6 +188,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
         for (const QString& line : advice)
             m_log->appendLine(line);
         emit runningChanged(false);
+        emit failed(tr("avrdude not found"));
         return -1;
     }
     return 0;
@@ -288,6 +289,7 @@ int Avrdude::addEditText()
 
 void Avrdude::tellFailure(const QString& title, const QString& message)
 {
+    emit failed(message);
     FailedRun run = m_run;
     run.output = output();
     const Explanation explanation = m_explain(run);

@@ -99,6 +99,9 @@ signals:
     /// avrdude has done @p percent of what it says to be doing, as in Progress.
     void progressed(const QString& activity, int percent);
 
+    /// A run has failed, or could not be started; @p message is what the user is about to be told.
+    void failed(const QString& message);
+
     /// A call was dropped because of the run in progress.
     void turnedAway();
 

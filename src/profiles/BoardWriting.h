@@ -1,9 +1,15 @@
 #pragma once
 
 #include "app/record/SettingsRecord.h"
+#include "profiles/BoardLog.h"
+#include "profiles/Production.h"
 
+#include <QElapsedTimer>
 #include <QMap>
+#include <QTemporaryFile>
 #include <QVector>
+
+#include <memory>
 
 class ProfilesPresenter;
 
@@ -16,6 +22,16 @@ struct BoardWriting {
     /// As they were at the first press: what is chosen meanwhile is for the next board. Only the ticks count anew at
     /// each press.
     SettingsRecord settings;
+
+    QString profile; ///< which was loaded; empty: none
+    Production production; ///< as the profile's file had it, the number as it was taken
+    std::unique_ptr<BoardLog> record; ///< that gets its line; null: none
+    BoardLog::Board line;
+    std::unique_ptr<QTemporaryFile> numberFile; ///< the serial number for avrdude; null: none
+    bool hasNumber = false; ///< that has been written
+    QElapsedTimer time; ///< since the first press
+    bool isOpen = false; ///< it has begun, and has no verdict yet
+    bool isRecorded = true; ///< its line is where it should be
 
     QVector<Step> steps; ///< of the last press, in order
     int nextStep = 0;

@@ -2,8 +2,8 @@
 
 #include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
-#include "base/ElidedLabel.h"
 #include "fuses/FuseMeanings.h"
+#include "profiles/BoardView.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProfilesPresenter.h"
 #include "profiles/ProgrammingView.h"
@@ -21,10 +21,12 @@ Profiles::Profiles(Avrdude& avrdude, QWidget* parent)
     auto* selectView = new SelectView(this);
     auto* configurationView = new ConfigurationView(this);
     auto* programmingView = new ProgrammingView(this);
-    auto* board = new ElidedLabel(Qt::ElideMiddle, this);
+    auto* board = new BoardView(this);
     m_presenter = new ProfilesPresenter(avrdude, *selectView, *configurationView, *programmingView, *board, this);
 
     connect(m_presenter, &ProfilesPresenter::fusesWritten, this, &Profiles::fusesWritten);
+    connect(board, &BoardView::grew, this, &Profiles::grew);
+    connect(m_presenter, &ProfilesPresenter::writePressed, this, &Profiles::writePressed);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(selectView);
@@ -67,7 +69,7 @@ void Profiles::loadProfile(const QString& name)
     }
     m_avrdude.settings().currentlyProfilesList = name;
     emit emitUpdateUI();
-    m_presenter->setLoaded(isLoaded);
+    m_presenter->setLoaded(isLoaded ? name : QString());
     // Nothing asks before a board is written, so that this is the place to say it.
     const QStringList warnings = isLoaded ? FuseMeanings::warnings(m_avrdude.settings()) : QStringList();
     for (const QString& warning : warnings)

@@ -30,6 +30,12 @@ signals:
     /// A board has got its fuse bytes.
     void fusesWritten();
 
+    /// The tab needs @p pixels of height more than before.
+    void grew(int pixels);
+
+    /// Write was pressed, which began or changed the writing of a board.
+    void writePressed();
+
 private:
     void loadProfile(const QString& name);
 

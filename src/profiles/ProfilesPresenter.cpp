@@ -2,6 +2,7 @@
 
 #include "app/log/AvrdudeMessage.h"
 #include "avrdude/Avrdude.h"
+#include "avrdude/Message.h"
 #include "base/Box.h"
 #include "base/ElidedLabel.h"
 #include "base/JsonFile.h"
@@ -10,6 +11,7 @@
 #include "mcu/description/BytesModel.h"
 #include "memory/FileCheck.h"
 #include "memory/MemoryKind.h"
+#include "profiles/BoardView.h"
 #include "profiles/ConfigurationView.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
@@ -65,16 +67,23 @@ QString faultOf(const QString& name)
     return {};
 }
 
+/// Says in a box why Write does nothing.
+void tellNoBoard(QWidget* parent, const QString& fault)
+{
+    Box::tell(parent, QStringLiteral("Profiles"), ProfilesPresenter::tr("No board is written with this profile."),
+              fault, QMessageBox::Warning);
+}
+
 } // namespace
 
 ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
-                                     ProgrammingView& programmingView, ElidedLabel& boardLine, QObject* parent)
+                                     ProgrammingView& programmingView, BoardView& boardView, QObject* parent)
     : QObject(parent)
     , m_avrdude(avrdude)
     , m_selectView(selectView)
     , m_configurationView(configurationView)
     , m_programmingView(programmingView)
-    , m_boardLine(boardLine)
+    , m_boardView(boardView)
 {
     connect(selectView.flash(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setFlashChBox);
     connect(selectView.eeprom(), &QCheckBox::stateChanged, this, &ProfilesPresenter::setEepromChBox);
@@ -89,6 +98,11 @@ ProfilesPresenter::ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, C
     connect(&avrdude, &Avrdude::runningChanged, this, [this](bool isRunning) {
         if (!isRunning)
             m_board.isRunning = false; // until the next step begins
+    });
+    connect(&avrdude, &Avrdude::failed, this, [this](const QString& message) { endBoard(false, message); });
+    connect(boardView.resetButton(), &QPushButton::clicked, this, [this] {
+        m_good = m_failed = 0;
+        m_boardView.showCounts(countsText());
     });
     loadProfileFiles();
 }
@@ -134,7 +148,7 @@ void ProfilesPresenter::saveProfile()
     // Through a link it might be any file: it may have come with somebody's profiles.
     const bool isSaved =
         !QFileInfo(path).isSymLink() && m_avrdude.settings().saveToFile(path, SettingsRecord::File::Profile);
-    setLoaded(isSaved);
+    hold(isSaved ? name : QString());
     if (!isSaved) {
         qDebug().noquote() << "Profile not saved:" << path;
         m_avrdude.log().appendLine(tr("Failed to save settings to file: ") + path);
@@ -169,7 +183,7 @@ void ProfilesPresenter::removeProfile()
         profiles.removeItem(index);
         profiles.setPlaceholderText(tr("Select profile..."));
     }
-    setLoaded(false);
+    setLoaded({});
     m_configurationView.name()->clear();
     m_configurationView.description()->clear();
 }
@@ -212,10 +226,23 @@ void ProfilesPresenter::updateAreas()
     showBoard();
 }
 
-void ProfilesPresenter::setLoaded(bool isLoaded)
+void ProfilesPresenter::hold(const QString& profile)
 {
-    m_loaded = isLoaded ? sentBy(m_avrdude.settings()) : QStringList();
+    m_profile = profile;
+    m_loaded = profile.isEmpty() ? QStringList() : sentBy(m_avrdude.settings());
+    m_production = profile.isEmpty() ? Production() : Production::read(profileFile(profile), m_avrdude.settings());
+    if (m_production.isQuiet)
+        m_avrdude.log().appendLine(tr("With this profile no box tells of a board that is good."));
     showBoard();
+}
+
+void ProfilesPresenter::setLoaded(const QString& name)
+{
+    m_good = m_failed = 0;
+    m_boardView.clear();
+    hold(name);
+    if (!m_production.fault.isEmpty())
+        tellNoBoard(&m_programmingView, m_production.fault);
 }
 
 void ProfilesPresenter::showBoard()
@@ -236,11 +263,15 @@ void ProfilesPresenter::showBoard()
         const auto count = FuseRequests::sent(settings.fusesBytes).size();
         line += count == 1 ? tr("1 fuse byte") : tr("%1 fuse bytes").arg(count);
     }
+    if (m_production.serial)
+        line += tr("number %1").arg(m_production.serial->next);
+    if (!m_production.boardLog.isEmpty())
+        line += shownText(m_production.boardLog);
     if (m_loaded.isEmpty())
         line += tr("no profile loaded");
     else if (m_loaded != sentBy(settings))
         line += tr("profile changed since it was loaded");
-    m_boardLine.showLine(line.join(QString::fromUtf8(" \u00b7 ")));
+    m_boardView.line()->showLine(line.join(QString::fromUtf8(" \u00b7 ")));
 }
 
 void ProfilesPresenter::setFlashChBox()
@@ -273,10 +304,19 @@ void ProfilesPresenter::startWriting()
     const bool isNewBoard = !m_avrdude.isBusy();
     if (!m_board.isRunning && m_avrdude.turnsAway())
         return; // it is something else that is running
+    emit writePressed();
 
     // In the middle of a writing the first of these steps is dropped, as something runs, and an area that had nothing
     // to write at first has nothing now.
     const SettingsRecord& settings = isNewBoard ? m_avrdude.settings() : m_board.settings;
+    const QString profile = profileFile(m_profile);
+    if (isNewBoard && !m_profile.isEmpty() && (!m_production.isPlain() || QFileInfo(profile).isFile()))
+        m_production = Production::read(profile, settings);
+    const Production& production = isNewBoard ? m_production : m_board.production;
+    if (!production.fault.isEmpty()) {
+        tellNoBoard(&m_programmingView, production.fault);
+        return;
+    }
     QVector<BoardWriting::Step> steps;
     QVector<MemoryRequest> requests;
     struct Area {
@@ -286,20 +326,20 @@ void ProfilesPresenter::startWriting()
     };
     for (const Area& area : {Area {MemoryKind::flash, m_selectView.flash(), &ProfilesPresenter::writeFlash},
                              {MemoryKind::eeprom, m_selectView.eeprom(), &ProfilesPresenter::writeEeprom}}) {
-        if (!area.box->isChecked())
-            continue;
         const auto command = area.kind.commandFor(settings);
-        if (!command) {
+        if (area.box->isChecked() && !command) {
             Box::tell(&m_programmingView, QLatin1String(area.kind.title),
                       tr("The command that the profile has for this memory does not write a file. It is not run:"),
                       shownText((settings.*area.kind.writeCommand).join(QLatin1Char(' ')), longestShown));
             return;
         }
-        if (command->isEmpty() && !isNewBoard)
-            continue;
-        if (isNewBoard || !steps.isEmpty())
-            requests.append(MemoryRequest::from(*command));
-        steps.append(area.step);
+        if (area.box->isChecked() && (isNewBoard || !command->isEmpty())) {
+            if (isNewBoard || !steps.isEmpty())
+                requests.append(MemoryRequest::from(*command));
+            steps.append(area.step);
+        }
+        if (production.serial && production.serial->memory == QLatin1String(area.kind.memory))
+            steps.append(&ProfilesPresenter::writeNumber);
     }
     if (m_selectView.fuses()->isChecked() && (isNewBoard || !settings.fusesBytes.isEmpty()))
         steps.append(&ProfilesPresenter::writeFuses);
@@ -310,10 +350,8 @@ void ProfilesPresenter::startWriting()
             return; // before any area is written; what is running goes on as it was
     }
     if (isNewBoard) {
-        if (!m_avrdude.mayStart())
+        if (!m_avrdude.mayStart() || !beginBoard())
             return;
-        m_board = {};
-        m_board.settings = m_avrdude.settings();
     }
     m_board.steps = steps;
     m_board.nextStep = 0;
@@ -321,15 +359,130 @@ void ProfilesPresenter::startWriting()
     nextStep();
 }
 
+bool ProfilesPresenter::beginBoard()
+{
+    endBoard(false, {}); // one that the runner refused in the middle
+    BoardWriting board;
+    board.settings = m_avrdude.settings();
+    board.profile = m_profile;
+    board.production = m_production;
+    if (!m_production.boardLog.isEmpty()) {
+        board.record = std::make_unique<BoardLog>();
+        if (!board.record->open(m_production.boardLog)) {
+            tellNoBoard(&m_programmingView,
+                        tr("The record of the boards cannot be written: %1").arg(fullPath(m_production.boardLog)));
+            return false;
+        }
+        board.line.profile = m_profile;
+        board.line.part = board.settings.mcuName;
+        const auto addArea = [&board](bool isTicked, const MemoryKind& kind) {
+            const QString file = MemoryRequest::from(kind.commandFor(board.settings).value_or(QStringList())).file;
+            board.line.files += isTicked ? BoardLog::nameAndSum(file) : QStringList {QString(), QString()};
+            if (isTicked)
+                board.line.areas += QLatin1String(kind.title);
+        };
+        addArea(m_selectView.flash()->isChecked(), MemoryKind::flash);
+        addArea(m_selectView.eeprom()->isChecked(), MemoryKind::eeprom);
+        if (m_selectView.fuses()->isChecked())
+            board.line.areas += QStringLiteral("FUSES");
+    }
+    if (m_production.serial) {
+        // In the work folder: avrdude takes such a name on every system.
+        board.numberFile = std::make_unique<QTemporaryFile>(QStringLiteral("number-XXXXXX.hex"));
+        const QByteArray content = m_production.serial->intelHex();
+        const bool isWritten = board.numberFile->open() && board.numberFile->write(content) == content.size();
+        board.numberFile->close();
+        // Taken before the chip gets it: whatever happens from now on, no other board will have it too.
+        if (!isWritten || !m_production.serial->take(profileFile(m_profile))) {
+            tellNoBoard(&m_programmingView,
+                        tr("The next number cannot be saved in the profile: %1").arg(fullPath(profileFile(m_profile))));
+            return false;
+        }
+    }
+    board.isOpen = true;
+    board.time.start();
+    m_board = std::move(board);
+    m_boardView.showBoard(BoardView::Verdict::Pending, tr("Board %1").arg(m_good + m_failed + 1), countsText());
+    return true;
+}
+
+void ProfilesPresenter::endBoard(bool isGood, const QString& message)
+{
+    if (!m_board.isOpen)
+        return;
+    m_board.isOpen = false;
+    noteSignature();
+    const qint64 milliseconds = m_board.time.elapsed();
+    m_board.numberFile.reset();
+    if (const auto& serial = m_board.production.serial) {
+        const QString file = profileFile(m_board.profile);
+        if (isGood)
+            m_board.line.serialNumber = QString::number(serial->next);
+        else if (!serial->giveBack(file))
+            m_avrdude.log().appendLine(tr("The number %1 will be left out.").arg(serial->next));
+        if (m_board.profile == m_profile)
+            m_production = Production::read(file, m_avrdude.settings());
+    }
+    m_board.line.verdict = isGood ? QStringLiteral("good") : QStringLiteral("failed");
+    m_board.line.message = message;
+    m_board.line.milliseconds = milliseconds;
+    m_board.isRecorded = !m_board.record || m_board.record->append(m_board.line);
+    m_board.record.reset();
+    if (!m_board.isRecorded)
+        m_avrdude.log().appendLine(tr("The line of this board is missing in %1.").arg(m_board.production.boardLog));
+
+    ++(isGood ? m_good : m_failed);
+    const int number = m_good + m_failed;
+    if (isGood)
+        m_boardView.showBoard(BoardView::Verdict::Good,
+                              tr("Board %1: written, %2 s").arg(number).arg(BoardLog::seconds(milliseconds)),
+                              countsText());
+    else
+        m_boardView.showBoard(BoardView::Verdict::Failed, tr("Board %1: failed: %2").arg(number).arg(message),
+                              countsText());
+    showBoard();
+}
+
+void ProfilesPresenter::noteSignature()
+{
+    const QString signature = Message::signatureIn(m_avrdude.output());
+    if (!signature.isEmpty())
+        m_board.line.signature = signature;
+}
+
+QString ProfilesPresenter::countsText() const
+{
+    return tr("%1 good, %2 failed").arg(m_good).arg(m_failed);
+}
+
+void ProfilesPresenter::tellGood()
+{
+    const Production& production = m_board.production;
+    if (production.isQuiet && m_board.isRecorded)
+        return;
+    QStringList below;
+    if (m_board.written.contains(BoardWriting::Area::Fuses))
+        below += FuseRequests::remark(m_board.settings.fusesBytes);
+    if (production.serial)
+        below += tr("number %1").arg(production.serial->next);
+    if (!m_board.isRecorded)
+        below += tr("The line of this board is missing in %1.").arg(production.boardLog);
+    below.removeAll({});
+    Box::tell(QApplication::activeWindow(), QStringLiteral("Profiles"),
+              QStringList(m_board.written.values()).join(QString()), below.join(QLatin1Char('\n')),
+              m_board.isRecorded ? QMessageBox::Information : QMessageBox::Warning);
+    m_programmingView.writeButton()->setFocus(); // for the next one
+}
+
 void ProfilesPresenter::nextStep()
 {
     m_board.log += m_avrdude.log().toPlainText();
+    if (m_board.nextStep >= m_board.steps.size() && m_board.numberFile && !m_board.hasNumber)
+        m_board.steps.append(&ProfilesPresenter::writeNumber); // dropped when Write was pressed again
     if (m_board.nextStep >= m_board.steps.size()) {
         m_avrdude.log().replace(m_board.log);
-        const bool hasFuses = m_board.written.contains(BoardWriting::Area::Fuses);
-        Box::tell(QApplication::activeWindow(), QStringLiteral("Profiles"),
-                  QStringList(m_board.written.values()).join(QString()),
-                  hasFuses ? FuseRequests::remark(m_board.settings.fusesBytes) : QString());
+        endBoard(true, {});
+        tellGood();
         return;
     }
     const BoardWriting::Step step = m_board.steps.at(m_board.nextStep);
@@ -337,16 +490,26 @@ void ProfilesPresenter::nextStep()
     ++m_board.nextStep;
 }
 
-void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told)
+void ProfilesPresenter::run(const QStringList& arguments, const std::function<void()>& done)
 {
     m_board.isRunning = true;
-    m_avrdude.execute(m_board.settings, arguments, [this, area, told] {
-        m_board.written.insert(area, told); // only now: a step that the runner dropped has written nothing
+    m_avrdude.execute(m_board.settings, arguments, [this, done] {
+        done(); // only now: a step that the runner dropped has written nothing
+        noteSignature();
+        nextStep();
+    });
+    if (!m_avrdude.isBusy())
+        endBoard(false, {}); // the log says why it was not started
+}
+
+void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told)
+{
+    run(arguments, [this, area, told] {
+        m_board.written.insert(area, told);
         if (area == BoardWriting::Area::Fuses) {
             m_avrdude.fusesOnChip().note(m_board.settings.mcuId, FuseRequests::sent(m_board.settings.fusesBytes));
             emit fusesWritten();
         }
-        nextStep();
     });
 }
 
@@ -366,4 +529,15 @@ void ProfilesPresenter::writeFuses()
 {
     runStep(BoardWriting::Area::Fuses, FuseRequests::write(m_board.settings.fusesBytes),
             tr("Fuse bits write successfully.\nFuse bits verify successfully."));
+}
+
+void ProfilesPresenter::writeNumber()
+{
+    const QString& memory = m_board.production.serial->memory;
+    QStringList arguments =
+        MemoryRequest {memory, QStringLiteral("w"), QFileInfo(*m_board.numberFile).fileName(), QStringLiteral("i")}
+            .arguments();
+    if (memory == QLatin1String("flash"))
+        arguments.prepend(QStringLiteral("-D")); // or the program that has just been written would be erased
+    run(arguments, [this] { m_board.hasNumber = true; });
 }

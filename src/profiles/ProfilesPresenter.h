@@ -1,12 +1,15 @@
 #pragma once
 
 #include "profiles/BoardWriting.h"
+#include "profiles/Production.h"
 
 #include <QObject>
 
+#include <functional>
+
 class Avrdude;
+class BoardView;
 class ConfigurationView;
-class ElidedLabel;
 class ProgrammingView;
 class SelectView;
 
@@ -18,7 +21,7 @@ class ProfilesPresenter : public QObject
 
 public:
     ProfilesPresenter(Avrdude& avrdude, SelectView& selectView, ConfigurationView& configurationView,
-                      ProgrammingView& programmingView, ElidedLabel& boardLine, QObject* parent);
+                      ProgrammingView& programmingView, BoardView& boardView, QObject* parent);
 
     /// Path of the file of the profile called @p name, which goes into it as typed; null as jsonPath() says. The folder
     /// is not made.
@@ -44,10 +47,14 @@ public:
     /// Says again what Write will send.
     void showBoard();
 
-    /// The record holds a profile as it is in its file, once all panels have shown it; or, unless @p isLoaded, none.
-    void setLoaded(bool isLoaded);
+    /// The record holds the profile called @p name as it is in its file, once all panels have shown it; or, with an
+    /// empty name, none. Boards are counted anew. A box says when none can be written with it.
+    void setLoaded(const QString& name);
 
 signals:
+    /// Write was pressed, which began or changed the writing of a board.
+    void writePressed();
+
     /// A board has got its fuse bytes.
     void fusesWritten();
 
@@ -57,11 +64,19 @@ public slots:
     void setFusesChBox();
 
 private:
+    void hold(const QString& profile);
     void startWriting();
+    [[nodiscard]] bool beginBoard();
+    void endBoard(bool isGood, const QString& message);
+    [[nodiscard]] QString countsText() const;
     void nextStep();
+    void noteSignature();
+    void tellGood();
     void writeFlash();
     void writeEeprom();
     void writeFuses();
+    void writeNumber();
+    void run(const QStringList& arguments, const std::function<void()>& done);
     void runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told);
     void updateWriteButton();
 
@@ -69,8 +84,12 @@ private:
     SelectView& m_selectView;
     ConfigurationView& m_configurationView;
     ProgrammingView& m_programmingView;
-    ElidedLabel& m_boardLine;
+    BoardView& m_boardView;
 
     QStringList m_loaded; ///< what writing the loaded profile would send, when it was loaded; empty: none is
+    QString m_profile; ///< the name of that one
+    Production m_production; ///< of that one
     BoardWriting m_board; ///< the present or last one
+    int m_good = 0; ///< boards since the profile was loaded
+    int m_failed = 0;
 };

@@ -208,7 +208,10 @@ bool SettingsRecord::saveToFile(const QString& path, File file) const
 {
     Writer writer;
     visitRecord(*this, writer);
-    QJsonObject object = writer.object();
+    const QJsonObject own = writer.object();
+    QJsonObject object = file == File::Profile ? JsonFile::read(path).document.object() : QJsonObject();
+    for (auto key = own.begin(); key != own.end(); ++key)
+        object.insert(key.key(), key.value());
     if (file == File::Settings && !updateCheck)
         object.insert(updateCheckKey, false);
     return writeFile(path, QJsonDocument(object).toJson(QJsonDocument::Indented));

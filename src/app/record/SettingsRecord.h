@@ -61,7 +61,8 @@ struct SettingsRecord {
     /// What a file of the record is for: one person's settings, or a profile that goes from bench to bench.
     enum class File { Settings, Profile };
 
-    /// Writes the whole record to @p path. The file is replaced at once or not at all.
+    /// Writes the whole record to @p path. The file is replaced at once or not at all. What a profile's file has beside
+    /// the record stays.
     /// Returns false, with the old file untouched, when it cannot be written.
     [[nodiscard]] bool saveToFile(const QString& path, File file = File::Settings) const;
 
