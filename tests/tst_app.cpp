@@ -2,6 +2,8 @@
 #include "app/Startup.h"
 #include "app/log/RunBar.h"
 #include "mcu/AttributesView.h"
+#include "profiles/Profiles.h"
+#include "profiles/Profiles.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "settings/SettingsView.h"
@@ -290,6 +292,8 @@ private slots:
                 box.show();
             } else if (parts[0] == "close") {
                 box.accept();
+            } else if (parts[0] == "begin") {
+                emit window.findChild<Profiles*>()->writePressed();
             } else if (type <= QEvent::MouseButtonDblClick) {
                 QMouseEvent event(type, point, point, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
                 event.setTimestamp(time);
