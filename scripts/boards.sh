@@ -34,8 +34,7 @@ while [ "$board" -le "$count" ]; do
     "$program" "$board" "$count" "$port" >>log 2>&1 || status=$?
     [ "$status" -eq 0 ] && break
     [ "$status" -eq 137 ] || { echo "Ended with $status; see build/boards/log"; exit 1; }
-    board=$((board - board % 25 + 25))
-    printf '%s\tkilled\n' "$board" >>shown
+    board=$(tail -n 1 shown | cut -f 1)
     pkill -f -- "--port=$port" || true # that the killed one has left behind
     sleep 1
     board=$((board + 1))
@@ -81,7 +80,7 @@ if next(record, None):
     faults.append('the record has more lines than boards')
 if sorted(set(given)) != given:
     faults.append(f'a number twice, or none in order: {given}')
-if following != given[-1] + 1 or following - 1001 - len(given) > killed:
+if following <= given[-1] or following - 1001 - len(given) > killed:
     faults.append(f'the profile goes on with {following} after {given[-1]}, {len(given)} given, {killed} killed')
 names = collections.Counter(name for _, name, *_ in shown)
 print('\n'.join(faults) or f'{count} boards agree: ' + ', '.join(f'{many} {name}' for name, many in names.items())
