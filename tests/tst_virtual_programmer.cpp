@@ -1,4 +1,7 @@
 #include "Chip.h"
+#include "Description.h"
+#include "JtagMkII.h"
+#include "Stk500.h"
 #include "VirtualProgrammer.h"
 #include "avrdude/Avrdude.h"
 #include "mcu/description/BytesModel.h"
@@ -82,6 +85,77 @@ private slots:
         QCOMPARE(int(part.cksel), bits["CKSEL"]);
     }
 
+    void memoryMapsAgreeWithAvrdude()
+    {
+        QProcess process;
+        process.start("avrdude", {"-p", "*/St"});
+        QVERIFY(process.waitForFinished());
+        QHash<QString, QString> listed; // "ATtiny1614 flash offset"
+        for (const QString& line : QString(process.readAll()).split('\n')) {
+            const QStringList cells = line.split('\t');
+            if (cells.size() > 4 && cells[0] == ".ptmm")
+                listed[cells.mid(1, 3).join(' ')] = cells[4];
+        }
+        const QDir descriptions(DATA_FOLDER "/mcu");
+        int compared = 0;
+        QStringList differing;
+        for (const QString& file : descriptions.entryList({"*.json"}, QDir::Files)) {
+            const auto part = MappedPart::described(readDescription(file.chopped(5).toLower(), {descriptions.path()}));
+            if (!part || !listed.contains(part->shape.part + " flash size"))
+                continue; // newer than this avrdude, or ISP
+            ++compared;
+            const auto compare = [&](const QString& cell, int value) {
+                const QString name = part->shape.part + ' ' + cell;
+                if (listed.value(name, QString::number(value)).toInt(nullptr, 0) != value)
+                    differing += name;
+            };
+            const QString user = part->interface == MappedPart::Interface::Updi ? "userrow" : "usersig";
+            for (const auto& [memory, place] : {std::pair<QString, int>("flash", MappedPart::Flash),
+                                                {"eeprom", MappedPart::Eeprom},
+                                                {"fuses", MappedPart::Fuses},
+                                                {"lock", MappedPart::Lock},
+                                                {user, MappedPart::UserRow},
+                                                {"signature", MappedPart::Signature},
+                                                {"prodsig", MappedPart::ProductionSignature}})
+                compare(memory + " offset", static_cast<int>(part->places[place].address));
+            compare("flash size", part->places[MappedPart::Flash].size);
+            compare("eeprom size", part->places[MappedPart::Eeprom].size);
+            compare("lock size", part->places[MappedPart::Lock].size);
+            compare("flash page_size", part->flashPageSize);
+            compare("eeprom page_size", part->eepromPageSize);
+        }
+        QCOMPARE(differing, QStringList());
+        QVERIFY(compared > 120 || listed.isEmpty()); // 7.0 does not describe its parts
+    }
+
+    void jtagConversation_data() { casesFrom("jtagmkii.txt", {"part", "sent", "answered"}); }
+
+    void jtagConversation()
+    {
+        MappedChip chip(*MappedPart::described(readDescription(cell("part"), {DATA_FOLDER "/mcu"})));
+        JtagMkII programmer(chip);
+        QStringList answers;
+        quint16 number = 7;
+        for (const QString& sent : cell("sent").split(", ")) {
+            const QByteArray body = QByteArray::fromHex(sent.section('!', 0, 0).toLatin1());
+            QByteArray frame = QByteArray("\x1B") + char(number) + char(number >> 8) + char(body.size())
+                + QByteArray(3, '\0') + '\x0E' + body;
+            const quint16 sum = JtagMkII::checksumOf(frame) ^ (sent.endsWith('!') ? 1 : 0); // a damaged one
+            frame += char(sum);
+            frame += char(sum >> 8);
+            QByteArray answer;
+            for (const char byte : "noise" + frame) // a connection may cut a message anywhere
+                answer += programmer.receive(QByteArray(1, byte));
+            if (!answer.isEmpty()) {
+                QCOMPARE(answer.left(3), frame.left(3)); // with the message's own number
+                QCOMPARE(JtagMkII::checksumOf(answer), quint16(0)); // as of every message with its own
+            }
+            answers += answer.mid(8).chopped(answer.isEmpty() ? 0 : 2).toHex();
+            ++number;
+        }
+        QTEST(answers.join(", "), "answered");
+    }
+
     void conversation_data() { casesFrom("dialogues.txt", {"sent", "answered"}); }
 
     void conversation()
@@ -100,17 +174,18 @@ private slots:
     {
         const WorkFolder folder;
         Chip chip(*Part::find("ATmega2560"));
+        Stk500 protocol(chip);
         ChipState state = chip.state();
         state.flash[262143] = state.eeprom[0] = 'x';
         state.fuses = {0x12, 0x34, 0xFD};
-        state.lock = 0xFC;
+        state.lock = "\xFC";
         QString error;
-        QVERIFY(state.save("chip", chip.part(), error));
+        QVERIFY(state.save("chip", chip.shape(), error));
         QByteArray content = folder.read("chip");
         QVERIFY(content.size() < 600); // and not a megabyte of empty rows
-        QVERIFY(VirtualProgrammer(chip).setStateFile("chip", error) && chip.state() == state);
+        QVERIFY(VirtualProgrammer(chip, protocol).setStateFile("chip", error) && chip.state() == state);
         folder.write("chip", content.replace(cell("text").toUtf8(), cell("instead").toUtf8()));
-        QVERIFY(!VirtualProgrammer(chip).setStateFile("chip", error));
+        QVERIFY(!VirtualProgrammer(chip, protocol).setStateFile("chip", error));
         QCOMPARE(error, cell("error"));
         QCOMPARE(folder.read("chip"), content);
     }
@@ -124,7 +199,7 @@ private slots:
         ChipState state = chip.state();
         state.flash[0] = 'x';
         state.fuses = {static_cast<quint8>(bytes[0]), static_cast<quint8>(bytes[1]), 0xFF};
-        state.lock = static_cast<quint8>(bytes[2]);
+        state.lock = bytes.mid(2, 1);
         chip.setState(state);
         chip.setClockInput(cell("crystal").toInt());
 
@@ -141,13 +216,14 @@ private slots:
         QTEST(QString::number(shortest), "duration");
         chip.rescue();
         QVERIFY(answers(8)); // the speed of a new programmer
-        QCOMPARE(chip.state().flash[0], state.lock == 0xFF ? 'x' : '\xff'); // a locked chip was erased first
+        QCOMPARE(chip.state().flash[0], state.lock == "\xFF" ? 'x' : '\xff'); // a locked chip was erased first
     }
 
     void oneConnectionAfterAnother()
     {
         Chip chip(*Part::find("ATmega16"));
-        VirtualProgrammer programmer(chip);
+        Stk500 protocol(chip);
+        VirtualProgrammer programmer(chip, protocol);
         programmer.setUnplugAfter(4); // on each connection
         QVERIFY(programmer.listen(0));
         const auto talk = [](QTcpSocket& socket, const QString& sent) {

@@ -1,5 +1,7 @@
 #include "Chip.h"
 
+#include <algorithm>
+
 namespace {
 
 // Lock bits LB1 and LB2 (datasheets, "Lock Bit Protection Modes"). A bit is programmed when it is 0.
@@ -12,17 +14,25 @@ constexpr std::array<quint8, 4> calibration = {0xA9, 0xA4, 0xA2, 0x9F};
 } // namespace
 
 Chip::Chip(const Part& part)
-    : m_part(part)
-    , m_state(ChipState::factory(part))
+    : Target(part.shape())
+    , m_part(part)
+    , m_flashPageSize(part.flashPageSize)
 {
     leaveProgramming();
+}
+
+void Chip::setFlashPageSize(int bytes)
+{
+    const bool isPowerOfTwo = bytes > 1 && (bytes & (bytes - 1)) == 0;
+    if (m_part.flashPageSize == 0)
+        m_flashPageSize = isPowerOfTwo ? std::min(bytes, m_part.flashSize) : 0;
 }
 
 void Chip::rescue()
 {
     if (!mayWrite())
         eraseChip();
-    m_state.fuses = m_part.factoryFuses;
+    m_state.fuses = m_shape.factory.fuses;
 }
 
 bool Chip::enterProgramming(int bitClock)
@@ -43,7 +53,7 @@ void Chip::leaveProgramming()
 {
     m_isProgramming = false;
     m_extendedAddress = 0;
-    m_flashPage.fill('\xFF', m_part.flashPageSize);
+    m_flashPage.fill('\xFF', m_flashPageSize);
     m_eepromPage.fill(std::nullopt);
 }
 
@@ -82,7 +92,7 @@ std::optional<quint8> Chip::execute(const Instruction& in)
     case 0x50:
         return m_state.fuses[isSecond ? Part::ExtendedFuse : Part::LowFuse];
     case 0x58:
-        return isSecond ? m_state.fuses[Part::HighFuse] : m_state.lock;
+        return isSecond ? m_state.fuses[Part::HighFuse] : lock();
     case 0xF0:
         return quint8 {0}; // RDY/BSY: never busy
     default:
@@ -96,7 +106,10 @@ void Chip::executeWrite(const Instruction& in)
     switch (in[0]) {
     case 0x40:
     case 0x48:
-        m_flashPage[flashAddress(in) % m_part.flashPageSize] = static_cast<char>(in[3]);
+        if (m_flashPageSize > 0)
+            m_flashPage[flashAddress(in) % m_flashPageSize] = static_cast<char>(in[3]);
+        else if (mayWrite())
+            writeFlash(flashAddress(in), static_cast<char>(in[3]));
         break;
     case 0x4C:
         writeFlashPage(flashAddress(in));
@@ -124,7 +137,7 @@ void Chip::executeWrite(const Instruction& in)
         else if (in[1] == 0xA4)
             writeFuse(Part::ExtendedFuse, in[3]);
         else if ((in[1] & 0xE0) == 0xE0 && mayRead()) // in mode 3 the boot lock bits are locked too
-            m_state.lock &= static_cast<quint8>(in[3] | ~m_part.lockBits);
+            m_state.lock[0] = static_cast<char>(lock() & (in[3] | ~m_part.lockBits));
         break;
     default:
         break;
@@ -137,7 +150,7 @@ void Chip::eraseChip()
     m_state.flash.fill('\xFF');
     if (!keepsEeprom)
         m_state.eeprom.fill('\xFF');
-    m_state.lock = 0xFF;
+    m_state.lock = m_shape.factory.lock;
 }
 
 void Chip::writeFuse(Part::Fuse fuse, quint8 value)
@@ -151,12 +164,9 @@ void Chip::writeFuse(Part::Fuse fuse, quint8 value)
 
 void Chip::writeFlashPage(int address)
 {
-    const int begin = address & ~(m_part.flashPageSize - 1);
-    for (int i = 0; mayWrite() && i < m_part.flashPageSize; ++i) {
-        const char loaded = m_flashPage.at(i);
-        const bool isFaulty = begin + i == m_faultyAddress;
-        m_state.flash[begin + i] = static_cast<char>(isFaulty ? loaded ^ 0x01 : loaded & m_state.flash.at(begin + i));
-    }
+    const int begin = address & ~(m_flashPageSize - 1);
+    for (int i = 0; mayWrite() && i < m_flashPageSize; ++i)
+        writeFlash(begin + i, m_flashPage.at(i));
     m_flashPage.fill('\xFF');
 }
 
@@ -190,10 +200,15 @@ int Chip::eepromAddress(const Instruction& in) const
 
 bool Chip::mayRead() const
 {
-    return (m_state.lock & lockReading) != 0;
+    return (lock() & lockReading) != 0;
 }
 
 bool Chip::mayWrite() const
 {
-    return mayRead() && (m_state.lock & lockWriting) != 0;
+    return mayRead() && (lock() & lockWriting) != 0;
+}
+
+quint8 Chip::lock() const
+{
+    return static_cast<quint8>(m_state.lock.at(0));
 }

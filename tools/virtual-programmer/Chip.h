@@ -1,6 +1,7 @@
 #pragma once
 
-#include "ChipState.h"
+#include "Part.h"
+#include "Target.h"
 
 #include <QByteArray>
 
@@ -9,7 +10,7 @@
 
 /// An AVR chip held in reset, as a serial programmer sees it: four bytes in, four bytes out. Follows the datasheets'
 /// "Serial Programming Instruction Set" and lock bit protection modes; every write is done at once.
-class Chip
+class Chip : public Target
 {
 public:
     using Instruction = std::array<quint8, 4>;
@@ -18,29 +19,22 @@ public:
     explicit Chip(const Part& part);
 
     [[nodiscard]] const Part& part() const { return m_part; }
-    [[nodiscard]] const ChipState& state() const { return m_state; }
 
-    /// Takes over all memories, which must have the sizes that the part has.
-    void setState(const ChipState& state) { m_state = state; }
-
-    /// Makes the flash byte at `address` (0 to flash size - 1) faulty: each write to it turns bit 0 over.
-    void setFaultyAddress(int address) { m_faultyAddress = address; }
+    /// Tells the size of a page of the flash, in bytes, where the part does not: of a part without pages 0.
+    void setFlashPageSize(int bytes);
+    [[nodiscard]] int flashPageSize() const { return m_flashPageSize; }
 
     /// The clock at the clock pins, in Hz (0: none). It serves whichever source outside the chip the fuses choose: a
     /// generator, a crystal or a resonator of any range.
     void setClockInput(int frequency) { m_clockInput = frequency; }
 
-    /// Puts the factory fuses back as a high-voltage programmer does, which needs none of them to be right. Lock modes
-    /// 2 and 3 protect the fuses from that too, so a chip in one of them is erased first.
-    void rescue();
+    /// Lock modes 2 and 3 protect the fuses.
+    void rescue() override;
 
     /// Starts the chip anew, held in reset: the fuses as they are now take effect. Then enables programming with
     /// instructions shifted at `bitClock` (1 Hz to 10 MHz). False when the chip does not answer: its fuses have taken
     /// reset or serial programming away, or its clock is not there or too slow.
     bool enterProgramming(int bitClock);
-
-    /// Whether programming has been enabled and not been left since.
-    [[nodiscard]] bool isProgramming() const { return m_isProgramming; }
 
     /// Shifts one instruction in and returns what the chip shifts out meanwhile: the answer in the last byte where
     /// the instruction has one, otherwise each byte is the one that came in before it. Until programming is enabled
@@ -48,7 +42,7 @@ public:
     Instruction transfer(const Instruction& in);
 
     /// Releases reset: ends programming and forgets page buffers and extended address.
-    void leaveProgramming();
+    void leaveProgramming() override;
 
 private:
     [[nodiscard]] bool answers(int bitClock) const;
@@ -64,13 +58,12 @@ private:
     [[nodiscard]] int eepromAddress(const Instruction& in) const;
     [[nodiscard]] bool mayRead() const;
     [[nodiscard]] bool mayWrite() const;
+    [[nodiscard]] quint8 lock() const;
 
     const Part& m_part;
-    ChipState m_state;
-    bool m_isProgramming = false;
     int m_clockInput = 0; // Hz
+    int m_flashPageSize; // bytes; 0: each byte is written at once
     int m_extendedAddress = 0;
-    int m_faultyAddress = -1;
     QByteArray m_flashPage;
     std::array<std::optional<quint8>, 8> m_eepromPage; // no part has longer EEPROM pages
 };

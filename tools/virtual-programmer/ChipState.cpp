@@ -8,8 +8,6 @@
 namespace {
 
 constexpr int bytesPerRow = 32;
-const std::array<QLatin1String, Part::FuseCount> fuseKeys = {QLatin1String("low"), QLatin1String("high"),
-                                                             QLatin1String("extended")};
 
 QString hex(int number, int digits)
 {
@@ -43,23 +41,26 @@ bool readRows(const QJsonValue& value, QByteArray& memory)
     return value.isObject();
 }
 
-/// Reads a fuse or lock byte; bits that the part does not have read as 1 whatever the file says.
-bool readByte(const QJsonValue& value, quint8 existingBits, quint8& byte)
+QString hex(const QByteArray& bytes)
 {
-    bool isNumber = false;
-    const uint number = value.toString().toUInt(&isNumber, 16);
-    byte = static_cast<quint8>(number | ~uint {existingBits});
-    return isNumber && number <= 0xFF;
+    return QStringLiteral("0x") + QString::fromLatin1(bytes.toHex().toUpper());
+}
+
+/// Reads fuse or lock bytes; bits that the part does not have read as its factory has them, whatever the file says.
+bool readBytes(const QJsonValue& value, const QByteArray& existingBits, QByteArray& bytes)
+{
+    const QByteArray text = value.toString().toLatin1();
+    const QByteArray found = QByteArray::fromHex(text.mid(2));
+    if (!text.startsWith("0x") || found.size() != bytes.size() || found.toHex() != text.mid(2).toLower())
+        return false;
+    for (int i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>((found.at(i) & existingBits.at(i)) | (bytes.at(i) & ~existingBits.at(i)));
+    return true;
 }
 
 } // namespace
 
-ChipState ChipState::factory(const Part& part)
-{
-    return {QByteArray(part.flashSize, '\xFF'), QByteArray(part.eepromSize, '\xFF'), part.factoryFuses, 0xFF};
-}
-
-std::optional<ChipState> ChipState::load(const QString& path, const Part& part, QString& error)
+std::optional<ChipState> ChipState::load(const QString& path, const ChipShape& shape, QString& error)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -68,19 +69,23 @@ std::optional<ChipState> ChipState::load(const QString& path, const Part& part, 
     }
     const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
     const QString owner = object.value(QLatin1String("part")).toString();
-    if (!owner.isEmpty() && owner != part.name) {
-        error = QStringLiteral("%1 holds the state of part %2, not of %3.").arg(path, owner, part.name);
+    if (!owner.isEmpty() && owner != shape.part) {
+        error = QStringLiteral("%1 holds the state of part %2, not of %3.").arg(path, owner, shape.part);
         return std::nullopt;
     }
 
-    ChipState state = factory(part);
+    ChipState state = shape.factory;
     const QJsonObject fuses = object.value(QLatin1String("fuses")).toObject();
     bool isComplete = !owner.isEmpty() && readRows(object.value(QLatin1String("flash")), state.flash)
         && readRows(object.value(QLatin1String("eeprom")), state.eeprom)
-        && readByte(object.value(QLatin1String("lock")), part.lockBits, state.lock);
-    for (std::size_t fuse = 0; fuse < Part::FuseCount; ++fuse) {
-        const quint8 bits = part.fuseBits[fuse];
-        isComplete = isComplete && (bits == 0 || readByte(fuses.value(fuseKeys[fuse]), bits, state.fuses[fuse]));
+        && (state.userRow.isEmpty() || readRows(object.value(QLatin1String("userRow")), state.userRow))
+        && readBytes(object.value(QLatin1String("lock")), shape.lockBits, state.lock);
+    for (int fuse = 0; fuse < state.fuses.size(); ++fuse) {
+        QByteArray byte(1, static_cast<char>(state.fuses[fuse]));
+        const QByteArray bits(1, static_cast<char>(shape.fuseBits[fuse]));
+        isComplete =
+            isComplete && (shape.fuseBits[fuse] == 0 || readBytes(fuses.value(shape.fuseNames[fuse]), bits, byte));
+        state.fuses[fuse] = static_cast<quint8>(byte.at(0));
     }
     if (!isComplete) {
         error = QStringLiteral("%1 is damaged or holds no chip state.").arg(path);
@@ -89,18 +94,20 @@ std::optional<ChipState> ChipState::load(const QString& path, const Part& part, 
     return state;
 }
 
-bool ChipState::save(const QString& path, const Part& part, QString& error) const
+bool ChipState::save(const QString& path, const ChipShape& shape, QString& error) const
 {
     QJsonObject fuseObject;
-    for (std::size_t fuse = 0; fuse < Part::FuseCount; ++fuse) {
-        if (part.fuseBits[fuse] != 0)
-            fuseObject.insert(fuseKeys[fuse], hex(fuses[fuse], 2));
+    for (int fuse = 0; fuse < fuses.size(); ++fuse) {
+        if (shape.fuseBits[fuse] != 0)
+            fuseObject.insert(shape.fuseNames[fuse], hex(fuses[fuse], 2));
     }
-    const QJsonObject object {{QStringLiteral("part"), part.name},
-                              {QStringLiteral("flash"), rowsOf(flash)},
-                              {QStringLiteral("eeprom"), rowsOf(eeprom)},
-                              {QStringLiteral("fuses"), fuseObject},
-                              {QStringLiteral("lock"), hex(lock, 2)}};
+    QJsonObject object {{QStringLiteral("part"), shape.part},
+                        {QStringLiteral("flash"), rowsOf(flash)},
+                        {QStringLiteral("eeprom"), rowsOf(eeprom)},
+                        {QStringLiteral("fuses"), fuseObject},
+                        {QStringLiteral("lock"), hex(lock)}};
+    if (!userRow.isEmpty())
+        object.insert(QStringLiteral("userRow"), rowsOf(userRow));
 
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(object).toJson()) < 0 || !file.commit()) {
@@ -112,5 +119,6 @@ bool ChipState::save(const QString& path, const Part& part, QString& error) cons
 
 bool ChipState::operator==(const ChipState& other) const
 {
-    return flash == other.flash && eeprom == other.eeprom && fuses == other.fuses && lock == other.lock;
+    return flash == other.flash && eeprom == other.eeprom && fuses == other.fuses && lock == other.lock
+        && userRow == other.userRow;
 }

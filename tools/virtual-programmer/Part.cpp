@@ -1,5 +1,7 @@
 #include "Part.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QString>
 
 namespace {
@@ -19,7 +21,7 @@ constexpr Part::FuseBit lowBit(int bit)
 const std::array<Part, 7> parts = {{
     // name, signature, flash, page, EEPROM, page, calibration, factory fuses, fuse bits, lock bits, SPIEN, EESAVE,
     // RSTDISBL and DWEN, CKDIV8, CKSEL, oscillators
-    {QLatin1String("ATmega16"),
+    {QStringLiteral("ATmega16"),
      {0x1E, 0x94, 0x03},
      16384,
      128,
@@ -35,7 +37,7 @@ const std::array<Part, 7> parts = {{
      0x00,
      0x0F,
      {0, 1000000, 2000000, 4000000, 8000000}},
-    {QLatin1String("ATmega8"),
+    {QStringLiteral("ATmega8"),
      {0x1E, 0x93, 0x07},
      8192,
      64,
@@ -51,7 +53,7 @@ const std::array<Part, 7> parts = {{
      0x00,
      0x0F,
      {0, 1000000, 2000000, 4000000, 8000000}},
-    {QLatin1String("ATmega328P"),
+    {QStringLiteral("ATmega328P"),
      {0x1E, 0x95, 0x0F},
      32768,
      128,
@@ -67,7 +69,7 @@ const std::array<Part, 7> parts = {{
      0x80,
      0x0F,
      {0, 0, 8000000, 128000}},
-    {QLatin1String("ATmega2560"),
+    {QStringLiteral("ATmega2560"),
      {0x1E, 0x98, 0x01},
      262144,
      256,
@@ -83,7 +85,7 @@ const std::array<Part, 7> parts = {{
      0x80,
      0x0F,
      {0, 0, 8000000, 128000}},
-    {QLatin1String("ATtiny13A"),
+    {QStringLiteral("ATtiny13A"),
      {0x1E, 0x90, 0x07},
      1024,
      32,
@@ -99,7 +101,7 @@ const std::array<Part, 7> parts = {{
      0x10,
      0x03,
      {0, 4800000, 9600000, 128000}},
-    {QLatin1String("ATtiny85"),
+    {QStringLiteral("ATtiny85"),
      {0x1E, 0x93, 0x0B},
      8192,
      64,
@@ -115,7 +117,7 @@ const std::array<Part, 7> parts = {{
      0x80,
      0x0F,
      {0, 16000000, 8000000, 1600000, 128000}},
-    {QLatin1String("ATtiny2313A"),
+    {QStringLiteral("ATtiny2313A"),
      {0x1E, 0x91, 0x0A},
      2048,
      32,
@@ -135,6 +137,19 @@ const std::array<Part, 7> parts = {{
 
 } // namespace
 
+ChipShape Part::shape() const
+{
+    const auto listed = [](const std::array<quint8, FuseCount>& bytes) {
+        return QVector<quint8>(bytes.begin(), bytes.end());
+    };
+    return {name,
+            {QByteArray(flashSize, '\xFF'), QByteArray(eepromSize, '\xFF'), listed(factoryFuses), QByteArray(1, '\xFF'),
+             QByteArray()},
+            {QStringLiteral("low"), QStringLiteral("high"), QStringLiteral("extended")},
+            listed(fuseBits),
+            QByteArray(1, static_cast<char>(lockBits))};
+}
+
 const Part* Part::find(const QString& name)
 {
     for (const Part& part : parts) {
@@ -142,6 +157,52 @@ const Part* Part::find(const QString& name)
             return &part;
     }
     return nullptr;
+}
+
+std::optional<Part> Part::described(const QJsonObject& description)
+{
+    if (!description.value(QLatin1String("interfaces")).toArray().contains(QStringLiteral("ISP")))
+        return std::nullopt;
+    constexpr int clock = 1000000; // Hz
+    constexpr int calibrationSize = 4;
+    Part part {};
+    part.name = description.value(QLatin1String("mcu")).toString();
+    const QByteArray signature =
+        QByteArray::fromHex(description.value(QLatin1String("signature")).toString().toLatin1()).leftJustified(3);
+    std::copy_n(signature.begin(), part.signature.size(), part.signature.begin());
+    part.flashSize = description.value(QLatin1String("flash")).toInt();
+    part.eepromSize = description.value(QLatin1String("eeprom")).toInt();
+    part.calibrationSize = calibrationSize;
+    part.factoryFuses = {0xFF, 0xFF, 0xFF};
+    part.oscillators = {clock};
+    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
+    for (const QJsonValue& byte : bytes) {
+        const QString id = byte[QLatin1String("id")].toString();
+        const auto index =
+            QStringList {QStringLiteral("lfuse"), QStringLiteral("hfuse"), QStringLiteral("efuse")}.indexOf(id);
+        const QJsonArray bits = byte[QLatin1String("bits")].toArray();
+        for (int i = 0; i < bits.size(); ++i) {
+            const auto mask = static_cast<quint8>(0x80 >> i);
+            const QString bit = bits[i][QLatin1String("name")].toString();
+            if (bit == QLatin1String("NOT USED"))
+                continue;
+            if (index < 0) {
+                part.lockBits |= id == QLatin1String("lock") ? mask : quint8 {0};
+                continue;
+            }
+            const auto fuse = static_cast<Fuse>(index);
+            part.fuseBits[fuse] |= mask;
+            if (bits[i][QLatin1String("default")].toInt() == 0)
+                part.factoryFuses[fuse] &= static_cast<quint8>(~mask);
+            if (bit == QLatin1String("SPIEN"))
+                part.spien = {fuse, mask};
+            if (bit == QLatin1String("EESAVE"))
+                part.eesave = {fuse, mask};
+            if (fuse == HighFuse && (bit == QLatin1String("RSTDISBL") || bit == QLatin1String("DWEN")))
+                part.resetPin |= mask;
+        }
+    }
+    return part;
 }
 
 QStringList Part::names()

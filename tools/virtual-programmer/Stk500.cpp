@@ -1,5 +1,7 @@
 #include "Stk500.h"
 
+#include <algorithm>
+
 namespace {
 
 // Commands, answers and parameters of AVR061.
@@ -150,6 +152,9 @@ QByteArray Stk500::execute(const QByteArray& command)
         return answer();
     case GetParameter:
         return answer(QByteArray(1, static_cast<char>(m_parameters[byte(1)])));
+    case SetDevice: // the description of the part, which this programmer mostly knows already
+        m_chip.setFlashPageSize(wordAt(command, 13, 14));
+        return answer();
     case EnterProgramming:
         return answer({}, m_chip.enterProgramming(bitClock()) ? ok : noDevice);
     case LeaveProgramming:
@@ -169,7 +174,7 @@ QByteArray Stk500::execute(const QByteArray& command)
         return readPage(byte(3), wordAt(command, 1, 2));
     case ReadSignature:
         return answer(readSignature());
-    default: // the description of the part, which this programmer knows already, and synchronisation
+    default: // more of that description, and synchronisation
         return answer();
     }
 }
@@ -189,7 +194,7 @@ QByteArray Stk500::programPage(quint8 memory, const QByteArray& data)
         const int word = m_address + i / 2;
         const int next = 2 * m_address + i + 1;
         instruct(i % 2 == 0 ? 0x40 : 0x48, word, byteAt(data, i));
-        if (i + 1 == data.size() || next % m_chip.part().flashPageSize == 0)
+        if (i + 1 == data.size() || next % std::max(m_chip.flashPageSize(), 2) == 0)
             instruct(0x4C, word);
     }
     return answer();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Chip.h"
+#include "Protocol.h"
 
 #include <QByteArray>
 
@@ -9,22 +10,20 @@
 /// The programmer's side of the STK500 version 1 protocol (Atmel application note AVR061): bytes in, bytes out. It
 /// turns commands into instructions for its chip, which outlives it. Its parameters stay from one connection to the
 /// next, as those of an STK500 do.
-class Stk500
+class Stk500 : public Protocol
 {
 public:
-    static constexpr int syncRequestLength = 2; ///< bytes
-
     explicit Stk500(Chip& chip);
 
-    /// Forgets what the last connection left unfinished.
-    void beginConnection();
+    void beginConnection() override;
 
-    /// Takes the next bytes of the stream, cut anywhere, and returns the answers to the commands they complete.
     /// What is no command, or has no end mark where it belongs, is dropped and answered with STK_NOSYNC.
-    [[nodiscard]] QByteArray receive(const QByteArray& bytes);
+    [[nodiscard]] QByteArray receive(const QByteArray& bytes) override;
 
-    /// How many bytes of flash page data have come in on this connection, those of a page still under way included.
-    [[nodiscard]] int flashBytesReceived() const;
+    [[nodiscard]] int flashBytesReceived() const override;
+
+    /// Who has to wait asks for synchronisation again and again and is confused by more answers than one.
+    [[nodiscard]] int waitingBytes() const override { return 2; }
 
 private:
     [[nodiscard]] QByteArray execute(const QByteArray& command);

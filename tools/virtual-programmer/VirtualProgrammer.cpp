@@ -1,14 +1,15 @@
 #include "VirtualProgrammer.h"
 
-#include "Chip.h"
+#include "Protocol.h"
+#include "Target.h"
 
 #include <QFileInfo>
 #include <QTcpSocket>
 
-VirtualProgrammer::VirtualProgrammer(Chip& chip, QObject* parent)
+VirtualProgrammer::VirtualProgrammer(Target& chip, Protocol& protocol, QObject* parent)
     : QObject(parent)
     , m_chip(chip)
-    , m_protocol(chip)
+    , m_protocol(protocol)
 {
     connect(&m_server, &QTcpServer::newConnection, this, &VirtualProgrammer::serveNext);
 }
@@ -16,12 +17,12 @@ VirtualProgrammer::VirtualProgrammer(Chip& chip, QObject* parent)
 bool VirtualProgrammer::setStateFile(const QString& path, QString& error)
 {
     if (QFileInfo::exists(path)) {
-        m_savedState = ChipState::load(path, m_chip.part(), error);
+        m_savedState = ChipState::load(path, m_chip.shape(), error);
         if (!m_savedState)
             return false;
         m_chip.setState(*m_savedState);
     } else {
-        if (!m_chip.state().save(path, m_chip.part(), error))
+        if (!m_chip.state().save(path, m_chip.shape(), error))
             return false;
         m_savedState = m_chip.state();
     }
@@ -52,8 +53,7 @@ void VirtualProgrammer::serveNext()
     // Queued: a connection may be closed from within onReadyRead().
     connect(m_socket, &QTcpSocket::disconnected, this, &VirtualProgrammer::onDisconnected, Qt::QueuedConnection);
 
-    // Who has to wait asks for synchronisation again and again and is confused by more answers than one.
-    m_socket->skip(qMax<qint64>(0, m_socket->bytesAvailable() - Stk500::syncRequestLength));
+    m_socket->skip(qMax<qint64>(0, m_socket->bytesAvailable() - m_protocol.waitingBytes()));
     // What came in while the connection was waiting is not announced any more, and neither is its end.
     if (m_socket->state() == QAbstractSocket::UnconnectedState)
         QMetaObject::invokeMethod(this, &VirtualProgrammer::onDisconnected, Qt::QueuedConnection);
@@ -96,7 +96,7 @@ void VirtualProgrammer::saveState()
     if (!m_savedState || *m_savedState == m_chip.state())
         return;
     QString error;
-    if (m_chip.state().save(m_statePath, m_chip.part(), error))
+    if (m_chip.state().save(m_statePath, m_chip.shape(), error))
         m_savedState = m_chip.state();
     else
         qCritical("%s", qUtf8Printable(error));

@@ -1,30 +1,31 @@
 #pragma once
 
 #include "ChipState.h"
-#include "Stk500.h"
 
 #include <QObject>
 #include <QTcpServer>
 
 #include <optional>
 
+class Protocol;
 class QTcpSocket;
+class Target;
 
 /// Offers one chip to whoever connects on this machine, one connection after another; a second one waits until the
-/// first is closed. The chip outlives it.
+/// first is closed. The chip and the protocol outlive it.
 class VirtualProgrammer : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit VirtualProgrammer(Chip& chip, QObject* parent = nullptr);
+    VirtualProgrammer(Target& chip, Protocol& protocol, QObject* parent = nullptr);
 
     /// Keeps the memories of the chip in the file at `path`: takes them over if the file exists, creates it if not,
     /// and rewrites it whenever programming ends with changed memories. False, and `error` says why, when the file
     /// is not usable; it is then as before.
     [[nodiscard]] bool setStateFile(const QString& path, QString& error);
 
-    /// Brings back a chip that fuses have shut off, see Chip::rescue(); the state file follows.
+    /// Brings back a chip that fuses have shut off, see Target::rescue(); the state file follows.
     void rescueChip();
 
     /// Takes every byte and never answers.
@@ -48,8 +49,8 @@ private:
     void onDisconnected();
     void saveState();
 
-    Chip& m_chip;
-    Stk500 m_protocol;
+    Target& m_chip;
+    Protocol& m_protocol;
     QString m_statePath;
     std::optional<ChipState> m_savedState;
     bool m_isSilent = false;

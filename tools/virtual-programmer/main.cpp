@@ -1,4 +1,7 @@
 #include "Chip.h"
+#include "Description.h"
+#include "JtagMkII.h"
+#include "Stk500.h"
 #include "VirtualProgrammer.h"
 
 #include <QCommandLineParser>
@@ -6,6 +9,7 @@
 #include <QTextStream>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -18,6 +22,40 @@ int fail(int status, const QString& message)
     QTextStream(stderr) << message << Qt::endl;
     return status;
 }
+
+/// Where the descriptions of microcontrollers may be: in the work folder, or where they were installed.
+QStringList descriptionFolders()
+{
+    const QString here = QCoreApplication::applicationDirPath();
+    return {QStringLiteral("mcu"), here + QStringLiteral("/mcu"), here + QStringLiteral("/../share/korvel/mcu")};
+}
+
+/// The chip that `name` stands for, with the programmer for it.
+struct Bench {
+    explicit Bench(const QString& name)
+    {
+        const Part* part = Part::find(name);
+        const QJsonObject description = part ? QJsonObject() : readDescription(name, descriptionFolders());
+        described = Part::described(description);
+        if (part || described) {
+            auto classic = std::make_unique<Chip>(part ? *part : *described);
+            withClock = part ? classic.get() : nullptr;
+            protocol = std::make_unique<Stk500>(*classic);
+            chip = std::move(classic);
+        } else if (const auto mapped = MappedPart::described(description)) {
+            auto modern = std::make_unique<MappedChip>(*mapped);
+            programmer = mapped->interface == MappedPart::Interface::Updi ? "jtag2updi" : "jtag2pdi";
+            protocol = std::make_unique<JtagMkII>(*modern);
+            chip = std::move(modern);
+        }
+    }
+
+    std::optional<Part> described; ///< that the chip refers to
+    std::unique_ptr<Target> chip; ///< null: there is no such part
+    std::unique_ptr<Protocol> protocol;
+    Chip* withClock = nullptr; ///< the same chip, if it can have a clock from outside
+    const char* programmer = "stk500v1"; ///< avrdude's "-c"
+};
 
 /// The number that `text` stands for, decimal or hexadecimal with 0x, from `minimum` to `maximum`.
 std::optional<int> number(const QString& text, int minimum, int maximum)
@@ -37,7 +75,9 @@ int main(int argc, char* argv[])
                                         QStringLiteral("Listen on this port of 127.0.0.1; 0 picks a free one."),
                                         QStringLiteral("port"), QStringLiteral("7016"));
     const QCommandLineOption partOption(QStringLiteral("part"),
-                                        QStringLiteral("The chip: %1.").arg(Part::names().join(QStringLiteral(", "))),
+                                        QStringLiteral("The chip: %1, or any with ISP, UPDI or PDI that Korvel has a "
+                                                       "description of, such as ATtiny1614.")
+                                            .arg(Part::names().join(QStringLiteral(", "))),
                                         QStringLiteral("part"), QStringLiteral("ATmega16"));
     const QCommandLineOption stateOption(QStringLiteral("state"),
                                          QStringLiteral("Keep the memories of the chip in this file across starts."),
@@ -50,7 +90,7 @@ int main(int argc, char* argv[])
     const QCommandLineOption rescueOption(
         QStringLiteral("rescue"),
         QStringLiteral("Start the chip with factory fuses, as after high-voltage programming. Lock bits protect fuses "
-                       "too: a chip with LB1 or LB2 programmed is erased first; any other keeps its memories."));
+                       "too: a locked chip is erased first; any other keeps its memories."));
     const QCommandLineOption silentOption(QStringLiteral("silent"),
                                           QStringLiteral("Accept connections and never answer."));
     const QCommandLineOption flipOption(QStringLiteral("flip"),
@@ -62,7 +102,8 @@ int main(int argc, char* argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A programmer and an AVR chip in one, for avrdude's\n"
-                                                    "-c stk500v1 -P net:127.0.0.1:7016"));
+                                                    "-c stk500v1 -P net:127.0.0.1:7016, with UPDI -c jtag2updi,\n"
+                                                    "with PDI -c jtag2pdi"));
     const QCommandLineOption helpOption = parser.addHelpOption();
     parser.addOptions(
         {portOption, partOption, stateOption, clockOption, rescueOption, silentOption, flipOption, unplugOption});
@@ -74,23 +115,27 @@ int main(int argc, char* argv[])
         return fail(exitUsage,
                     QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
 
-    const Part* part = Part::find(parser.value(partOption));
-    if (!part)
-        return fail(exitUsage,
-                    QStringLiteral("Unknown part '%1'. Known parts: %2.")
-                        .arg(parser.value(partOption), Part::names().join(QStringLiteral(", "))));
+    const Bench bench(parser.value(partOption));
+    if (!bench.chip)
+        return fail(
+            exitUsage,
+            QStringLiteral("Unknown part '%1'. Known parts: %2, and those with ISP, UPDI or PDI whose descriptions "
+                           "are in the folder mcu.")
+                .arg(parser.value(partOption), Part::names().join(QStringLiteral(", "))));
     const std::optional<int> port = number(parser.value(portOption), 0, std::numeric_limits<quint16>::max());
     if (!port)
         return fail(exitUsage, QStringLiteral("'%1' is no port.").arg(parser.value(portOption)));
 
-    Chip chip(*part);
-    VirtualProgrammer programmer(chip);
+    Target& chip = *bench.chip;
+    const QString name = chip.shape().part;
+    VirtualProgrammer programmer(chip, *bench.protocol);
     programmer.setSilent(parser.isSet(silentOption));
     if (parser.isSet(flipOption)) {
-        const std::optional<int> address = number(parser.value(flipOption), 0, part->flashSize - 1);
+        const std::optional<int> address =
+            number(parser.value(flipOption), 0, static_cast<int>(chip.state().flash.size()) - 1);
         if (!address)
             return fail(exitUsage,
-                        QStringLiteral("'%1' is no flash address of %2.").arg(parser.value(flipOption), part->name));
+                        QStringLiteral("'%1' is no flash address of %2.").arg(parser.value(flipOption), name));
         chip.setFaultyAddress(*address);
     }
     if (parser.isSet(unplugOption)) {
@@ -106,7 +151,9 @@ int main(int argc, char* argv[])
                         QStringLiteral("'%1' is no clock frequency in Hz, from 1 to %2.")
                             .arg(parser.value(clockOption))
                             .arg(fastestClock));
-        chip.setClockInput(*frequency);
+        if (!bench.withClock)
+            return fail(exitUsage, QStringLiteral("%1 takes no clock from outside here.").arg(name));
+        bench.withClock->setClockInput(*frequency);
     }
     QString error;
     if (parser.isSet(stateOption) && !programmer.setStateFile(parser.value(stateOption), error))
@@ -117,7 +164,9 @@ int main(int argc, char* argv[])
         return fail(exitFailure,
                     QStringLiteral("Cannot listen on 127.0.0.1:%1: %2").arg(*port).arg(programmer.errorString()));
 
-    QTextStream(stdout) << QStringLiteral("Listening on 127.0.0.1:%1, part %2").arg(programmer.port()).arg(part->name)
-                        << Qt::endl;
+    QString listening = QStringLiteral("Listening on 127.0.0.1:%1, part %2").arg(programmer.port()).arg(name);
+    if (QLatin1String(bench.programmer) != QLatin1String("stk500v1"))
+        listening += QStringLiteral(", avrdude's programmer %1").arg(QLatin1String(bench.programmer));
+    QTextStream(stdout) << listening << Qt::endl;
     return QCoreApplication::exec();
 }

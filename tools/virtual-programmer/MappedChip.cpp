@@ -1,0 +1,145 @@
+#include "MappedChip.h"
+
+MappedChip::MappedChip(MappedPart part)
+    : Target(part.shape)
+    , m_part(std::move(part))
+{
+}
+
+bool MappedChip::enterProgramming()
+{
+    const auto& pin = m_part.updiPin;
+    m_isProgramming = pin.fuse < 0 || (m_state.fuses[pin.fuse] & pin.mask) != 0;
+    return m_isProgramming;
+}
+
+void MappedChip::leaveProgramming()
+{
+    m_isProgramming = false;
+}
+
+void MappedChip::rescue()
+{
+    if (isLocked())
+        eraseChip();
+    m_state.fuses = m_shape.factory.fuses;
+}
+
+bool MappedChip::isLocked() const
+{
+    return m_state.lock != m_shape.factory.lock;
+}
+
+std::optional<QByteArray> MappedChip::read(quint32 address, int size) const
+{
+    const auto found = find(address, size);
+    if (!found)
+        return std::nullopt;
+    switch (found->memory) {
+    case MappedPart::Flash:
+        return m_state.flash.mid(found->offset, size);
+    case MappedPart::Eeprom:
+        return m_state.eeprom.mid(found->offset, size);
+    case MappedPart::Fuses:
+        return QByteArray(reinterpret_cast<const char*>(m_state.fuses.constData()) + found->offset, size);
+    case MappedPart::Lock:
+        return m_state.lock.mid(found->offset, size);
+    case MappedPart::UserRow:
+        return m_state.userRow.mid(found->offset, size);
+    case MappedPart::Signature:
+        return m_part.signature.mid(found->offset, size);
+    default: // each chip has its own serial number and calibration; these are this one's
+        break;
+    }
+    QByteArray bytes;
+    for (int i = 0; i < size; ++i)
+        bytes += static_cast<char>(0xA0 + (found->offset + i) % 0x20);
+    return bytes;
+}
+
+bool MappedChip::write(quint32 address, const QByteArray& bytes)
+{
+    const auto found = find(address, static_cast<int>(bytes.size()));
+    if (!found)
+        return false;
+    for (int i = 0; i < bytes.size(); ++i) {
+        const int offset = found->offset + i;
+        const char byte = bytes.at(i);
+        switch (found->memory) {
+        case MappedPart::Flash:
+            writeFlash(offset, byte);
+            break;
+        case MappedPart::Eeprom:
+            m_state.eeprom[offset] = byte;
+            break;
+        case MappedPart::Fuses: {
+            const quint8 bits = m_shape.fuseBits[offset];
+            m_state.fuses[offset] = static_cast<quint8>((m_state.fuses[offset] & ~bits) | (byte & bits));
+            break;
+        }
+        case MappedPart::Lock:
+            m_state.lock[offset] = byte;
+            break;
+        case MappedPart::UserRow:
+            m_state.userRow[offset] = byte;
+            break;
+        default:
+            return false;
+        }
+    }
+    return true;
+}
+
+bool MappedChip::erase(Erase what, quint32 address)
+{
+    const auto found = find(address, 1);
+    const auto erasePage = [&found](MappedPart::Memory memory, QByteArray& bytes, int size) {
+        if (!found || found->memory != memory)
+            return false;
+        const int begin = found->offset - found->offset % size;
+        bytes.replace(begin, size, QByteArray(size, '\xFF'));
+        return true;
+    };
+    switch (what) {
+    case Erase::Chip:
+        eraseChip();
+        return true;
+    case Erase::Flash:
+        m_state.flash.fill('\xFF');
+        return true;
+    case Erase::Eeprom:
+        m_state.eeprom.fill('\xFF');
+        return true;
+    case Erase::UserRow:
+        m_state.userRow.fill('\xFF');
+        return true;
+    case Erase::FlashPage:
+        return erasePage(MappedPart::Flash, m_state.flash, m_part.flashPageSize);
+    case Erase::EepromPage:
+        return erasePage(MappedPart::Eeprom, m_state.eeprom, m_part.eepromPageSize);
+    }
+    return false;
+}
+
+std::optional<MappedChip::Found> MappedChip::find(quint32 address, int size) const
+{
+    for (int memory = 0; memory < MappedPart::MemoryCount; ++memory) {
+        const MappedPart::Place& place = m_part.places[memory];
+        const qint64 offset = static_cast<qint64>(address) - place.address;
+        if (offset >= 0 && size >= 0 && offset + size <= place.size)
+            return Found {static_cast<MappedPart::Memory>(memory), static_cast<int>(offset)};
+    }
+    return std::nullopt;
+}
+
+void MappedChip::eraseChip()
+{
+    const auto& eesave = m_part.eesave;
+    const bool isSet = eesave.fuse >= 0 && (m_state.fuses[eesave.fuse] & eesave.mask) != 0;
+    const bool keepsEeprom =
+        eesave.fuse >= 0 && isSet == m_part.eesaveKeepsAt1 && !(isLocked() && m_part.lockedLosesEeprom);
+    m_state.flash.fill('\xFF');
+    if (!keepsEeprom)
+        m_state.eeprom.fill('\xFF');
+    m_state.lock = m_shape.factory.lock;
+}
