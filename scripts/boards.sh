@@ -35,7 +35,8 @@ while [ "$board" -le "$count" ]; do
     [ "$status" -eq 0 ] && break
     [ "$status" -eq 137 ] || { echo "Ended with $status; see build/boards/log"; exit 1; }
     board=$(tail -n 1 shown | cut -f 1)
-    pkill -f -- "--port=$port" || true # that the killed one has left behind
+    pkill -f -- "--port=$port" || true # that the killed one has left behind, as it has its avrdude
+    pkill -KILL -f "net:127.0.0.1:$port" || true
     sleep 1
     board=$((board + 1))
 done
