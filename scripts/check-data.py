@@ -209,7 +209,9 @@ for name, entry in programmers.items():
     check(identifier in optional or is_known_rightly(identifier in ports, is_newer), name, 'needs a newer avrdude')
     port = 'usb' if '-P ' in arguments else (ports.get(identifier)
                                                     or ('usb' if 'usb' in tells.get(identifier, {}) else 'com'))
-    expected = {'id': identifier, 'arguments': arguments, 'port': port, **tells.get(identifier, {}),
+    # One that is reached in another way than by USB has no numbers there.
+    told = {key: value for key, value in tells.get(identifier, {}).items() if key != 'usb' or '-P ' not in arguments}
+    expected = {'id': identifier, 'arguments': arguments, 'port': port, **told,
                 **({'avrdude': '8'} if is_newer else {}), **more.get(identifier, {})}
     check(entry == expected, name, 'is', entry, 'instead of', expected)
     check((identifier, arguments) not in offered, name, 'is there twice')

@@ -123,6 +123,66 @@ private slots:
         }
     }
 
+    /// A desk with another chip, which is chosen.
+    static std::unique_ptr<Desk> deskWith(const QString& part, const QString& programmer)
+    {
+        auto desk = std::make_unique<Desk>("--part=" + part);
+        desk->folder.copy({"mcu/" + part + ".json"});
+        const QString entry = "programmer/" + programmer + ".json";
+        desk->folder.write(entry, desk->folder.read(DATA_FOLDER "/" + entry).replace(":7016", desk->port));
+        desk->window = nullptr; // what it lists it has read
+        desk->window = std::make_unique<KorvelApp>();
+        desk->window->show();
+        desk->avrdude = desk->window->findChild<Avrdude*>();
+        desk->window->findChild<SettingsView*>()->programmer()->setCurrentText(programmer);
+        emit desk->window->findChild<AttributesView*>()->mcuList()->textActivated(part);
+        desk->boxes.take();
+        return desk;
+    }
+
+    void everyKindOfChip()
+    {
+        for (const auto& [part, programmer] : {std::pair<QString, QString>("ATmega88", "Virtual programmer"),
+                                               {"ATtiny1614", "Virtual programmer (UPDI)"},
+                                               {"ATmega4809", "Virtual programmer (UPDI)"},
+                                               {"AVR128DA48", "Virtual programmer (UPDI)"},
+                                               {"ATxmega128A4U", "Virtual programmer (PDI)"}}) {
+            const auto desk = deskWith(part, programmer);
+            const auto* flash = desk->window->findChild<FlashView*>();
+            flash->writePath()->setText("demo/blink.hex");
+            QCOMPARE(part + desk->boxAfter(flash->writeButton()),
+                     part + "FLASH: FLASH written successfully.\nFLASH verified successfully.");
+            const auto* buttons = desk->window->findChild<FusesButtonsView*>();
+            const QString fuses = shownFuses(*desk->window);
+            QCOMPARE(desk->boxAfter(buttons->writeButton()), QString("Information: Fuse bytes written successfully."));
+            QCOMPARE(desk->boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
+            QCOMPARE(part + shownFuses(*desk->window), part + fuses);
+            QCOMPARE(desk->boxAfter(desk->window->findChild<AttributesView*>()->eraseButton()),
+                     QString("MCU: MCU erased successfully."));
+            QVERIFY(desk->boxAfter(flash->writeVerifyButton()).startsWith("AVRDUDE, warning: Verification error. + "));
+        }
+    }
+
+    void modernChipThatAnswersNoMore()
+    {
+        const QString lost =
+            "AVRDUDE, warning: See the message in the dialog box. + %1 failed.\n\nIs the plug the right way round";
+        for (const auto& [byte, value] : {std::pair(4, "f2"), {8, "00"}}) { // the UPDI pin, the lock
+            const auto desk = deskWith("ATtiny1614", "Virtual programmer (UPDI)");
+            const auto* buttons = desk->window->findChild<FusesButtonsView*>();
+            desk->boxes.button = QMessageBox::Yes;
+            QTest::keyClicks(desk->window->findChildren<FusesByteView*>()[byte]->value(), value);
+            QVERIFY(desk->boxAfter(buttons->writeButton()).contains("written successfully."));
+            const QString read = desk->boxAfter(buttons->readButton());
+            QVERIFY2(read.startsWith(lost.arg("Reading the fuse bytes")), qPrintable(read));
+            const QString erased = desk->boxAfter(desk->window->findChild<AttributesView*>()->eraseButton());
+            QVERIFY2(erased.startsWith(lost.arg("Erasing the chip")) && erased.contains("It may be locked: "),
+                     qPrintable(erased));
+            desk->startProgrammer("--part=ATtiny1614 --rescue");
+            QCOMPARE(desk->boxAfter(buttons->readButton()), QString("FUSES: Fuse bytes read successfully."));
+        }
+    }
+
     void failures()
     {
         for (const auto& [options, part, message, advice] :

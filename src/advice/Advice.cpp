@@ -214,8 +214,25 @@ QString tooFast(const Case& of)
         + inBrackets(of.run.settings.speed.section(QStringLiteral(" ("), 0, 0));
 }
 
+/// A chip with UPDI, which needs no clock, but its pin and an open lock.
+QStringList noUpdiChip(const Case& of)
+{
+    QStringList lines {
+        say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
+        say(QT_TRANSLATE_NOOP("Advice",
+                              "Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI "
+                              "brings it back."))};
+    if (of.programmer.id == QLatin1String("jtag2updi") || of.programmer.id == QLatin1String("nanoevery"))
+        lines += say(QT_TRANSLATE_NOOP("Advice",
+                                       "It may be locked: with this programmer no avrdude frees it, with SerialUPDI or "
+                                       "Atmel-ICE Erase all does."));
+    return lines;
+}
+
 QStringList noChip(const Case& of)
 {
+    if (of.partInterfaces().contains(QLatin1String("UPDI")))
+        return noUpdiChip(of);
     return {say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
             tooFast(of),
             say(QT_TRANSLATE_NOOP("Advice",
@@ -278,7 +295,8 @@ constexpr Row rows[] = {
     {"part \"?\\S+\"? not found|valid parts are", unknownPart},
     {"find programmer id", unknownProgrammer},
     {"device (is )?locked|for device to unlock", lockedChip},
-    {"initialization failed|no device\\r?$|target does(n't| not) answer|invalid device signature|"
+    {"rsp_illegal_mcu_state|rsp_no_target_power|initialization failed|no device\\r?$|target does(n't| not) "
+     "answer|invalid device signature|"
      "responding to program enable|device not responding|signature = (0x|)(ff ?ff ?ff|00 ?00 ?00)",
      noChip},
     {"not in sync|not responding|failed to synchronize|getsync\\(\\)|\\(\\): timeout|error: timeout|timeout/error",

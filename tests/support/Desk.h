@@ -19,6 +19,12 @@ struct Desk {
         window->findChild<SettingsView*>()->programmer()->setCurrentText("Virtual programmer");
     }
 
+    ~Desk()
+    {
+        programmer.kill();
+        programmer.waitForFinished();
+    }
+
     /// Starts the virtual programmer, again where it runs already; the chip's memories stay.
     void startProgrammer(const QString& options)
     {

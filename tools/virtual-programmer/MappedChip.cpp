@@ -9,6 +9,7 @@ MappedChip::MappedChip(MappedPart part)
 bool MappedChip::enterProgramming()
 {
     const auto& pin = m_part.updiPin;
+    m_isLocked = m_state.lock != m_shape.factory.lock;
     m_isProgramming = pin.fuse < 0 || (m_state.fuses[pin.fuse] & pin.mask) != 0;
     return m_isProgramming;
 }
@@ -20,14 +21,11 @@ void MappedChip::leaveProgramming()
 
 void MappedChip::rescue()
 {
-    if (isLocked())
+    enterProgramming();
+    if (m_isLocked)
         eraseChip();
+    leaveProgramming();
     m_state.fuses = m_shape.factory.fuses;
-}
-
-bool MappedChip::isLocked() const
-{
-    return m_state.lock != m_shape.factory.lock;
 }
 
 std::optional<QByteArray> MappedChip::read(quint32 address, int size) const
@@ -137,9 +135,10 @@ void MappedChip::eraseChip()
     const auto& eesave = m_part.eesave;
     const bool isSet = eesave.fuse >= 0 && (m_state.fuses[eesave.fuse] & eesave.mask) != 0;
     const bool keepsEeprom =
-        eesave.fuse >= 0 && isSet == m_part.eesaveKeepsAt1 && !(isLocked() && m_part.lockedLosesEeprom);
+        eesave.fuse >= 0 && isSet == m_part.eesaveKeepsAt1 && !(m_isLocked && m_part.lockedLosesEeprom);
     m_state.flash.fill('\xFF');
     if (!keepsEeprom)
         m_state.eeprom.fill('\xFF');
     m_state.lock = m_shape.factory.lock;
+    m_isLocked = false;
 }

@@ -23,8 +23,8 @@ public:
     /// No lock protects the fuses from high voltage, which erases the chip all the same: there is no other way in.
     void rescue() override;
 
-    /// Whether the lock keeps all but an erase of the whole chip from the programmer.
-    [[nodiscard]] bool isLocked() const;
+    /// Whether the lock, as it was when the chip started, keeps all but an erase of the whole chip from the programmer.
+    [[nodiscard]] bool isLocked() const { return m_isLocked; }
 
     /// The `size` bytes from `address` on. Nothing where not all of them lie in one memory.
     [[nodiscard]] std::optional<QByteArray> read(quint32 address, int size) const;
@@ -45,4 +45,5 @@ private:
     void eraseChip();
 
     const MappedPart m_part;
+    bool m_isLocked = false;
 };
