@@ -1,6 +1,8 @@
 // Harnesses for what reads more than plain texts out of what comes from outside: READER names the function that gets
 // the input.
 
+#include "Description.h"
+#include "JtagMkII.h"
 #include "app/KorvelApp.h"
 #include "app/log/AvrdudeMessage.h"
 #include "app/record/SettingsRecord.h"
@@ -77,6 +79,34 @@ void profile(Fuzz& fuzz, const QByteArray& input)
     for (const QString& file : FuseRequests::files(record.fusesBytes))
         isSafe = isSafe && !file.contains('/') && !file.contains('\\');
     if (!isSafe)
+        std::abort();
+}
+
+/// Messages to a virtual programmer, the chip and their lengths in front: as they are, and with a right frame.
+void protocol(Fuzz& /*fuzz*/, const QByteArray& input)
+{
+    static const QStringList folders {DATA_FOLDER "/mcu"};
+    static const std::array parts {*MappedPart::described(readDescription("ATtiny1614", folders)),
+                                   *MappedPart::described(readDescription("AVR128DA48", folders)),
+                                   *MappedPart::described(readDescription("ATxmega128A4U", folders))};
+    MappedChip chip(parts[input.isEmpty() ? 0 : static_cast<uchar>(input[0]) % parts.size()]);
+    JtagMkII programmer(chip);
+    static_cast<void>(programmer.receive(input));
+    programmer.beginConnection();
+    for (int at = 1; at < input.size();) {
+        const QByteArray body = input.mid(at + 1, static_cast<uchar>(input[at]));
+        at += 1 + static_cast<int>(body.size());
+        QByteArray frame =
+            QByteArray("\x1B\0\0", 3) + static_cast<char>(body.size()) + QByteArray(3, '\0') + '\x0E' + body;
+        const quint16 sum = JtagMkII::checksumOf(frame);
+        frame += static_cast<char>(sum);
+        if (programmer.receive(frame + static_cast<char>(sum >> 8)).isEmpty())
+            std::abort(); // what is whole has an answer
+    }
+    const ChipState& state = chip.state();
+    const ChipState& factory = chip.shape().factory;
+    if (state.flash.size() != factory.flash.size() || state.eeprom.size() != factory.eeprom.size()
+        || state.lock.size() != factory.lock.size() || state.fuses.size() != factory.fuses.size())
         std::abort();
 }
 

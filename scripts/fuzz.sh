@@ -8,7 +8,7 @@ export LC_ALL=C.UTF-8
 seconds=${1:-600}
 [ $# -gt 0 ] && shift
 readers=("$@")
-[ ${#readers[@]} -gt 0 ] || readers=(settings profile programmer language description translation update output firmware)
+[ ${#readers[@]} -gt 0 ] || readers=(settings profile programmer language description translation update output firmware protocol)
 
 need_packages "${build_packages[@]}" clang
 version=$(clang++ -dumpversion)
@@ -28,7 +28,8 @@ seed description ../../data/mcu/ATmega16.json ../../data/mcu/ATtiny10.json
 seed translation ../../translations/Deutsch.ts
 seed firmware ../../data/demo/* ../../tests/data/*.elf
 printf 'S105000001FEFB\nS5030001FB\nS9030000FC\n' >corpus/firmware/srecords
-mkdir -p corpus/update corpus/output
+mkdir -p corpus/update corpus/output corpus/protocol
+printf '\0\1\24\12\5\264\3\0\0\0\0\21\0\0\14\4\300\2\0\0\0\0\200\0\0\1\2\6\64\0\0\0\0\0' >corpus/protocol/session
 echo '{"version": "6.0", "url": "https://korvel.example", "url_linux": ""}' >corpus/update/newer
 echo 'avrdude: error: program enable: target does not answer. Device signature = 0xffffff' >corpus/output/error
 
