@@ -16,6 +16,17 @@ class ProfilesPresenter;
 /// The writing of one board, from the first press of Write to the box that closes it or the failure of a step. Held by
 /// ProfilesPresenter, which runs the steps; a new one takes its place with the next board.
 struct BoardWriting {
+    /// Before the chip is touched: opens the record and takes the serial number, so that no other board gets it.
+    /// Returns what keeps the board from being written, for the user; empty when nothing does.
+    [[nodiscard]] QString begin();
+
+    /// The board has a verdict: its line goes into the record, and the number of one that has failed back into the
+    /// profile. Returns what could not be done, for the user.
+    QStringList end(bool isGood, const QString& message);
+
+    /// Says that the record lacks the line of this board.
+    [[nodiscard]] QString missingLine() const;
+
     enum class Area { Flash, Eeprom, Fuses };
     using Step = void (ProfilesPresenter::*)();
 

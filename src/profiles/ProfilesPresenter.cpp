@@ -366,41 +366,11 @@ bool ProfilesPresenter::beginBoard()
     board.settings = m_avrdude.settings();
     board.profile = m_profile;
     board.production = m_production;
-    if (!m_production.boardLog.isEmpty()) {
-        board.record = std::make_unique<BoardLog>();
-        if (!board.record->open(m_production.boardLog)) {
-            tellNoBoard(&m_programmingView,
-                        tr("The record of the boards cannot be written: %1").arg(fullPath(m_production.boardLog)));
-            return false;
-        }
-        board.line.profile = m_profile;
-        board.line.part = board.settings.mcuName;
-        const auto addArea = [&board](bool isTicked, const MemoryKind& kind) {
-            const QString file = MemoryRequest::from(kind.commandFor(board.settings).value_or(QStringList())).file;
-            board.line.files += isTicked ? BoardLog::nameAndSum(file) : QStringList {QString(), QString()};
-            if (isTicked)
-                board.line.areas += QLatin1String(kind.title);
-        };
-        addArea(m_selectView.flash()->isChecked(), MemoryKind::flash);
-        addArea(m_selectView.eeprom()->isChecked(), MemoryKind::eeprom);
-        if (m_selectView.fuses()->isChecked())
-            board.line.areas += QStringLiteral("FUSES");
+    const QString fault = board.begin();
+    if (!fault.isEmpty()) {
+        tellNoBoard(&m_programmingView, fault);
+        return false;
     }
-    if (m_production.serial) {
-        // In the work folder: avrdude takes such a name on every system.
-        board.numberFile = std::make_unique<QTemporaryFile>(QStringLiteral("number-XXXXXX.hex"));
-        const QByteArray content = m_production.serial->intelHex();
-        const bool isWritten = board.numberFile->open() && board.numberFile->write(content) == content.size();
-        board.numberFile->close();
-        // Taken before the chip gets it: whatever happens from now on, no other board will have it too.
-        if (!isWritten || !m_production.serial->take(profileFile(m_profile))) {
-            tellNoBoard(&m_programmingView,
-                        tr("The next number cannot be saved in the profile: %1").arg(fullPath(profileFile(m_profile))));
-            return false;
-        }
-    }
-    board.isOpen = true;
-    board.time.start();
     m_board = std::move(board);
     m_boardView.showBoard(BoardView::Verdict::Pending, tr("Board %1").arg(m_good + m_failed + 1), countsText());
     return true;
@@ -410,36 +380,24 @@ void ProfilesPresenter::endBoard(bool isGood, const QString& message)
 {
     if (!m_board.isOpen)
         return;
-    m_board.isOpen = false;
     noteSignature();
-    const qint64 milliseconds = m_board.time.elapsed();
-    m_board.numberFile.reset();
-    if (const auto& serial = m_board.production.serial) {
-        const QString file = profileFile(m_board.profile);
-        if (isGood)
-            m_board.line.serialNumber = QString::number(serial->next);
-        else if (!serial->giveBack(file))
-            m_avrdude.log().appendLine(tr("The number %1 will be left out.").arg(serial->next));
-        if (m_board.profile == m_profile)
-            m_production = Production::read(file, m_avrdude.settings());
-    }
-    m_board.line.verdict = isGood ? QStringLiteral("good") : QStringLiteral("failed");
-    m_board.line.message = message;
-    m_board.line.milliseconds = milliseconds;
-    m_board.isRecorded = !m_board.record || m_board.record->append(m_board.line);
-    m_board.record.reset();
-    if (!m_board.isRecorded)
-        m_avrdude.log().appendLine(tr("The line of this board is missing in %1.").arg(m_board.production.boardLog));
+    const QStringList remarks = m_board.end(isGood, message);
+    for (const QString& remark : remarks)
+        m_avrdude.log().appendLine(remark);
+    if (m_board.production.serial && m_board.profile == m_profile)
+        m_production = Production::read(profileFile(m_profile), m_avrdude.settings());
 
     ++(isGood ? m_good : m_failed);
     const int number = m_good + m_failed;
     if (isGood)
-        m_boardView.showBoard(BoardView::Verdict::Good,
-                              tr("Board %1: written, %2 s").arg(number).arg(BoardLog::seconds(milliseconds)),
-                              countsText());
+        m_boardView.showBoard(
+            BoardView::Verdict::Good,
+            tr("Board %1: written, %2 s").arg(number).arg(BoardLog::seconds(m_board.line.milliseconds)), countsText());
     else
-        m_boardView.showBoard(BoardView::Verdict::Failed, tr("Board %1: failed: %2").arg(number).arg(message),
-                              countsText());
+        m_boardView.showBoard(
+            BoardView::Verdict::Failed,
+            tr("Board %1: failed: %2").arg(number).arg(message.isEmpty() ? QStringLiteral("-") : message),
+            countsText());
     showBoard();
 }
 
@@ -466,7 +424,7 @@ void ProfilesPresenter::tellGood()
     if (production.serial)
         below += tr("number %1").arg(production.serial->next);
     if (!m_board.isRecorded)
-        below += tr("The line of this board is missing in %1.").arg(production.boardLog);
+        below += m_board.missingLine();
     below.removeAll({});
     Box::tell(QApplication::activeWindow(), QStringLiteral("Profiles"),
               QStringList(m_board.written.values()).join(QString()), below.join(QLatin1Char('\n')),

@@ -77,7 +77,9 @@ QString SerialNumber::fault(const SettingsRecord& settings) const
                                      "%1."))
             .arg(isDigits ? mostDigits : mostBytes);
     if (image().isEmpty())
-        return say(QT_TRANSLATE_NOOP("SerialNumber", "The number %1 takes more than \"bytes\": %2.")).arg(next).arg(bytes);
+        return say(QT_TRANSLATE_NOOP("SerialNumber", "The number %1 takes more than \"bytes\": %2."))
+            .arg(next)
+            .arg(bytes);
     const qint64 size = BytesModel::memorySize(settings, memory);
     const bool isDescribed = BytesModel::memorySize(settings, QStringLiteral("flash")) > 0;
     if (isDescribed && address + bytes > std::max<qint64>(size, 0))
