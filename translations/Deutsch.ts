@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>Das Tempo dieses Programmers steht fest: Der Takt des Chips muss über %1 liegen, und ein neuer Chip läuft meist mit 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Seine Fuses verwenden den UPDI-Pin vielleicht anders: Ein Programmer mit Hochvolt-UPDI holt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Er ist vielleicht gesperrt: Mit diesem Programmer gibt ihn kein avrdude frei, mit SerialUPDI oder Atmel-ICE tut es „Alles löschen“.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude wurde nicht gestartet: %1 ist eine Datei und kein Port.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Auf null</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Das Protokoll der Platinen lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Die nächste Nummer lässt sich nicht im Profil speichern: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>Die Nummer %1 wird ausgelassen.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>Die Zeile dieser Platine fehlt in %1.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ Der Chip ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Die Datei des Profils lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>„quiet“ ist weder true noch false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>„boardLog“ ist kein Name einer Datei, der auf .csv endet.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Die Seriennummer lässt sich nicht schreiben.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fuse-Bits erfolgreich geprüft.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>Der Befehl, der im Profil für diesen Speicher steht, schreibt keine Datei hinein. Er wird nicht ausgeführt:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Mit diesem Profil wird keine Platine geschrieben.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Bei diesem Profil meldet kein Fenster eine gute Platine.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>Nummer %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Platine %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Platine %1: geschrieben, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Platine %1: Fehler: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>%1 gut, %2 Fehler</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Trotzdem löschen?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Zu schreibende Speicherbereiche:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Ihr Speicher ist weder „eeprom“ noch „flash“.</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Ihr Format ist keines von „little“, „big“, „decimal“ und „hex“.</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>„address“, „bytes“ und „next“ müssen nichtnegative ganze Zahlen sein, „bytes“ von 1 bis %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Sie liegt außerhalb des Speichers, der %1 Bytes hat.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>Das Argument -e würde den Chip löschen, bevor die Nummer geschrieben wird.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>Die Nummer %1 braucht mehr als „bytes“: %2.</translation>
     </message>
 </context>
 <context>

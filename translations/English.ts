@@ -144,6 +144,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -303,6 +311,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude was not started: %1 is a file and no port.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Set to zero</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>The record of the boards cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>The next number cannot be saved in the profile: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>The number %1 will be left out.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>The line of this board is missing in %1.</translation>
     </message>
 </context>
 <context>
@@ -726,6 +760,25 @@ Device is either blank or read-protected (Lock Bits are set).</translation>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>The profile&apos;s file cannot be read.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>&quot;quiet&quot; is neither true nor false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>&quot;boardLog&quot; is not the name of a file that ends in .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>The serial number cannot be written.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -817,6 +870,34 @@ Fuse bits verify successfully.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>The command that the profile has for this memory does not write a file. It is not run:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>No board is written with this profile.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>With this profile no box tells of a board that is good.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>number %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Board %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Board %1: written, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Board %1: failed: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>%1 good, %2 failed</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1302,33 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Select memory areas to write:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>It lies outside the memory, which has %1 bytes.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>The argument -e would erase the chip before the number is written.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>The number %1 takes more than &quot;bytes&quot;: %2.</translation>
     </message>
 </context>
 <context>

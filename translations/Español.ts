@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>La velocidad de este programador es fija: el reloj del chip debe superar %1, y el de un chip nuevo suele ser de 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Puede que sus fusibles usen el pin UPDI para otra cosa: un programador con UPDI de alto voltaje lo recupera.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Puede que esté bloqueado: con este programador ningún avrdude lo libera; con SerialUPDI o Atmel-ICE lo hace «Borrar todo».</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude no se ha iniciado: %1 es un archivo y no un puerto.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Poner a cero</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>No se puede escribir el registro de las placas: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>No se puede guardar el número siguiente en el perfil: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>El número %1 se omitirá.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>Falta la línea de esta placa en %1.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ El chip está vacío o protegido contra lectura (bits de bloqueo activos).</tran
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>No se puede leer el archivo del perfil.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>«quiet» no es true ni false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>«boardLog» no es el nombre de un archivo que termine en .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>No se puede escribir el número de serie.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fusibles verificados correctamente.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>El comando que el perfil contiene para esta memoria no graba ningún archivo en ella. No se ejecuta:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Con este perfil no se escribe ninguna placa.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Con este perfil ningún cuadro avisa de una placa correcta.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>número %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Placa %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Placa %1: escrita, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Placa %1: fallo: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>%1 buenas, %2 fallidas</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Áreas de memoria para grabar:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Su memoria no es «eeprom» ni «flash».</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Su formato no es «little», «big», «decimal» ni «hex».</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>«address», «bytes» y «next» deben ser números enteros no negativos, y «bytes» de 1 a %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Queda fuera de la memoria, que tiene %1 bytes.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>El argumento -e borraría el chip antes de escribir el número.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>El número %1 ocupa más que «bytes»: %2.</translation>
     </message>
 </context>
 <context>

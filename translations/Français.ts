@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>La vitesse de ce programmateur est fixe&#xa0;: l&apos;horloge de la puce doit dépasser %1, et celle d&apos;une puce neuve est le plus souvent de 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Ses fusibles emploient peut-être la broche UPDI autrement&#xa0;: un programmateur avec UPDI haute tension la récupère.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Elle est peut-être verrouillée&#xa0;: avec ce programmateur, aucun avrdude ne la libère&#xa0;; avec SerialUPDI ou Atmel-ICE, «&#xa0;Tout effacer&#xa0;» le fait.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude n&apos;a pas été lancé&#xa0;: %1 est un fichier et non un port.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Remettre à zéro</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Le registre des cartes ne peut pas être écrit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Le numéro suivant ne peut pas être enregistré dans le profil&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>Le numéro %1 sera sauté.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>La ligne de cette carte manque dans %1.</translation>
     </message>
 </context>
 <context>
@@ -477,8 +511,8 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
-        <translation>La broche UPDI reçoit une autre fonction : un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
-Pour la récupérer : un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset un peu plus que l&apos;alimentation. 12 V la détruisent.</translation>
+        <translation>La broche UPDI reçoit une autre fonction&#xa0;: un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
+Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset un peu plus que l&apos;alimentation. 12 V la détruisent.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ La puce est vierge ou protégée en lecture (bits de verrouillage actifs).</tran
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Le fichier du profil ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>«&#xa0;quiet&#xa0;» n&apos;est ni true ni false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>«&#xa0;boardLog&#xa0;» n&apos;est pas un nom de fichier se terminant par .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Le numéro de série ne peut pas être écrit.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fusibles vérifiés.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>La commande que le profil contient pour cette mémoire n&apos;y écrit aucun fichier. Elle n&apos;est pas exécutée&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Aucune carte n&apos;est écrite avec ce profil.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Avec ce profil, aucune fenêtre n&apos;annonce une carte réussie.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>numéro %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Carte %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Carte %1&#xa0;: écrite, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Carte %1&#xa0;: échec&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>%1 bonnes, %2 échecs</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Le supprimer quand même ?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Zones de mémoire à écrire&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Sa mémoire n&apos;est ni «&#xa0;eeprom&#xa0;» ni «&#xa0;flash&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Son format n&apos;est ni «&#xa0;little&#xa0;», ni «&#xa0;big&#xa0;», ni «&#xa0;decimal&#xa0;», ni «&#xa0;hex&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>«&#xa0;address&#xa0;», «&#xa0;bytes&#xa0;» et «&#xa0;next&#xa0;» doivent être des entiers non négatifs, «&#xa0;bytes&#xa0;» de 1 à %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Il se trouve hors de la mémoire, qui compte %1 octets.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>L&apos;argument -e effacerait la puce avant l&apos;écriture du numéro.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>Le numéro %1 demande plus que «&#xa0;bytes&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>La velocità di questo programmatore è fissa: il clock del chip deve superare %1, e quello di un chip nuovo è di solito 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>I suoi fuse forse usano il pin UPDI per altro: un programmatore con UPDI ad alta tensione lo recupera.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Forse è bloccato: con questo programmatore nessun avrdude lo sblocca, con SerialUPDI o Atmel-ICE lo fa «Cancella tutto».</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude non è stato avviato: %1 è un file e non una porta.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Azzera</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Impossibile scrivere il registro delle schede: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Impossibile salvare il numero successivo nel profilo: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>Il numero %1 sarà saltato.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>La riga di questa scheda manca in %1.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ Il chip è vuoto o protetto in lettura (lock bit attivi).</translation>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Impossibile leggere il file del profilo.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>«quiet» non è né true né false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>«boardLog» non è il nome di un file che termina con .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Impossibile scrivere il numero di serie.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fuse bit verificati correttamente.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>Il comando che il profilo contiene per questa memoria non vi scrive nessun file. Non viene eseguito:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Con questo profilo non viene scritta nessuna scheda.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Con questo profilo nessuna finestra annuncia una scheda riuscita.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>numero %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Scheda %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Scheda %1: scritta, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Scheda %1: errore: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>%1 buone, %2 errori</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Eliminarlo comunque?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Aree di memoria da scrivere:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>La sua memoria non è né «eeprom» né «flash».</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Il suo formato non è tra «little», «big», «decimal» e «hex».</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>«address», «bytes» e «next» devono essere numeri interi non negativi, «bytes» da 1 a %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Si trova fuori dalla memoria, che ha %1 byte.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>L&apos;argomento -e cancellerebbe il chip prima che il numero sia scritto.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>Il numero %1 richiede più di «bytes»: %2.</translation>
     </message>
 </context>
 <context>

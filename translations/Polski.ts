@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>Szybkość tego programatora jest stała: zegar układu musi mieć ponad %1, a nowy układ ma zwykle 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Fusebity układu mogą przypisywać wyprowadzeniu UPDI inną funkcję: układ można odzyskać programatorem z wysokonapięciowym UPDI.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Układ może być zablokowany: z tym programatorem nie odblokuje go żadna wersja avrdude; z SerialUPDI lub Atmel-ICE odblokuje go „Skasuj układ”.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>Nie uruchomiono avrdude: %1 to plik, a nie port.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Wyzeruj</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Nie można zapisać rejestru płytek: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Nie można zapisać następnego numeru w profilu: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>Numer %1 zostanie pominięty.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>W pliku %1 brakuje wiersza tej płytki.</translation>
     </message>
 </context>
 <context>
@@ -478,7 +512,7 @@ Jak odzyskać układ: skasuj cały układ.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Wyprowadzenie UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
-Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, który podaje na wyprowadzenie reset nieco więcej niż napięcie zasilania. 12 V je zniszczy.</translation>
+Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, który podaje na wyprowadzenie RESET napięcie nieco wyższe od zasilania. 12 V zniszczy to wyprowadzenie.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translati
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Nie można odczytać pliku profilu.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>„quiet” ma wartość inną niż true lub false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>„boardLog” nie jest nazwą pliku z rozszerzeniem .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Nie można zapisać numeru seryjnego.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Zweryfikowano fusebity.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>Polecenie z profilu dla tej pamięci nie zapisuje w niej pliku, więc nie zostanie wykonane:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Z tym profilem nie można programować płytek.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Przy tym profilu po udanym zaprogramowaniu płytki nie pojawia się okno komunikatu.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>numer %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Płytka %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Płytka %1: gotowa, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Płytka %1: nieudana: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>dobre: %1, złe: %2</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Usunąć mimo to?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Obszary pamięci do zaprogramowania:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Jego pamięć to ani „eeprom”, ani „flash”.</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Jego format to ani „little”, ani „big”, ani „decimal”, ani „hex”.</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>„address”, „bytes” i „next” muszą być nieujemnymi liczbami całkowitymi, a „bytes” – od 1 do %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Wykracza poza pamięć, która ma %1 B.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>Argument -e skasowałby układ przed zapisaniem numeru.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>Numer %1 nie mieści się w „bytes”: %2.</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>A velocidade deste gravador é fixa: o clock do chip deve ficar acima de %1, e o de um chip novo costuma ser de 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Os fuses do chip talvez deem ao pino UPDI outra função: um gravador com UPDI de alta tensão recupera o chip.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>O chip pode estar bloqueado: com este gravador, nenhuma versão do avrdude o libera; com SerialUPDI ou Atmel-ICE, “Apagar tudo” o libera.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>O avrdude não foi iniciado: %1 é um arquivo e não uma porta.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Zerar</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Não foi possível gravar o registro das placas: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Não foi possível salvar o próximo número no perfil: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>O número %1 será pulado.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>Falta a linha desta placa em %1.</translation>
     </message>
 </context>
 <context>
@@ -478,7 +512,7 @@ Para recuperá-lo: apague tudo.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>O pino UPDI passará a ter outra função: um gravador UPDI comum não conseguirá mais acessar o chip.
-Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que aplica ao pino de reset um pouco mais que a alimentação. 12 V o destroem.</translation>
+Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que aplica ao pino de reset uma tensão um pouco acima da alimentação. 12 V destroem esse pino.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ O chip está vazio ou protegido contra leitura (lock bits ativos).</translation>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Não foi possível ler o arquivo do perfil.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>“quiet” não é true nem false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>“boardLog” não é um nome de arquivo terminado em .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>O número de série não pode ser gravado.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fuse bits verificados com sucesso.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>O comando do perfil para esta memória não grava um arquivo nela; por isso, não será executado:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Não é possível gravar placas com este perfil.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Com este perfil, nenhuma janela avisa quando uma placa foi gravada com sucesso.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>número %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Placa %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Placa %1: gravada, %2 s</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Placa %1: falhou: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>boas: %1, falhas: %2</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Excluir mesmo assim?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Áreas de memória a gravar:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>A memória dele não é “eeprom” nem “flash”.</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>O formato dele não é “little”, “big”, “decimal” nem “hex”.</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>“address”, “bytes” e “next” devem ser números inteiros não negativos, e “bytes”, de 1 a %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Ele fica fora da memória, que tem %1 bytes.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>O argumento -e apagaria o chip antes da gravação do número.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>O número %1 não cabe em “bytes”: %2.</translation>
     </message>
 </context>
 <context>

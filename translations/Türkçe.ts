@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>Bu programlayıcının hızı sabittir: çipin saat frekansı %1 değerinin üzerinde olmalıdır; yeni bir çipinki ise çoğunlukla 1 MHz&apos;dir.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Çipin fuse bitleri UPDI bacağına başka bir işlev vermiş olabilir: yüksek gerilimli UPDI destekli bir programlayıcı çipi kurtarır.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Çip kilitli olabilir: bu programlayıcıyla hiçbir avrdude sürümü kilidi kaldıramaz; SerialUPDI ya da Atmel-ICE ile “Tümünü sil” kilidi kaldırır.</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude başlatılmadı: %1 bir dosya, port değil.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Sıfırla</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Kart kayıt dosyasına yazılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Sonraki numara profile kaydedilemiyor: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>%1 numarası atlanacak.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>%1 dosyasında bu kartın satırı yok.</translation>
     </message>
 </context>
 <context>
@@ -478,7 +512,7 @@ Kurtarmak için: tümünü silin.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>UPDI bacağı başka bir işlev alacak: sıradan bir UPDI programlayıcısı artık çipe erişemeyecek.
-Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı (bu aile için; reset bacağına besleme geriliminden biraz fazlasını verir. 12 V onu bozar).</translation>
+Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset bacağına besleme geriliminden biraz fazlasını veren bir programlayıcı. 12 V bu bacağı bozar.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Profil dosyası okunamıyor.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>“quiet” değeri ne true ne de false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>“boardLog”, .csv ile biten bir dosya adı değil.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Seri numarası yazılamıyor.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fuse bitleri başarıyla doğrulandı.</translation>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>Profilde bu bellek için verilen komut, belleğe dosya yazmıyor. Komut çalıştırılmayacak:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>Bu profille karta yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>Bu profil kullanılırken başarılı kartlar için ileti kutusu gösterilmez.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>numara %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Kart %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Kart %1: yazıldı, %2 sn</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Kart %1: başarısız: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>%1 iyi, %2 başarısız</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Yine de silinsin mi?</translation>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Yazılacak bellek alanları:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Belleği ne “eeprom” ne de “flash”.</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Biçimi “little”, “big”, “decimal” ve “hex” seçeneklerinden biri değil.</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>“address”, “bytes” ve “next” negatif olmayan tam sayılar olmalı; “bytes” ayrıca 1 ile %1 arasında olmalı.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Numara, %1 baytlık belleğin dışında kalıyor.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>-e argümanı, numara yazılmadan önce çipi siler.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>%1 numarası “bytes” değerine sığmıyor: %2.</translation>
     </message>
 </context>
 <context>

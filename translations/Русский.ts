@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>Скорость этого программатора фиксирована: тактовая частота МК должна быть выше %1, а у нового МК она обычно 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Возможно, фьюз-биты МК дали выводу UPDI другое назначение: восстановить доступ можно программатором с высоковольтным UPDI.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Возможно, МК защищён: с этим программатором ни одна версия avrdude не снимет защиту, а с SerialUPDI или Atmel-ICE её снимет «Стереть всё».</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude не запущен: %1 — файл, а не порт.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Обнулить</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Не удаётся записать файл учёта плат: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Не удаётся сохранить следующий номер в профиле: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>Номер %1 будет пропущен.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>В %1 нет строки об этой плате.</translation>
     </message>
 </context>
 <context>
@@ -478,7 +512,7 @@ The way back: erase all of it.</source>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
-Как восстановить: программатором с высоковольтным UPDI для этого семейства, который подаёт на вывод сброса чуть больше напряжения питания. 12 V его сожгут.</translation>
+Как восстановить: программатором с высоковольтным UPDI для этого семейства, который подаёт на вывод сброса напряжение чуть выше напряжения питания. 12 V сожгут этот вывод.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Не удаётся прочитать файл профиля.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>Значение &quot;quiet&quot; должно быть true или false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>Значение &quot;boardLog&quot; должно быть именем файла с расширением .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Серийный номер записать нельзя.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fuse bits verify successfully.</source>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>Команда из профиля для этой памяти не записывает в неё файл. Она не будет выполнена:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>С этим профилем запись плат невозможна.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>С этим профилем окно с сообщением об успешной записи платы не появляется.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>номер %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Плата %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Плата %1: записана, %2 с</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Плата %1: сбой. %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>Готово: %1, сбоев: %2</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Области памяти для записи:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Память для него должна быть &quot;eeprom&quot; или &quot;flash&quot;.</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Его формат должен быть &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; или &quot;hex&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>&quot;address&quot; и &quot;next&quot; должны быть целыми числами не меньше 0, а &quot;bytes&quot; — целым числом от 1 до %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Он выходит за пределы памяти: её размер — %1 Б.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>Аргумент -e стёр бы МК перед записью номера.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>Номер %1 занимает больше байтов, чем задано в &quot;bytes&quot;: %2.</translation>
     </message>
 </context>
 <context>

@@ -145,6 +145,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>Швидкість цього програматора незмінна: тактова частота МК має бути вищою за %1, а в нового МК вона зазвичай 1 MHz.</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>Можливо, фʼюз-біти МК надають виводу UPDI іншу функцію: відновити МК можна програматором із високовольтним UPDI.</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>Можливо, МК заблоковано: з цим програматором захист не зніме жодна версія avrdude, а з SerialUPDI чи Atmel-ICE його зніме «Стерти все».</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -304,6 +312,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude не запущено: %1 — файл, а не порт.</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>Обнулити</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>Не вдається записати у файл обліку плат: %1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>Не вдається зберегти наступний номер у профілі: %1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>Номер %1 буде пропущено.</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>У файлі %1 бракує рядка цієї плати.</translation>
     </message>
 </context>
 <context>
@@ -478,7 +512,7 @@ The way back: erase all of it.</source>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Вивід UPDI отримає інше призначення: звичайний програматор UPDI втратить доступ до МК.
-Як відновити: програматором із високовольтним UPDI для цієї родини, який подає на вивід скидання трохи більше за напругу живлення. 12 V його спалять.</translation>
+Як відновити: програматором із високовольтним UPDI для цієї родини, який подає на вивід скидання напругу, трохи вищу за напругу живлення. 12 V спалять цей вивід.</translation>
     </message>
 </context>
 <context>
@@ -727,6 +761,25 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>Не вдається прочитати файл профілю.</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>Значення «quiet» — не true і не false.</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>«boardLog» не є назвою файлу, що закінчується на .csv.</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>Серійний номер неможливо записати.</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -818,6 +871,34 @@ Fuse bits verify successfully.</source>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>Команда з профілю для цієї памʼяті не записує в неї файлу, тож її не буде виконано:</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>З цим профілем записати плату неможливо.</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>З цим профілем після успішного запису плати вікно не зʼявляється.</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>номер %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>Плата %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>Плата %1: записано, %2 с</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>Плата %1: збій: %2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>успішно: %1, збоїв: %2</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1303,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Select memory areas to write:</source>
         <translation>Ділянки памʼяті для запису:</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>Його памʼять — не «eeprom» і не «flash».</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>Його формат — не «little», не «big», не «decimal» і не «hex».</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>«address», «bytes» і «next» мають бути невідʼємними цілими числами, а «bytes» — від 1 до %1.</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>Він виходить за межі памʼяті, обсяг якої — %1 Б.</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>Аргумент -e стер би МК перед записом номера.</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>Номер %1 не вміщується в «bytes»: %2.</translation>
     </message>
 </context>
 <context>

@@ -144,6 +144,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>此编程器的速度是固定的：芯片的时钟频率必须高于 %1，而新芯片通常为 1 MHz。</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>芯片的熔丝位可能将 UPDI 引脚改作他用：可用支持高压 UPDI 的编程器恢复。</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>芯片可能已锁定：使用此编程器时，任何版本的 avrdude 都无法解除锁定；改用 SerialUPDI 或 Atmel-ICE，“全部擦除”即可解除锁定。</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -303,6 +311,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude 未启动：%1 是文件，不是端口。</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>清零</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>无法写入电路板记录文件：%1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>无法将下一个序列号保存到配置文件：%1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>序列号 %1 将被跳过。</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>%1 中缺少这块板的记录。</translation>
     </message>
 </context>
 <context>
@@ -477,7 +511,7 @@ The way back: erase all of it.</source>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
-恢复方法：使用支持高压 UPDI 的编程器（适用于该系列，向复位引脚施加略高于电源的电压。12 V 会烧毁它）。</translation>
+恢复方法：使用适用于该系列、支持高压 UPDI 的编程器，它向复位引脚施加的电压仅略高于电源电压。12 V 会烧毁该引脚。</translation>
     </message>
 </context>
 <context>
@@ -726,6 +760,25 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>无法读取该配置文件。</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>&quot;quiet&quot; 的值既不是 true 也不是 false。</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>&quot;boardLog&quot; 的值不是以 .csv 结尾的文件名。</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>无法写入序列号。</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -817,6 +870,34 @@ Fuse bits verify successfully.</source>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>配置文件为此存储器指定的命令不会将文件写入该存储器。不执行此命令：</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>使用此配置文件无法写入电路板。</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>使用此配置文件时，电路板写入成功后不弹出提示框。</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>序列号 %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>第 %1 块板</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>第 %1 块板：已写入，%2 秒</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>第 %1 块板失败：%2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>成功 %1，失败 %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1302,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Select memory areas to write:</source>
         <translation>要写入的存储区：</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>为其指定的存储器既不是 &quot;eeprom&quot; 也不是 &quot;flash&quot;。</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>其格式不是 &quot;little&quot;、&quot;big&quot;、&quot;decimal&quot;、&quot;hex&quot; 中的任何一种。</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>&quot;address&quot; 和 &quot;next&quot; 必须是非负整数，&quot;bytes&quot; 必须是 1 到 %1 的整数。</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>其位置超出存储器的范围（存储器大小为 %1 字节）。</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>参数 -e 会在写入序列号之前擦除芯片。</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>序列号 %1 所需的字节数超过 &quot;bytes&quot; 的值（%2）。</translation>
     </message>
 </context>
 <context>

@@ -144,6 +144,14 @@
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
         <translation>この書込器の速度は固定です。チップのクロック周波数は %1 より高くなければなりませんが、新品のチップは通常 1 MHz です。</translation>
     </message>
+    <message>
+        <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
+        <translation>ヒューズビットで UPDI ピンが別の用途に設定されている可能性があります。高電圧 UPDI 対応の書込器で元に戻せます。</translation>
+    </message>
+    <message>
+        <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
+        <translation>チップがロックされている可能性があります。この書込器では、どの版の avrdude でも解除できません。SerialUPDI か Atmel-ICE なら「全消去」で解除できます。</translation>
+    </message>
 </context>
 <context>
     <name>Aftermath</name>
@@ -303,6 +311,32 @@
     <message>
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude を起動しませんでした。%1 はファイルで、ポートではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>BoardView</name>
+    <message>
+        <source>Set to zero</source>
+        <translation>0 に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>BoardWriting</name>
+    <message>
+        <source>The record of the boards cannot be written: %1</source>
+        <translation>基板の記録ファイルに書き込めません：%1</translation>
+    </message>
+    <message>
+        <source>The next number cannot be saved in the profile: %1</source>
+        <translation>次の番号をプロファイルに保存できません：%1</translation>
+    </message>
+    <message>
+        <source>The number %1 will be left out.</source>
+        <translation>番号 %1 は欠番になります。</translation>
+    </message>
+    <message>
+        <source>The line of this board is missing in %1.</source>
+        <translation>この基板の行が %1 に記録されていません。</translation>
     </message>
 </context>
 <context>
@@ -477,7 +511,7 @@ The way back: erase all of it.</source>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
-元に戻すには：高電圧 UPDI 対応の書込器を使います。このファミリー用のもので、リセットピンには電源より少し高い電圧をかけます。12 V では壊れます。</translation>
+元に戻すには：このファミリーの高電圧 UPDI に対応し、リセットピンに電源電圧より少しだけ高い電圧をかける書込器を使います。12 V をかけるとリセットピンが壊れます。</translation>
     </message>
 </context>
 <context>
@@ -726,6 +760,25 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
 </context>
 <context>
+    <name>Production</name>
+    <message>
+        <source>The profile&apos;s file cannot be read.</source>
+        <translation>プロファイルのファイルを読み込めません。</translation>
+    </message>
+    <message>
+        <source>&quot;quiet&quot; is neither true nor false.</source>
+        <translation>&quot;quiet&quot; の値が true でも false でもありません。</translation>
+    </message>
+    <message>
+        <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
+        <translation>&quot;boardLog&quot; の値が .csv で終わるファイル名ではありません。</translation>
+    </message>
+    <message>
+        <source>The serial number cannot be written.</source>
+        <translation>シリアル番号を書き込めません。</translation>
+    </message>
+</context>
+<context>
     <name>Profiles</name>
     <message>
         <source>Failed to load settings from file: </source>
@@ -817,6 +870,34 @@ Fuse bits verify successfully.</source>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
         <translation>プロファイルにあるこのメモリ用のコマンドは、ファイルを書き込むものではありません。このコマンドは実行しません：</translation>
+    </message>
+    <message>
+        <source>No board is written with this profile.</source>
+        <translation>このプロファイルでは基板に書き込めません。</translation>
+    </message>
+    <message>
+        <source>With this profile no box tells of a board that is good.</source>
+        <translation>このプロファイルでは、基板への書き込みが成功してもダイアログを表示しません。</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>番号 %1</translation>
+    </message>
+    <message>
+        <source>Board %1</source>
+        <translation>基板 %1</translation>
+    </message>
+    <message>
+        <source>Board %1: written, %2 s</source>
+        <translation>基板 %1：書込み完了、%2 秒</translation>
+    </message>
+    <message>
+        <source>Board %1: failed: %2</source>
+        <translation>基板 %1：失敗。%2</translation>
+    </message>
+    <message>
+        <source>%1 good, %2 failed</source>
+        <translation>成功 %1、失敗 %2</translation>
     </message>
 </context>
 <context>
@@ -1221,6 +1302,33 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Select memory areas to write:</source>
         <translation>書き込むメモリ領域：</translation>
+    </message>
+</context>
+<context>
+    <name>SerialNumber</name>
+    <message>
+        <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
+        <translation>メモリの指定が &quot;eeprom&quot; でも &quot;flash&quot; でもありません。</translation>
+    </message>
+    <message>
+        <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
+        <translation>形式の指定が &quot;little&quot;、&quot;big&quot;、&quot;decimal&quot;、&quot;hex&quot; のいずれでもありません。</translation>
+    </message>
+    <message>
+        <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
+        <translation>&quot;address&quot; と &quot;next&quot; は 0 以上の整数、&quot;bytes&quot; は 1～%1 の整数でなければなりません。</translation>
+    </message>
+    <message>
+        <source>It lies outside the memory, which has %1 bytes.</source>
+        <translation>番号の位置がメモリの範囲外です。メモリは %1 バイトです。</translation>
+    </message>
+    <message>
+        <source>The argument -e would erase the chip before the number is written.</source>
+        <translation>引数 -e があると、番号を書き込む前にチップが消去されてしまいます。</translation>
+    </message>
+    <message>
+        <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
+        <translation>番号 %1 は &quot;bytes&quot; の値（%2 バイト）に収まりません。</translation>
     </message>
 </context>
 <context>
