@@ -3,7 +3,6 @@
 #include "app/log/RunBar.h"
 #include "mcu/AttributesView.h"
 #include "profiles/Profiles.h"
-#include "profiles/Profiles.h"
 #include "profiles/ProgrammingView.h"
 #include "profiles/SelectView.h"
 #include "settings/SettingsView.h"
