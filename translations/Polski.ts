@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
-        <translation>Szybkość tego programatora jest stała: zegar układu musi mieć ponad %1, a nowy układ ma zwykle 1 MHz.</translation>
+        <translation>Szybkość tego programatora jest stała: częstotliwość zegara układu musi przekraczać %1, a w nowym układzie wynosi zwykle 1 MHz.</translation>
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>

@@ -878,7 +878,7 @@ Fuse bits verificados com sucesso.</translation>
     </message>
     <message>
         <source>With this profile no box tells of a board that is good.</source>
-        <translation>Com este perfil, nenhuma janela avisa quando uma placa foi gravada com sucesso.</translation>
+        <translation>Com este perfil, nenhuma janela avisa quando uma placa é gravada com sucesso.</translation>
     </message>
     <message>
         <source>number %1</source>

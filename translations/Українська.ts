@@ -512,7 +512,7 @@ The way back: erase all of it.</source>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Вивід UPDI отримає інше призначення: звичайний програматор UPDI втратить доступ до МК.
-Як відновити: програматором із високовольтним UPDI для цієї родини, який подає на вивід скидання напругу, трохи вищу за напругу живлення. 12 V спалять цей вивід.</translation>
+Як відновити: програматором із високовольтним UPDI для цього сімейства, який подає на вивід скидання напругу, трохи вищу за напругу живлення. 12 V спалять цей вивід.</translation>
     </message>
 </context>
 <context>
