@@ -405,9 +405,15 @@ private slots:
         const QString time = "\\d{4}-\\d\\d-\\d\\dT[\\d:]{8}(Z|[+-]\\d\\d:\\d\\d)";
         const QString expected = "^time,[\\w ,-]+\r\n(" + time + QRegularExpression::escape(line) + "){2}$";
         QVERIFY2(text.contains(QRegularExpression(expected)), qPrintable(text));
+        folder.write("b.csv", "open"); // as an editor may leave it
+        BoardLog log;
+        QVERIFY(log.open("b.csv") && log.append(board) && folder.read("b.csv").startsWith("open\r\n2"));
         QDir().mkdir("folder.csv");
         QVERIFY(!BoardLog().open("folder.csv"));
-        for (const QString name : {"b.txt", "../b.csv", "C:b.csv", ".b.csv", "con.csv", "a/b.csv", "b\n.csv", ""})
+        QFile::link("elsewhere", "link.csv");
+        QVERIFY(!BoardLog().open("link.csv"));
+        for (const QString name :
+             {"b.txt", "../b.csv", "C:b.csv", ".b.csv", "con.csv", "a/b.csv", "b\n.csv", "b.csv\n", ""})
             QVERIFY2(!BoardLog::isFileName(name), qPrintable(name));
         QVERIFY(BoardLog::isFileName("boards of lot 7.csv"));
     }
@@ -443,8 +449,8 @@ private slots:
         const QStringList lines = QString(bench.folder.read("boards.csv")).split("\r\n");
         QCOMPARE(lines.size(), 4);
         QVERIFY(lines[1].contains(",Lot,ATmega16,,FLASH EEPROM FUSES,good,,") && lines[1].endsWith(",1001"));
-        QVERIFY(lines[2].contains(",1E 94 03,FLASH EEPROM FUSES,failed,Verification error.,"));
-        QVERIFY(lines[2].endsWith(",f,,f,,"));
+        QVERIFY(lines[2].contains(",1E 94 03,FLASH,failed,Verification error.,"));
+        QVERIFY(lines[2].endsWith(",f,,,,"));
 
         bench.tab.findChild<BoardView*>()->resetButton()->click();
         QVERIFY(bench.shown().endsWith("0 good, 0 failed"));
@@ -482,6 +488,38 @@ private slots:
         bench.load(R"({"serial": )" + Bench200::serial(5) + "}");
         bench.folder.write("profiles/Lot.json", QByteArray(bench.folder.read("profiles/Lot.json")).replace(" 5", " 9"));
         QVERIFY(bench.click(bench.write).contains("+ number 9")); // read again at each press
+    }
+
+    void noNumberIsGivenTwice()
+    {
+        Bench200 bench;
+        SerialNumber number = SerialNumber::from(QJsonDocument::fromJson(Bench200::serial(1001)).object());
+        SerialNumber sameAgain = number;
+        QVERIFY(number.take("profiles/Lot.json"));
+        QVERIFY(!sameAgain.take("profiles/Lot.json")); // another window
+        sameAgain.next = 1002;
+        QVERIFY(sameAgain.take("profiles/Lot.json") && !number.giveBack("profiles/Lot.json"));
+        QCOMPARE(Bench200::next(), 1003);
+        QFile::rename("profiles/Lot.json", "elsewhere.json");
+        QFile::link(QDir().absoluteFilePath("elsewhere.json"), "profiles/Lot.json");
+        sameAgain.next = 1003;
+        QVERIFY(!sameAgain.take("profiles/Lot.json"));
+        bench.folder.write("profiles/Damaged.json", "{,"); // it may have had a number
+        bench.boxes.button = QMessageBox::Yes;
+        bench.add("Damaged", "ATmega16");
+        QCOMPARE(bench.folder.read("profiles/Damaged.json"), QByteArray("{,"));
+    }
+
+    void theNumberComesBeforeTheLockWhateverIsPressed()
+    {
+        Bench200 bench;
+        bench.load(R"({"serial": )" + Bench200::serial(1) + "}");
+        bench.writeUntil("flash");
+        bench.tick("..f");
+        bench.write->click(); // the first of its steps is dropped
+        bench.finish();
+        QCOMPARE(bench.boxes.wait().size(), 1);
+        QCOMPARE(bench.written(), QString("flash eeprom lock"));
     }
 
     void noBoardIsTouchedWhenItsKeysCannotBeFollowed()

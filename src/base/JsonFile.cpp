@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonParseError>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QThread>
@@ -84,6 +85,19 @@ bool writeFile(const QString& path, const QByteArray& content)
     }
 #endif
     return false;
+}
+
+bool changeFile(const QString& path, const std::function<bool(QJsonObject& object)>& change)
+{
+    if (QFileInfo(path).isSymLink())
+        return false;
+    QLockFile lock(path + QLatin1String(".lock"));
+    constexpr int patience = 2000; // milliseconds
+    const bool isLocked = lock.tryLock(patience);
+    const JsonFile file = JsonFile::read(path);
+    QJsonObject object = file.document.object();
+    return isLocked && (file.isObject() || file.state == JsonFile::State::NotFound) && change(object)
+        && writeFile(path, QJsonDocument(object).toJson());
 }
 
 QString fullPath(const QString& file)

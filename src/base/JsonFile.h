@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 /// What came of reading one JSON file. Who reads decides what each outcome means to the user.
 struct JsonFile {
     enum class State { NotFound, CannotOpen, ParseError, Parsed };
@@ -37,6 +39,12 @@ struct JsonFile {
 /// Writes @p content to the file at @p path, which is replaced at once or not at all. Returns false, with the old file
 /// untouched, when it cannot be written whole.
 [[nodiscard]] bool writeFile(const QString& path, const QByteArray& content);
+
+/// Lets @p change an object in the file at @p path, which is replaced at once or not at all, and made if it is not
+/// there. Who does so at the same time, in another window too, waits. Returns false, with the file untouched, when
+/// @p change does, when what is there is no JSON object or is a link, which may lead anywhere, or when it cannot be
+/// written.
+[[nodiscard]] bool changeFile(const QString& path, const std::function<bool(QJsonObject& object)>& change);
 
 /// The path of @p file, relative to the working directory, as the system's users write it whole.
 [[nodiscard]] QString fullPath(const QString& file);

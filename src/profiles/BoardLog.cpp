@@ -31,8 +31,8 @@ QByteArray lineOf(QStringList values)
 
 bool BoardLog::isFileName(const QString& name)
 {
-    static const QRegularExpression bare(
-        QStringLiteral("^[^./\\\\:*?\"<>|\\x00-\\x1f\\x7f][^/\\\\:*?\"<>|\\x00-\\x1f\\x7f]*\\.csv$"));
+    static const QRegularExpression bare(QRegularExpression::anchoredPattern(
+        QStringLiteral("[^./\\\\:*?\"<>|\\x00-\\x1f\\x7f][^/\\\\:*?\"<>|\\x00-\\x1f\\x7f]*\\.csv")));
     constexpr int longest = 200; // bytes
     return name.contains(bare) && !isDeviceName(name) && name.toUtf8().size() <= longest;
 }
@@ -62,27 +62,36 @@ QString BoardLog::seconds(qint64 milliseconds)
 
 bool BoardLog::open(const QString& name)
 {
-    m_file.close();
+    const QFileInfo info(name);
     m_file.setFileName(name);
-    return !QFileInfo(name).isSymLink() && m_file.open(QIODevice::WriteOnly | QIODevice::Append);
+    const bool isUsable =
+        !info.isSymLink() && (info.isFile() || !info.exists()) && m_file.open(QIODevice::ReadWrite | QIODevice::Append);
+    m_file.close(); // a spreadsheet may replace the file meanwhile
+    return isUsable;
 }
 
 bool BoardLog::append(const Board& board)
 {
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Append))
+        return false;
     QByteArray lines;
-    if (m_file.size() == 0)
+    const qint64 size = m_file.size();
+    if (size == 0)
         lines = lineOf({QStringLiteral("time"), QStringLiteral("profile"), QStringLiteral("part"),
                         QStringLiteral("signature"), QStringLiteral("areas"), QStringLiteral("verdict"),
                         QStringLiteral("message"), QStringLiteral("seconds"), QStringLiteral("flash file"),
                         QStringLiteral("flash CRC-32"), QStringLiteral("EEPROM file"), QStringLiteral("EEPROM CRC-32"),
                         QStringLiteral("serial number")});
-    const QString time = QDateTime::currentDateTime()
-                             .toOffsetFromUtc(QDateTime::currentDateTime().offsetFromUtc())
-                             .toString(Qt::ISODate);
-    lines += lineOf(QStringList {time, board.profile, board.part, board.signature, board.areas.join(QLatin1Char(' ')),
-                                 board.verdict, board.message, seconds(board.milliseconds)}
+    else if (m_file.seek(size - 1) && m_file.read(1) != "\n")
+        lines = newLine; // somebody's editor has left the last line open
+    const QDateTime now = QDateTime::currentDateTime();
+    lines += lineOf(QStringList {now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate), board.profile,
+                                 board.part, board.signature, board.areas.join(QLatin1Char(' ')), board.verdict,
+                                 board.message, seconds(board.milliseconds)}
                     + board.files + QStringList {board.serialNumber});
     const bool isWritten = m_file.write(lines) == lines.size() && m_file.flush();
+    if (!isWritten)
+        m_file.resize(size);
     m_file.close();
     return isWritten;
 }

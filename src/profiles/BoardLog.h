@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QStringList>
 
-/// The file that gets a line for each board: comma-separated values with a line of headings. Open from the press of
-/// Write to the verdict, so that no board is written whose line could not be.
+/// The file that gets a line for each board: comma-separated values with a line of headings. Tried at the press
+/// of Write, so that no board is written whose line could not be.
 class BoardLog
 {
 public:
@@ -30,10 +30,10 @@ public:
     /// Name and CRC-32 of the file at @p path, which is empty for a file that cannot be read.
     [[nodiscard]] static QStringList nameAndSum(const QString& path);
 
-    /// Opens @p name for one more line. Returns false, and has changed nothing, when it cannot be written.
+    /// Makes @p name the file, which is made if it is not there. Returns false when it cannot be written.
     [[nodiscard]] bool open(const QString& name);
 
-    /// Appends @p board and closes the file. Returns false when the disk does not take it.
+    /// Appends @p board. Returns false, with the file as it was, when the disk does not take it.
     [[nodiscard]] bool append(const Board& board);
 
 private:

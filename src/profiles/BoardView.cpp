@@ -59,17 +59,19 @@ BoardView::BoardView(QWidget* parent)
     large.setBold(true);
     m_text->setFont(large);
     m_text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_counts->setAlignment(Qt::AlignRight);
 
-    auto* counts = new QVBoxLayout;
-    counts->setSpacing(2);
+    auto* counts = new QHBoxLayout;
     counts->addWidget(m_counts);
-    counts->addWidget(m_reset, 0, Qt::AlignRight);
+    counts->addStretch();
+    counts->addWidget(m_reset);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->addWidget(m_text);
+    texts->addLayout(counts);
     auto* last = new QHBoxLayout(m_last);
     last->setContentsMargins(0, 0, 0, 0);
     last->addWidget(m_mark);
-    last->addWidget(m_text, 1);
-    last->addLayout(counts);
+    last->addLayout(texts, 1);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,7 +1,6 @@
 #include "profiles/BoardWriting.h"
 
 #include "base/JsonFile.h"
-#include "memory/MemoryKind.h"
 #include "profiles/ProfilesPresenter.h"
 
 #include <QCoreApplication>
@@ -22,24 +21,13 @@ QString BoardWriting::begin()
         if (!record->open(production.boardLog))
             return say(QT_TRANSLATE_NOOP("BoardWriting", "The record of the boards cannot be written: %1"))
                 .arg(fullPath(production.boardLog));
-        line.profile = profile;
-        line.part = settings.mcuName;
-        const auto addArea = [this](bool isTicked, const MemoryKind& kind) {
-            const QString file = MemoryRequest::from(kind.commandFor(settings).value_or(QStringList())).file;
-            line.files += isTicked ? BoardLog::nameAndSum(file) : QStringList {QString(), QString()};
-            if (isTicked)
-                line.areas += QLatin1String(kind.title);
-        };
-        addArea(settings.flashCheck, MemoryKind::flash);
-        addArea(settings.eepromCheck, MemoryKind::eeprom);
-        if (settings.fusesCheck)
-            line.areas += QStringLiteral("FUSES");
     }
     if (production.serial) {
         // In the work folder: avrdude takes such a name on every system.
         numberFile = std::make_unique<QTemporaryFile>(QStringLiteral("number-XXXXXX.hex"));
         const QByteArray content = production.serial->intelHex();
-        const bool isWritten = numberFile->open() && numberFile->write(content) == content.size();
+        const bool isWritten =
+            numberFile->open() && numberFile->write(content) == content.size() && numberFile->flush();
         numberFile->close();
         const QString file = ProfilesPresenter::profileFile(profile);
         if (!isWritten || !production.serial->take(file))
@@ -62,6 +50,14 @@ QStringList BoardWriting::end(bool isGood, const QString& message)
     else if (production.serial && !production.serial->giveBack(ProfilesPresenter::profileFile(profile)))
         remarks +=
             say(QT_TRANSLATE_NOOP("BoardWriting", "The number %1 will be left out.")).arg(production.serial->next);
+    line.profile = profile;
+    for (const auto& [area, name] :
+         {std::pair(Area::Flash, "FLASH"), {Area::Eeprom, "EEPROM"}, {Area::Fuses, "FUSES"}}) {
+        if (sent.contains(area))
+            line.areas += QLatin1String(name);
+        if (area != Area::Fuses)
+            line.files += sent.value(area, {QString(), QString()});
+    }
     line.verdict = isGood ? QStringLiteral("good") : QStringLiteral("failed");
     line.message = message;
     isRecorded = !record || record->append(line);

@@ -35,6 +35,7 @@ struct BoardWriting {
     SettingsRecord settings;
 
     QString profile; ///< which was loaded; empty: none
+    int lot = 0; ///< number of that loading
     Production production; ///< as the profile's file had it, the number as it was taken
     std::unique_ptr<BoardLog> record; ///< that gets its line; null: none
     BoardLog::Board line;
@@ -48,5 +49,6 @@ struct BoardWriting {
     int nextStep = 0;
     QString log; ///< what the log showed at that press, then that of each run which has ended since
     bool isRunning = false; ///< the run in progress is one of this board's
+    QMap<Area, QStringList> sent; ///< since the first press, each with name and sum of its file
     QMap<Area, QString> written; ///< since the first press, each with its lines of the closing box
 };

@@ -67,6 +67,12 @@ QString faultOf(const QString& name)
     return {};
 }
 
+/// The name is shown everywhere, the identifier is what avrdude gets.
+QString shownPart(const SettingsRecord& settings)
+{
+    return BytesModel::description(settings).isEmpty() ? settings.mcuId : settings.mcuName;
+}
+
 /// Says in a box why Write does nothing.
 void tellNoBoard(QWidget* parent, const QString& fault)
 {
@@ -145,9 +151,7 @@ void ProfilesPresenter::saveProfile()
             return;
     }
     // Deliberate: the box below reports success even when the file could not be written. The log tells.
-    // Through a link it might be any file: it may have come with somebody's profiles.
-    const bool isSaved =
-        !QFileInfo(path).isSymLink() && m_avrdude.settings().saveToFile(path, SettingsRecord::File::Profile);
+    const bool isSaved = m_avrdude.settings().saveToFile(path, SettingsRecord::File::Profile);
     hold(isSaved ? name : QString());
     if (!isSaved) {
         qDebug().noquote() << "Profile not saved:" << path;
@@ -239,6 +243,7 @@ void ProfilesPresenter::hold(const QString& profile)
 void ProfilesPresenter::setLoaded(const QString& name)
 {
     m_good = m_failed = 0;
+    ++m_lot;
     m_boardView.clear();
     hold(name);
     if (!m_production.fault.isEmpty())
@@ -248,8 +253,7 @@ void ProfilesPresenter::setLoaded(const QString& name)
 void ProfilesPresenter::showBoard()
 {
     const SettingsRecord& settings = m_avrdude.settings();
-    // The name is shown everywhere, the identifier is what avrdude gets.
-    QStringList line {BytesModel::description(settings).isEmpty() ? settings.mcuId : settings.mcuName};
+    QStringList line {shownPart(settings)};
     const auto addFile = [&](bool isTicked, const MemoryKind& kind) {
         // Whole where no field shows it.
         const QString file = MemoryRequest::from(kind.commandFor(settings).value_or(QStringList())).file;
@@ -263,9 +267,9 @@ void ProfilesPresenter::showBoard()
         const auto count = FuseRequests::sent(settings.fusesBytes).size();
         line += count == 1 ? tr("1 fuse byte") : tr("%1 fuse bytes").arg(count);
     }
-    if (m_production.serial)
+    if (m_production.fault.isEmpty() && m_production.serial)
         line += tr("number %1").arg(m_production.serial->next);
-    if (!m_production.boardLog.isEmpty())
+    if (m_production.fault.isEmpty() && !m_production.boardLog.isEmpty())
         line += shownText(m_production.boardLog);
     if (m_loaded.isEmpty())
         line += tr("no profile loaded");
@@ -361,11 +365,12 @@ void ProfilesPresenter::startWriting()
 
 bool ProfilesPresenter::beginBoard()
 {
-    endBoard(false, {}); // one that the runner refused in the middle
     BoardWriting board;
     board.settings = m_avrdude.settings();
     board.profile = m_profile;
     board.production = m_production;
+    board.lot = m_lot;
+    board.line.part = shownPart(board.settings);
     const QString fault = board.begin();
     if (!fault.isEmpty()) {
         tellNoBoard(&m_programmingView, fault);
@@ -387,6 +392,10 @@ void ProfilesPresenter::endBoard(bool isGood, const QString& message)
     if (m_board.production.serial && m_board.profile == m_profile)
         m_production = Production::read(profileFile(m_profile), m_avrdude.settings());
 
+    if (m_board.lot != m_lot) {
+        showBoard(); // another profile has been loaded meanwhile
+        return;
+    }
     ++(isGood ? m_good : m_failed);
     const int number = m_good + m_failed;
     if (isGood)
@@ -394,10 +403,8 @@ void ProfilesPresenter::endBoard(bool isGood, const QString& message)
             BoardView::Verdict::Good,
             tr("Board %1: written, %2 s").arg(number).arg(BoardLog::seconds(m_board.line.milliseconds)), countsText());
     else
-        m_boardView.showBoard(
-            BoardView::Verdict::Failed,
-            tr("Board %1: failed: %2").arg(number).arg(message.isEmpty() ? QStringLiteral("-") : message),
-            countsText());
+        m_boardView.showBoard(BoardView::Verdict::Failed, tr("Board %1: failed: %2").arg(number).arg(message),
+                              countsText());
     showBoard();
 }
 
@@ -435,8 +442,11 @@ void ProfilesPresenter::tellGood()
 void ProfilesPresenter::nextStep()
 {
     m_board.log += m_avrdude.log().toPlainText();
-    if (m_board.nextStep >= m_board.steps.size() && m_board.numberFile && !m_board.hasNumber)
-        m_board.steps.append(&ProfilesPresenter::writeNumber); // dropped when Write was pressed again
+    // Whatever was pressed in the middle, the number comes before the lock bits.
+    const bool isLast = m_board.nextStep >= m_board.steps.size()
+        || m_board.steps.at(m_board.nextStep) == &ProfilesPresenter::writeFuses;
+    if (isLast && m_board.numberFile && !m_board.hasNumber)
+        m_board.steps.insert(m_board.nextStep, &ProfilesPresenter::writeNumber);
     if (m_board.nextStep >= m_board.steps.size()) {
         m_avrdude.log().replace(m_board.log);
         endBoard(true, {});
@@ -456,12 +466,15 @@ void ProfilesPresenter::run(const QStringList& arguments, const std::function<vo
         noteSignature();
         nextStep();
     });
-    if (!m_avrdude.isBusy())
-        endBoard(false, {}); // the log says why it was not started
 }
 
 void ProfilesPresenter::runStep(BoardWriting::Area area, const QStringList& arguments, const QString& told)
 {
+    if (!m_avrdude.isBusy()) // or it is dropped
+        m_board.sent.insert(area,
+                            area == BoardWriting::Area::Fuses
+                                ? QStringList()
+                                : BoardLog::nameAndSum(MemoryRequest::from(arguments).file));
     run(arguments, [this, area, told] {
         m_board.written.insert(area, told);
         if (area == BoardWriting::Area::Fuses) {

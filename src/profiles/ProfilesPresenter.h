@@ -90,6 +90,7 @@ private:
     QString m_profile; ///< the name of that one
     Production m_production; ///< of that one
     BoardWriting m_board; ///< the present or last one
+    int m_lot = 0; ///< how often one was loaded
     int m_good = 0; ///< boards since the profile was loaded
     int m_failed = 0;
 };

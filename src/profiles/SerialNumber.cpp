@@ -6,9 +6,7 @@
 #include "mcu/description/BytesModel.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QJsonObject>
-#include <QLockFile>
 
 #include <algorithm>
 #include <cmath>
@@ -66,12 +64,13 @@ QString SerialNumber::fault(const SettingsRecord& settings) const
     const bool isBinary = format == QLatin1String("little") || format == QLatin1String("big");
     constexpr int mostDigits = 32;
     constexpr int mostBytes = 8;
+    constexpr qint64 highest = 0xFFFFFF; // beyond all memories of any part
     if (memory != QLatin1String("eeprom") && memory != QLatin1String("flash"))
         return say(QT_TRANSLATE_NOOP("SerialNumber", "Its memory is neither \"eeprom\" nor \"flash\"."));
     if (!isDigits && !isBinary)
         return say(
             QT_TRANSLATE_NOOP("SerialNumber", "Its format is none of \"little\", \"big\", \"decimal\" and \"hex\"."));
-    if (address < 0 || next < 0 || bytes < 1 || bytes > (isDigits ? mostDigits : mostBytes))
+    if (address < 0 || address > highest || next < 0 || bytes < 1 || bytes > (isDigits ? mostDigits : mostBytes))
         return say(QT_TRANSLATE_NOOP("SerialNumber",
                                      "\"address\", \"bytes\" and \"next\" have to be whole numbers, and \"bytes\" 1 to "
                                      "%1."))
@@ -124,17 +123,12 @@ QByteArray SerialNumber::intelHex() const
 
 bool SerialNumber::replace(const QString& path, qint64 from, qint64 to)
 {
-    if (QFileInfo(path).isSymLink())
-        return false; // it might be any file: it may have come with somebody's profiles
-    QLockFile lock(path + QLatin1String(".lock")); // a second window may work with the same profile
-    constexpr int patience = 2000; // milliseconds
-    if (!lock.tryLock(patience))
-        return false;
-    QJsonObject profile = JsonFile::read(path).document.object();
-    QJsonObject number = profile.value(QLatin1String("serial")).toObject();
-    if (wholeNumber(number.value(QLatin1String("next"))) != from)
-        return false;
-    number.insert(QLatin1String("next"), to);
-    profile.insert(QLatin1String("serial"), number);
-    return writeFile(path, QJsonDocument(profile).toJson());
+    return changeFile(path, [from, to](QJsonObject& profile) {
+        QJsonObject number = profile.value(QLatin1String("serial")).toObject();
+        if (wholeNumber(number.value(QLatin1String("next"))) != from)
+            return false;
+        number.insert(QLatin1String("next"), to);
+        profile.insert(QLatin1String("serial"), number);
+        return true;
+    });
 }

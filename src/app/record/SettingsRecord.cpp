@@ -208,11 +208,14 @@ bool SettingsRecord::saveToFile(const QString& path, File file) const
 {
     Writer writer;
     visitRecord(*this, writer);
-    const QJsonObject own = writer.object();
-    QJsonObject object = file == File::Profile ? JsonFile::read(path).document.object() : QJsonObject();
-    for (auto key = own.begin(); key != own.end(); ++key)
-        object.insert(key.key(), key.value());
-    if (file == File::Settings && !updateCheck)
+    QJsonObject object = writer.object();
+    if (file == File::Profile)
+        return changeFile(path, [&object](QJsonObject& present) {
+            for (auto key = object.begin(); key != object.end(); ++key)
+                present.insert(key.key(), key.value());
+            return true;
+        });
+    if (!updateCheck)
         object.insert(updateCheckKey, false);
     return writeFile(path, QJsonDocument(object).toJson(QJsonDocument::Indented));
 }
