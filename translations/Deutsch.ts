@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Seine Fuses verwenden den UPDI-Pin vielleicht anders: Ein Programmer mit Hochvolt-UPDI holt ihn zurück.</translation>
+        <translation>Seine Fuses geben dem UPDI-Pin vielleicht eine andere Aufgabe: Ein Programmer mit Hochvolt-UPDI holt ihn zurück.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
-        <translation>Er ist vielleicht gesperrt: Mit diesem Programmer gibt ihn kein avrdude frei, mit SerialUPDI oder Atmel-ICE tut es „Alles löschen“.</translation>
+        <translation>Der Chip ist vielleicht gesperrt: Mit diesem Programmer gibt ihn keine Version von avrdude frei, mit SerialUPDI oder Atmel-ICE tut es „Alles löschen“.</translation>
     </message>
 </context>
 <context>
@@ -318,7 +318,7 @@
     <name>BoardView</name>
     <message>
         <source>Set to zero</source>
-        <translation>Auf null</translation>
+        <translation>Auf null setzen</translation>
     </message>
 </context>
 <context>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>The line of this board is missing in %1.</source>
-        <translation>Die Zeile dieser Platine fehlt in %1.</translation>
+        <translation>In %1 fehlt die Zeile dieser Platine.</translation>
     </message>
 </context>
 <context>
@@ -512,7 +512,7 @@ Der Weg zurück: alles löschen.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip danach nicht mehr.
-Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der dem Reset-Pin etwas mehr als die Versorgungsspannung gibt. 12 V zerstören ihn.</translation>
+Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den Reset-Pin etwas mehr als die Versorgungsspannung anlegt. 12 V zerstören diesen Pin.</translation>
     </message>
 </context>
 <context>
@@ -772,7 +772,7 @@ Der Chip ist leer oder lesegeschützt (Lock-Bits gesetzt).</translation>
     </message>
     <message>
         <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
-        <translation>„boardLog“ ist kein Name einer Datei, der auf .csv endet.</translation>
+        <translation>„boardLog“ ist kein Dateiname, der auf .csv endet.</translation>
     </message>
     <message>
         <source>The serial number cannot be written.</source>
@@ -874,11 +874,11 @@ Fuse-Bits erfolgreich geprüft.</translation>
     </message>
     <message>
         <source>No board is written with this profile.</source>
-        <translation>Mit diesem Profil wird keine Platine geschrieben.</translation>
+        <translation>Mit diesem Profil lässt sich keine Platine programmieren.</translation>
     </message>
     <message>
         <source>With this profile no box tells of a board that is good.</source>
-        <translation>Bei diesem Profil meldet kein Fenster eine gute Platine.</translation>
+        <translation>Mit diesem Profil erscheint kein Fenster, wenn eine Platine gut ist.</translation>
     </message>
     <message>
         <source>number %1</source>
@@ -890,7 +890,7 @@ Fuse-Bits erfolgreich geprüft.</translation>
     </message>
     <message>
         <source>Board %1: written, %2 s</source>
-        <translation>Platine %1: geschrieben, %2 s</translation>
+        <translation>Platine %1: programmiert, %2 s</translation>
     </message>
     <message>
         <source>Board %1: failed: %2</source>
@@ -1309,15 +1309,15 @@ Trotzdem löschen?</translation>
     <name>SerialNumber</name>
     <message>
         <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
-        <translation>Ihr Speicher ist weder „eeprom“ noch „flash“.</translation>
+        <translation>Der Speicher dafür ist weder „eeprom“ noch „flash“.</translation>
     </message>
     <message>
         <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
-        <translation>Ihr Format ist keines von „little“, „big“, „decimal“ und „hex“.</translation>
+        <translation>Das Format ist keines von „little“, „big“, „decimal“ und „hex“.</translation>
     </message>
     <message>
         <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
-        <translation>„address“, „bytes“ und „next“ müssen nichtnegative ganze Zahlen sein, „bytes“ von 1 bis %1.</translation>
+        <translation>„address“, „bytes“ und „next“ müssen ganze Zahlen ab 0 sein, „bytes“ von 1 bis %1.</translation>
     </message>
     <message>
         <source>It lies outside the memory, which has %1 bytes.</source>
@@ -1329,7 +1329,7 @@ Trotzdem löschen?</translation>
     </message>
     <message>
         <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
-        <translation>Die Nummer %1 braucht mehr als „bytes“: %2.</translation>
+        <translation>Die Nummer %1 passt nicht in „bytes“: %2.</translation>
     </message>
 </context>
 <context>

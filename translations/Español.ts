@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Puede que sus fusibles usen el pin UPDI para otra cosa: un programador con UPDI de alto voltaje lo recupera.</translation>
+        <translation>Puede que los fusibles del chip den otra función al pin UPDI: un programador con UPDI de alto voltaje lo recupera.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
-        <translation>Puede que esté bloqueado: con este programador ningún avrdude lo libera; con SerialUPDI o Atmel-ICE lo hace «Borrar todo».</translation>
+        <translation>Puede que el chip esté bloqueado: con este programador ninguna versión de avrdude lo desbloquea; con SerialUPDI o Atmel-ICE lo desbloquea «Borrar todo».</translation>
     </message>
 </context>
 <context>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>The number %1 will be left out.</source>
-        <translation>El número %1 se omitirá.</translation>
+        <translation>Se omitirá el número %1.</translation>
     </message>
     <message>
         <source>The line of this board is missing in %1.</source>
@@ -512,7 +512,7 @@ Para recuperarlo: bórrelo todo.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
-Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que aplica al pin de reset algo más que la tensión de alimentación. 12 V lo destruyen.</translation>
+Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que aplica al pin de reset una tensión algo mayor que la de alimentación. 12 V destruyen ese pin.</translation>
     </message>
 </context>
 <context>
@@ -768,15 +768,15 @@ El chip está vacío o protegido contra lectura (bits de bloqueo activos).</tran
     </message>
     <message>
         <source>&quot;quiet&quot; is neither true nor false.</source>
-        <translation>«quiet» no es true ni false.</translation>
+        <translation>«quiet» no es ni true ni false.</translation>
     </message>
     <message>
         <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
-        <translation>«boardLog» no es el nombre de un archivo que termine en .csv.</translation>
+        <translation>«boardLog» no es un nombre de archivo que termine en .csv.</translation>
     </message>
     <message>
         <source>The serial number cannot be written.</source>
-        <translation>No se puede escribir el número de serie.</translation>
+        <translation>No se puede grabar el número de serie.</translation>
     </message>
 </context>
 <context>
@@ -874,11 +874,11 @@ Fusibles verificados correctamente.</translation>
     </message>
     <message>
         <source>No board is written with this profile.</source>
-        <translation>Con este perfil no se escribe ninguna placa.</translation>
+        <translation>Con este perfil no se puede grabar ninguna placa.</translation>
     </message>
     <message>
         <source>With this profile no box tells of a board that is good.</source>
-        <translation>Con este perfil ningún cuadro avisa de una placa correcta.</translation>
+        <translation>Con este perfil no aparece ninguna ventana cuando una placa se graba correctamente.</translation>
     </message>
     <message>
         <source>number %1</source>
@@ -890,7 +890,7 @@ Fusibles verificados correctamente.</translation>
     </message>
     <message>
         <source>Board %1: written, %2 s</source>
-        <translation>Placa %1: escrita, %2 s</translation>
+        <translation>Placa %1: grabada, %2 s</translation>
     </message>
     <message>
         <source>Board %1: failed: %2</source>
@@ -898,7 +898,7 @@ Fusibles verificados correctamente.</translation>
     </message>
     <message>
         <source>%1 good, %2 failed</source>
-        <translation>%1 buenas, %2 fallidas</translation>
+        <translation>Buenas: %1, fallidas: %2</translation>
     </message>
 </context>
 <context>
@@ -1309,11 +1309,11 @@ Do you want to delete it anyway?</source>
     <name>SerialNumber</name>
     <message>
         <source>Its memory is neither &quot;eeprom&quot; nor &quot;flash&quot;.</source>
-        <translation>Su memoria no es «eeprom» ni «flash».</translation>
+        <translation>La memoria no es ni «eeprom» ni «flash».</translation>
     </message>
     <message>
         <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
-        <translation>Su formato no es «little», «big», «decimal» ni «hex».</translation>
+        <translation>El formato no es ni «little», ni «big», ni «decimal», ni «hex».</translation>
     </message>
     <message>
         <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
@@ -1325,11 +1325,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>The argument -e would erase the chip before the number is written.</source>
-        <translation>El argumento -e borraría el chip antes de escribir el número.</translation>
+        <translation>El argumento -e borraría el chip antes de grabar el número.</translation>
     </message>
     <message>
         <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
-        <translation>El número %1 ocupa más que «bytes»: %2.</translation>
+        <translation>El número %1 no cabe en «bytes»: %2.</translation>
     </message>
 </context>
 <context>

@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Ses fusibles emploient peut-être la broche UPDI autrement&#xa0;: un programmateur avec UPDI haute tension la récupère.</translation>
+        <translation>Ses fusibles donnent peut-être une autre fonction à la broche UPDI&#xa0;: un programmateur avec UPDI haute tension permet de la récupérer.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
-        <translation>Elle est peut-être verrouillée&#xa0;: avec ce programmateur, aucun avrdude ne la libère&#xa0;; avec SerialUPDI ou Atmel-ICE, «&#xa0;Tout effacer&#xa0;» le fait.</translation>
+        <translation>La puce est peut-être verrouillée&#xa0;: avec ce programmateur, aucune version d&apos;avrdude ne la déverrouille&#xa0;; avec SerialUPDI ou Atmel-ICE, «&#xa0;Tout effacer&#xa0;» le fait.</translation>
     </message>
 </context>
 <context>
@@ -325,11 +325,11 @@
     <name>BoardWriting</name>
     <message>
         <source>The record of the boards cannot be written: %1</source>
-        <translation>Le registre des cartes ne peut pas être écrit&#xa0;: %1</translation>
+        <translation>Impossible d&apos;écrire le registre des cartes&#xa0;: %1</translation>
     </message>
     <message>
         <source>The next number cannot be saved in the profile: %1</source>
-        <translation>Le numéro suivant ne peut pas être enregistré dans le profil&#xa0;: %1</translation>
+        <translation>Impossible d&apos;enregistrer le numéro suivant dans le profil&#xa0;: %1</translation>
     </message>
     <message>
         <source>The number %1 will be left out.</source>
@@ -512,7 +512,7 @@ Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>La broche UPDI reçoit une autre fonction&#xa0;: un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
-Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset un peu plus que l&apos;alimentation. 12 V la détruisent.</translation>
+Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset une tension légèrement supérieure à celle de l&apos;alimentation. 12 V détruisent cette broche.</translation>
     </message>
 </context>
 <context>
@@ -764,7 +764,7 @@ La puce est vierge ou protégée en lecture (bits de verrouillage actifs).</tran
     <name>Production</name>
     <message>
         <source>The profile&apos;s file cannot be read.</source>
-        <translation>Le fichier du profil ne peut pas être lu.</translation>
+        <translation>Impossible de lire le fichier du profil.</translation>
     </message>
     <message>
         <source>&quot;quiet&quot; is neither true nor false.</source>
@@ -776,7 +776,7 @@ La puce est vierge ou protégée en lecture (bits de verrouillage actifs).</tran
     </message>
     <message>
         <source>The serial number cannot be written.</source>
-        <translation>Le numéro de série ne peut pas être écrit.</translation>
+        <translation>Impossible d&apos;écrire le numéro de série.</translation>
     </message>
 </context>
 <context>
@@ -874,11 +874,11 @@ Fusibles vérifiés.</translation>
     </message>
     <message>
         <source>No board is written with this profile.</source>
-        <translation>Aucune carte n&apos;est écrite avec ce profil.</translation>
+        <translation>Ce profil ne permet de programmer aucune carte.</translation>
     </message>
     <message>
         <source>With this profile no box tells of a board that is good.</source>
-        <translation>Avec ce profil, aucune fenêtre n&apos;annonce une carte réussie.</translation>
+        <translation>Avec ce profil, aucune fenêtre ne s&apos;affiche quand une carte est réussie.</translation>
     </message>
     <message>
         <source>number %1</source>
@@ -890,7 +890,7 @@ Fusibles vérifiés.</translation>
     </message>
     <message>
         <source>Board %1: written, %2 s</source>
-        <translation>Carte %1&#xa0;: écrite, %2 s</translation>
+        <translation>Carte %1&#xa0;: programmée, %2 s</translation>
     </message>
     <message>
         <source>Board %1: failed: %2</source>
@@ -898,7 +898,7 @@ Fusibles vérifiés.</translation>
     </message>
     <message>
         <source>%1 good, %2 failed</source>
-        <translation>%1 bonnes, %2 échecs</translation>
+        <translation>Bonnes&#xa0;: %1, échecs&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1317,7 +1317,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
-        <translation>«&#xa0;address&#xa0;», «&#xa0;bytes&#xa0;» et «&#xa0;next&#xa0;» doivent être des entiers non négatifs, «&#xa0;bytes&#xa0;» de 1 à %1.</translation>
+        <translation>«&#xa0;address&#xa0;», «&#xa0;bytes&#xa0;» et «&#xa0;next&#xa0;» doivent être des entiers positifs ou nuls, et «&#xa0;bytes&#xa0;» compris entre 1 et %1.</translation>
     </message>
     <message>
         <source>It lies outside the memory, which has %1 bytes.</source>
@@ -1329,7 +1329,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
-        <translation>Le numéro %1 demande plus que «&#xa0;bytes&#xa0;»&#xa0;: %2.</translation>
+        <translation>Le numéro %1 ne tient pas dans «&#xa0;bytes&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>

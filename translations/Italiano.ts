@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>I suoi fuse forse usano il pin UPDI per altro: un programmatore con UPDI ad alta tensione lo recupera.</translation>
+        <translation>Forse i suoi fuse danno al pin UPDI un&apos;altra funzione: un programmatore con UPDI ad alta tensione lo recupera.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
-        <translation>Forse è bloccato: con questo programmatore nessun avrdude lo sblocca, con SerialUPDI o Atmel-ICE lo fa «Cancella tutto».</translation>
+        <translation>Forse il chip è bloccato: con questo programmatore nessuna versione di avrdude lo sblocca, con SerialUPDI o Atmel-ICE lo sblocca «Cancella tutto».</translation>
     </message>
 </context>
 <context>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>The line of this board is missing in %1.</source>
-        <translation>La riga di questa scheda manca in %1.</translation>
+        <translation>In %1 manca la riga di questa scheda.</translation>
     </message>
 </context>
 <context>
@@ -512,7 +512,7 @@ Per recuperarlo: cancellare tutto.</translation>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Il pin UPDI assume un&apos;altra funzione: un comune programmatore UPDI non potrà più accedere al chip.
-Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia, che dà al pin di reset poco più della tensione di alimentazione. 12 V lo distruggono.</translation>
+Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia, che applica al pin di reset una tensione poco superiore a quella di alimentazione. 12 V distruggono questo pin.</translation>
     </message>
 </context>
 <context>
@@ -772,7 +772,7 @@ Il chip è vuoto o protetto in lettura (lock bit attivi).</translation>
     </message>
     <message>
         <source>&quot;boardLog&quot; is not the name of a file that ends in .csv.</source>
-        <translation>«boardLog» non è il nome di un file che termina con .csv.</translation>
+        <translation>«boardLog» non è un nome di file che termina con .csv.</translation>
     </message>
     <message>
         <source>The serial number cannot be written.</source>
@@ -874,11 +874,11 @@ Fuse bit verificati correttamente.</translation>
     </message>
     <message>
         <source>No board is written with this profile.</source>
-        <translation>Con questo profilo non viene scritta nessuna scheda.</translation>
+        <translation>Con questo profilo non si può programmare nessuna scheda.</translation>
     </message>
     <message>
         <source>With this profile no box tells of a board that is good.</source>
-        <translation>Con questo profilo nessuna finestra annuncia una scheda riuscita.</translation>
+        <translation>Con questo profilo non compare nessuna finestra quando una scheda è riuscita.</translation>
     </message>
     <message>
         <source>number %1</source>
@@ -890,15 +890,15 @@ Fuse bit verificati correttamente.</translation>
     </message>
     <message>
         <source>Board %1: written, %2 s</source>
-        <translation>Scheda %1: scritta, %2 s</translation>
+        <translation>Scheda %1: programmata, %2 s</translation>
     </message>
     <message>
         <source>Board %1: failed: %2</source>
-        <translation>Scheda %1: errore: %2</translation>
+        <translation>Scheda %1: fallita: %2</translation>
     </message>
     <message>
         <source>%1 good, %2 failed</source>
-        <translation>%1 buone, %2 errori</translation>
+        <translation>Buone: %1, fallite: %2</translation>
     </message>
 </context>
 <context>
@@ -1313,11 +1313,11 @@ Eliminarlo comunque?</translation>
     </message>
     <message>
         <source>Its format is none of &quot;little&quot;, &quot;big&quot;, &quot;decimal&quot; and &quot;hex&quot;.</source>
-        <translation>Il suo formato non è tra «little», «big», «decimal» e «hex».</translation>
+        <translation>Il suo formato non è né «little», né «big», né «decimal», né «hex».</translation>
     </message>
     <message>
         <source>&quot;address&quot;, &quot;bytes&quot; and &quot;next&quot; have to be whole numbers, and &quot;bytes&quot; 1 to %1.</source>
-        <translation>«address», «bytes» e «next» devono essere numeri interi non negativi, «bytes» da 1 a %1.</translation>
+        <translation>«address», «bytes» e «next» devono essere numeri interi non negativi, e «bytes» da 1 a %1.</translation>
     </message>
     <message>
         <source>It lies outside the memory, which has %1 bytes.</source>
@@ -1325,11 +1325,11 @@ Eliminarlo comunque?</translation>
     </message>
     <message>
         <source>The argument -e would erase the chip before the number is written.</source>
-        <translation>L&apos;argomento -e cancellerebbe il chip prima che il numero sia scritto.</translation>
+        <translation>L&apos;argomento -e cancellerebbe il chip prima della scrittura del numero.</translation>
     </message>
     <message>
         <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
-        <translation>Il numero %1 richiede più di «bytes»: %2.</translation>
+        <translation>Il numero %1 non entra in «bytes»: %2.</translation>
     </message>
 </context>
 <context>
