@@ -490,6 +490,18 @@ private slots:
         QVERIFY(bench.click(bench.write).contains("+ number 9")); // read again at each press
     }
 
+    void aLineThatIsMissingIsToldThoughTheProfileIsQuiet()
+    {
+        Bench200 bench;
+        bench.writeUntil("number");
+        QFile::remove("boards.csv");
+        QDir().mkdir("boards.csv");
+        bench.finish();
+        const QStringList told = bench.boxes.wait();
+        QVERIFY2(told.join('|').endsWith("The line of this board is missing in boards.csv."),
+                 qPrintable(told.join('|')));
+    }
+
     void noNumberIsGivenTwice()
     {
         Bench200 bench;
