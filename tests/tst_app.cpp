@@ -285,6 +285,7 @@ private slots:
                                                              {"repeat", QEvent::KeyPress},
                                                              {"up", QEvent::KeyRelease},
                                                              {"other", QEvent::KeyRelease},
+                                                             {"letter", QEvent::KeyPress},
                                                              {"shortcut", QEvent::ShortcutOverride}};
             const QEvent::Type type = types.value(parts[0].section('-', 0, 0));
             if (parts[0] == "show") {
@@ -298,7 +299,8 @@ private slots:
                 event.setTimestamp(time);
                 send(std::move(event));
             } else {
-                const auto code = parts[0] == "other" ? Qt::Key_Alt : Qt::Key_Return;
+                static const QHash<QString, Qt::Key> codes {{"other", Qt::Key_Alt}, {"letter", Qt::Key_A}};
+                const auto code = codes.value(parts[0], Qt::Key_Return);
                 QKeyEvent event(type, code, Qt::NoModifier, {}, word.contains("repeat"));
                 event.setTimestamp(time);
                 event.ignore();

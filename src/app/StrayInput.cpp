@@ -20,6 +20,12 @@ bool isSamePoint(QPoint a, QPoint b)
     return std::abs(a.x() - b.x()) <= distance && std::abs(a.y() - b.y()) <= distance;
 }
 
+bool isModifier(int key)
+{
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Meta || key == Qt::Key_Alt
+        || key == Qt::Key_AltGr;
+}
+
 } // namespace
 
 StrayInput::StrayInput(QObject* parent)
@@ -57,7 +63,7 @@ bool StrayInput::eventFilter(QObject* object, QEvent* event)
         const auto& key = static_cast<const QKeyEvent&>(*event);
         const bool isTaken = isStray(key);
         if (event->type() == QEvent::KeyRelease)
-            m_keyReleased = key.timestamp();
+            m_released = {true, key.key(), {}, key.timestamp()};
         if (isTaken) {
             event->accept(); // or it would be tried as a shortcut
             return true;
@@ -95,12 +101,19 @@ bool StrayInput::isStray(const QMouseEvent& mouse)
 
 bool StrayInput::isStray(const QKeyEvent& key)
 {
-    if (!m_closing.isKey || key.key() != m_closing.key)
+    if (!m_closing.isKey)
         return false;
+    if (key.key() != m_closing.key) {
+        // Another key ends the repeats, and Windows calls the next press one where a release got lost with the box.
+        if (key.type() == QEvent::KeyPress && !isModifier(key.key()))
+            m_closing = {};
+        return false;
+    }
     if (key.type() == QEvent::KeyRelease)
         return key.isAutoRepeat();
     // On X11 many repeats come as a release and a press at the same time, which is more than a hand can do.
-    if (key.isAutoRepeat() || (m_keyReleased > 0 && key.timestamp() == m_keyReleased))
+    const bool isReleasedNow = m_released.key == key.key() && m_released.time == key.timestamp();
+    if (key.isAutoRepeat() || (isReleasedNow && key.timestamp() > 0))
         return true;
     m_closing = {};
     return false;

@@ -45,5 +45,5 @@ private:
     Stroke m_opening; ///< what had been done when it was shown
     Stroke m_closing; ///< no key and long ago: none
     bool m_isPressTaken = false; ///< its release is for nobody either
-    ulong m_keyReleased = 0; ///< when a key last seemed to be let go
+    Stroke m_released; ///< the key that last seemed to be let go
 };
