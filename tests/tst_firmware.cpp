@@ -32,6 +32,10 @@ private slots:
             const bool isTaken = told.mid(asked.size()).startsWith("FLASH: FLASH written successfully.");
             const bool isTouched = chip != desk.folder.read("chip"); // which the row before has written
             QVERIFY2(!(isTouched && line[4].endsWith("not touched")), qPrintable(line[0]));
+#ifdef Q_OS_WIN
+            if (line[4].contains("elfutils"))
+                continue; // avrdude has another libelf there
+#endif
             QVERIFY2(isTaken == line[4].startsWith("taken"), qPrintable(line[0] + ": " + told));
         }
     }

@@ -411,7 +411,7 @@ private slots:
         QDir().mkdir("folder.csv");
         QVERIFY(!BoardLog().open("folder.csv"));
         QFile::link("elsewhere", "link.csv");
-        QVERIFY(!BoardLog().open("link.csv"));
+        QVERIFY(!QFileInfo("link.csv").isSymLink() || !BoardLog().open("link.csv")); // Windows makes no such link
         for (const QString name :
              {"b.txt", "../b.csv", "C:b.csv", ".b.csv", "con.csv", "a/b.csv", "b\n.csv", "b.csv\n", ""})
             QVERIFY2(!BoardLog::isFileName(name), qPrintable(name));

@@ -32,11 +32,12 @@ int main(int argc, char* argv[])
         const QByteArray operand = line.mid(word.size() + 1);
         if (word == "err" || word == "out") {
             std::fprintf(word == "err" ? stderr : stdout, "%s\n", operand.constData());
-            std::fflush(stdout);
+            std::fflush(nullptr);
         } else if (word == "print") {
             QFile file(QString::fromUtf8(operand));
             file.open(QIODevice::ReadOnly);
             std::fputs(file.readAll().constData(), stderr);
+            std::fflush(nullptr); // Wine keeps it
         } else if (word == "make") {
             QFile file(QString::fromUtf8(operand.split(' ').first()));
             file.open(QIODevice::WriteOnly);
