@@ -159,13 +159,14 @@ void Startup::moveToPointerScreen(QWidget& window)
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     const QRect area = screen->availableGeometry();
-    const int y = area.top() + std::max(0, (area.height() - window.height()) / 2);
-    if (window.height() > area.height()) {
-        // How high the frame is shows only later: it is as high as the title, and as much again.
-        const int frame = 2 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    // How high the frame is shows only later: it is as high as the title, and as much again.
+    const int frame = 2 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    if (window.height() + frame > area.height()) {
         const int scrollBar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         window.resize(std::min(window.width() + scrollBar, area.width()), area.height() - frame);
     }
+    const int spare = area.height() - window.height();
+    const int y = area.top() + std::max(0, std::min(spare / 2, spare - frame));
     window.move(area.left() + (area.width() - window.width()) / 2, y);
 }
 
