@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude wurde nicht gestartet: %1 ist eine Datei und kein Port.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>avrdude liegt nicht neben Korvel: Stattdessen wird %1 benutzt.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

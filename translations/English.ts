@@ -312,6 +312,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude was not started: %1 is a file and no port.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>avrdude is not beside Korvel: %1 is used.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

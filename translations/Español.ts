@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude no se ha iniciado: %1 es un archivo y no un puerto.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>avrdude no está junto a Korvel: en su lugar se usa %1.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude n&apos;a pas été lancé&#xa0;: %1 est un fichier et non un port.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>avrdude n&apos;est pas à côté de Korvel : %1 est utilisé à la place.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude non è stato avviato: %1 è un file e non una porta.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>avrdude non è accanto a Korvel: viene usato %1.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

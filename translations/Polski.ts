@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>Nie uruchomiono avrdude: %1 to plik, a nie port.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>Obok programu Korvel nie ma avrdude. Zamiast niego użyto %1.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>O avrdude não foi iniciado: %1 é um arquivo e não uma porta.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>O avrdude não está ao lado do Korvel: usando %1.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude başlatılmadı: %1 bir dosya, port değil.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>avrdude, Korvel&apos;in yanında değil: %1 kullanılıyor.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -313,6 +313,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude не запущен: %1 — файл, а не порт.</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>Рядом с Korvel нет avrdude. Используется %1.</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -312,6 +312,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude 未启动：%1 是文件，不是端口。</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>Korvel 旁边没有 avrdude：将使用 %1。</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

@@ -312,6 +312,10 @@
         <source>avrdude was not started: %1 is a file and no port.</source>
         <translation>avrdude を起動しませんでした。%1 はファイルで、ポートではありません。</translation>
     </message>
+    <message>
+        <source>avrdude is not beside Korvel: %1 is used.</source>
+        <translation>Korvel と同じフォルダーに avrdude がありません。%1 を使用します。</translation>
+    </message>
 </context>
 <context>
     <name>BoardView</name>

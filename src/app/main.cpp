@@ -1,5 +1,6 @@
 #include "app/KorvelApp.h"
 #include "app/Startup.h"
+#include "base/OnWindows.h"
 #include "base/ProductInfo.h"
 #include "base/Toolkit.h"
 #include "i18n/JsonToQtTranslator.h"
@@ -15,6 +16,7 @@ int main(int argc, char* argv[])
     Toolkit::useHighDpi();
     QApplication application(argc, argv);
     Toolkit::useUtf8Names();
+    OnWindows::leaveSystemFolder();
     Startup::leaveOutOpenGl();
 
     // Before any widget: the texts that widgets show are translated while they are built.

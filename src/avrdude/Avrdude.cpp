@@ -5,6 +5,7 @@
 #include "avrdude/ExtraArguments.h"
 #include "base/Box.h"
 #include "base/JsonFile.h"
+#include "base/OnWindows.h"
 #include "base/ProductInfo.h"
 #include "base/ShownText.h"
 
@@ -109,6 +110,17 @@ QString findProgram(const QString& program)
     return folders.isEmpty() ? QString() : QStandardPaths::findExecutable(file, folders);
 }
 
+/// Whether @p path leads to an avrdude that stands in for ours, which on Windows ships beside this program.
+bool isStranger([[maybe_unused]] const QString& path)
+{
+#ifdef Q_OS_WIN
+    const QFileInfo info(path);
+    return info.isFile() && info.path() != QCoreApplication::applicationDirPath();
+#else
+    return false;
+#endif
+}
+
 /// What to start for @p program. A bare name that is nowhere is not left for the system to look for: the root folder,
 /// where only an administrator puts something, stands for that.
 QString pathOf(const QString& program)
@@ -169,7 +181,8 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     const QStringList allArguments = commonArguments(settings) + arguments;
     emit runningChanged(true);
     m_log->clear();
-    m_process->start(pathOf(program), allArguments);
+    const QString path = pathOf(program);
+    m_process->start(path, allArguments);
     m_text = ProductInfo::name + QLatin1String(": ") + program + QLatin1Char(' ') + allArguments.join(QLatin1Char(' '))
         + QLatin1Char('\n');
     m_outputBegin = static_cast<int>(m_text.size());
@@ -177,6 +190,8 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
     m_log->appendPlainText(m_text);
     if (!isBitClock(bitClockOption(settings.speed)))
         m_log->appendLine(tr("%1 is no speed: %2 is used.").arg(shownText(settings.speed), SettingsRecord().speed));
+    if (path != program && isStranger(path))
+        m_log->appendLine(tr("avrdude is not beside Korvel: %1 is used.").arg(QDir::toNativeSeparators(path)));
     if (!m_process->waitForStarted(startTimeout)) {
         // The process object stays, so the runner stays busy: a missing avrdude is mended by a restart. One that starts
         // after all would work on the chip of somebody who was told that it does not.
@@ -191,6 +206,7 @@ int Avrdude::execute(const SettingsRecord& settings, const QStringList& argument
         emit failed(tr("avrdude not found"));
         return -1;
     }
+    OnWindows::endWithProgram(*m_process);
     return 0;
 }
 

@@ -143,8 +143,10 @@ void SettingsPresenter::setPortMode(const QString& mode)
 void SettingsPresenter::availableComPortsWin(QComboBox* comboBox)
 {
     const auto ports = m_model.serialPorts();
-    for (const SerialPort& port : ports)
+    for (const SerialPort& port : ports) {
         comboBox->addItem(port.name, port.name);
+        comboBox->setItemData(comboBox->count() - 1, port.description, Qt::ToolTipRole); // which of them is the adapter
+    }
     comboBox->setCurrentText(m_settings.port);
 }
 
