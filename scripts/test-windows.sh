@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Tries Korvel for Windows under Wine: runs the tests, then uses the archive of scripts/package-windows.sh, which it
-# makes first, as a person would: unpacks it into a folder with a blank and a Cyrillic letter in its name, writes the
-# virtual chip with the mouse, chooses a language. Leaves screenshots in build/windows.
+# Tries Korvel for Windows under Wine: runs the tests, then uses what scripts/package-windows.sh makes, which it calls
+# first, as a person would: unpacks the archive into a folder with a blank and a Cyrillic letter in its name, writes the
+# virtual chip with the mouse, chooses a language; installs, updates and uninstalls. Leaves screenshots in build/windows.
 source "$(dirname "$0")/common.sh"
 source scripts/windows-libraries.sh
 export LC_ALL=C.UTF-8
@@ -20,12 +20,16 @@ ctest --preset windows
 echo "== the archive"
 shots=$PWD/build/windows
 archive=$(ls "$PWD"/build/windows/*.zip)
+setup=$(ls "$PWD"/build/windows/*-setup.exe)
+firmware=$PWD/tests/data/firmware.elf
 # Windows takes names for UTF-8 only where the archive says so.
 python3 - "$archive" <<'PYTHON'
 import sys, zipfile
 names = [file for file in zipfile.ZipFile(sys.argv[1]).infolist() if not file.filename.isascii()]
 sys.exit(0 if names and all(file.flag_bits & 0x800 for file in names) else "names that are not marked as UTF-8")
 PYTHON
+
+fail() { echo "$1" >&2; exit 1; }
 
 # A Windows with nothing of ours on it but the archive, unpacked.
 scratch=$(mktemp -d)
@@ -52,12 +56,34 @@ desktop="$WINEPREFIX/drive_c/users/Public/My Доска"
 mkdir "$desktop"
 unzip -q "$archive" -d "$desktop"
 cd "$desktop/$(basename "$archive" .zip)"
-wine ./korvel-virtual-programmer.exe --state chip.json >"$scratch/programmer.log" 2>&1 &
-wait_for grep -q Listening "$scratch/programmer.log"
+unpacked=$(du -sb . | cut -f 1)
+for program in ./korvel*.exe; do
+    grep -aq longPathAware "$program" && LC_ALL=C grep -aqP 'F\0i\0l\0e\0V\0e\0r\0s\0i\0o\0n' "$program" ||
+        fail "$program has no manifest or no version."
+done
+grep -q $'start korvel.exe.*\r$' <(tr A-Z a-z <README.txt) || fail "README.txt is not for Windows."
+
+# The avrdude of the archive knows programmers of each library, and looks for them.
+for programmer in usbasp usbtiny avrispmkII ft232r pickit4_updi; do
+    said=$(wine ./avrdude.exe -c $programmer -p t1614 2>&1 || true)
+    grep -qE 'cannot|unable|not found|no device' <<<"$said" && ! grep -qi 'support' <<<"$said" ||
+        fail "avrdude cannot drive $programmer: $said"
+done
+
+start_programmer() {
+    wine ./korvel-virtual-programmer.exe "$@" >"$scratch/programmer.log" 2>&1 &
+    programmer=$!
+    wait_for grep -q Listening "$scratch/programmer.log"
+}
+# What was started with wine goes with the program itself.
+end_program() { wine taskkill /f /im "$1" >/dev/null 2>&1; }
+start_programmer --state chip.json
+taken=$(wine ./korvel-virtual-programmer.exe 2>&1) && fail "A second virtual programmer takes the same port."
+grep -q 7016 <<<"$taken" || fail "A second virtual programmer does not say that the port is taken: $taken"
 
 find_window() { window=$(xdotool search --onlyvisible --name "$1" | head -n 1) && [ -n "$window" ]; }
 start_korvel() {
-    wine ./korvel.exe >/dev/null 2>&1 &
+    wine "${1-./korvel.exe}" >/dev/null 2>&1 &
     korvel=$!
     wait_for find_window '^Korvel [0-9]'
     sleep 2 # to paint
@@ -82,10 +108,10 @@ accept() {
 picture() { import -window "$window" "$shots/$1.png"; }
 # Holds the chip against a file, with the avrdude of the archive.
 verify() {
-    wine ./avrdude.exe -q -q -p m16 -c stk500v1 -P net:127.0.0.1:7016 -U "flash:v:$1:i" >/dev/null 2>&1
+    wine ./avrdude.exe -q -q -p m16 -c stk500v1 -P net:127.0.0.1:7016 -U "flash:v:$1:${2-i}" >/dev/null 2>&1
 }
 
-! verify demo/blink.hex || { echo "The chip holds the firmware before it was written." >&2; exit 1; }
+! verify demo/blink.hex || fail "The chip holds the firmware before it was written."
 start_korvel
 picture programming
 click 131 22 # the Fuses tab
@@ -100,23 +126,103 @@ sleep 1
 picture profiles
 click 381 272 # Write
 accept Profiles
-verify demo/blink.hex || { echo "The chip does not hold the firmware." >&2; exit 1; }
+verify demo/blink.hex || fail "The chip does not hold the firmware."
 # avrdude splits a request at colons: a path with a drive, blanks and backslashes, read and verified.
 wine ./avrdude.exe -q -q -p m16 -c stk500v1 -P net:127.0.0.1:7016 -U 'flash:r:C:\users\Public\My Доска\read back.hex:i'
 verify 'C:\users\Public\My Доска\read back.hex'
 verify '../read back.hex'
 
-click 459 438 # the language
+picture written
+eval "$(xdotool getwindowgeometry --shell "$window")" # which has grown
+click 459 $((HEIGHT - 217)) # the language
 xdotool type Deutsch
 xdotool key Return
 accept Korvel
 close_korvel
-grep -q '"name": "Blink"' save.json || { echo "The profile is not in the settings." >&2; exit 1; }
-grep -q '"language": "Deutsch"' save.json || { echo "The language is not in the settings." >&2; exit 1; }
+grep -q '"name": "Blink"' save.json || fail "The profile is not in the settings."
+grep -q '"language": "Deutsch"' save.json || fail "The language is not in the settings."
 start_korvel
 click 189 22
 picture german
 differing=$(compare -metric AE "$shots/profiles.png" "$shots/german.png" null: 2>&1 || true)
-[ "${differing%%.*}" -gt 1000 ] || { echo "The window looks as it did in English." >&2; exit 1; }
+[ "${differing%%.*}" -gt 1000 ] || fail "The window looks as it did in English."
 close_korvel
-echo "$(du -sb . | cut -f 1) bytes unpacked, $(stat -c %s "$archive") packed: started, wrote a chip, kept the settings"
+# Whether a program whose name begins so runs in this Wine, which does not list them itself.
+runs() {
+    local process
+    for process in $(grep -la "[\\/]${1/#?/[${1:0:1}]}" /proc/[0-9]*/cmdline 2>/dev/null); do
+        grep -qzxF "WINEPREFIX=$WINEPREFIX" "${process%cmdline}environ" 2>/dev/null && return
+    done
+    false
+}
+runs_no_more() { ! runs "$1"; }
+verify "$firmware" && fail "The chip holds the other firmware before it was written."
+wine ./avrdude.exe -q -q -p m16 -c stk500v1 -P net:127.0.0.1:7016 -U "flash:w:Z:${firmware//\//\\}:e" >/dev/null 2>&1
+verify "$firmware" e || fail "An ELF file was not written."
+
+echo "== in the system's folder, and killed"
+folder=$PWD
+(cd "$WINEPREFIX/drive_c/windows/system32" && start_korvel "$folder/korvel.exe" && picture system && close_korvel &&
+    [ ! -e save.json ]) || fail "Korvel works in the system's folder."
+end_program korvel-virtual-programmer.exe
+wait_for runs_no_more korvel-virtual
+start_programmer --silent
+start_korvel
+click 369 143 # Write, for the flash
+picture working
+wait_for runs avrdude.exe
+end_program korvel.exe
+sleep 1 # it gives up by itself only later
+runs avrdude.exe && fail "avrdude goes on when Korvel is ended by force."
+end_program korvel-virtual-programmer.exe
+wait_for runs_no_more korvel-virtual
+
+echo "== setup.exe"
+wine "$setup" /S
+installed=$(ls -d "$WINEPREFIX"/drive_c/users/*/AppData/Local/Programs/Korvel)
+menu=$(ls "$WINEPREFIX"/drive_c/users/*/"AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Korvel.lnk")
+uninstaller='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Korvel'
+wine reg query "$uninstaller" /v DisplayVersion | grep 5.6 >/dev/null || fail "Korvel is not among the installed programs."
+for entry in *; do
+    [ -e "$installed/$entry" ] || [ "$entry" = chip.json ] || fail "setup.exe lacks $entry."
+done
+cd "$installed"
+start_programmer
+wine start /unix "$menu" >/dev/null 2>&1 # as the menu does
+wait_for find_window '^Korvel [0-9]'
+sleep 2
+picture installed
+wine "$setup" /S && fail "setup.exe replaces a program that runs."
+click 189 22 # Profiles
+click 130 272 # the list
+xdotool type Blink
+xdotool key Return
+sleep 1
+click 381 272 # Write
+accept Profiles
+verify demo/blink.hex || fail "The chip does not hold the firmware."
+xdotool windowfocus --sync "$window" key alt+F4
+wait_for runs_no_more korvel.exe
+end_program korvel-virtual-programmer.exe
+wait_for runs_no_more korvel-virtual
+
+# What an older version and its user have left is taken over or taken away, each as it should be.
+cp save.json mine.json
+cp mcu/ATmega16.json mcu/Mine.json
+echo damaged >mcu/ATmega8.json
+rm 'profiles/Blink complete.json'
+wine "$setup" /S
+cmp save.json mine.json && [ -e mcu/Mine.json ] && [ ! -e 'profiles/Blink complete.json' ] ||
+    fail "An update took what is the user's."
+cmp mcu/ATmega8.json "$folder/mcu/ATmega8.json" || fail "An update left an old description."
+mv mine.json "$scratch"
+cd "$scratch"
+wine "$installed/uninstall.exe" /S
+is_uninstalled() { [ ! -e "$installed/uninstall.exe" ]; }
+wait_for is_uninstalled
+left=$(cd "$installed" && find . -type f | sort | tr '\n' ' ')
+[ "$left" = './mcu/Mine.json ./profiles/Blink.json ./save.json ' ] || fail "Uninstalling left $left"
+[ ! -e "$menu" ] && ! wine reg query "$uninstaller" >/dev/null 2>&1 || fail "Uninstalling left its entries."
+
+echo "archive: $unpacked bytes unpacked, $(stat -c %s "$archive") packed: started, wrote a chip, kept the settings"
+echo "setup.exe: $(stat -c %s "$setup") bytes: installed, wrote a chip, updated, uninstalled but for the user's files"

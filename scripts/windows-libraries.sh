@@ -1,5 +1,6 @@
 # Sourced after common.sh. Makes what Korvel for Windows is built with and what it ships with, each once: Qt, its serial
-# port module, the USB libraries of avrdude, and avrdude. All of it lies in the cache, with the licences.
+# port module, and avrdude with the libraries that its own project builds it with for Windows. All of it lies in the
+# cache, with the licences.
 
 shopt -s inherit_errexit
 
@@ -7,12 +8,13 @@ shopt -s inherit_errexit
 from_start() { (cd "$OLDPWD" && realpath -m "$1"); }
 KORVEL_WINDOWS_CACHE=$(from_start "${KORVEL_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvel/windows}")
 [ -z "${KORVEL_QTSERIALPORT:-}" ] || KORVEL_QTSERIALPORT=$(from_start "$KORVEL_QTSERIALPORT")
-export KORVEL_WINDOWS_CACHE KORVEL_QTSERIALPORT
+[ -z "${KORVEL_AVRDUDE_LIBRARIES:-}" ] || KORVEL_AVRDUDE_LIBRARIES=$(from_start "$KORVEL_AVRDUDE_LIBRARIES")
+export KORVEL_WINDOWS_CACHE KORVEL_QTSERIALPORT KORVEL_AVRDUDE_LIBRARIES
 windows_target=x86_64-w64-mingw32
 windows_toolchain=$PWD/cmake/windows-x86_64.cmake
 
 windows_packages=(g++ make perl cmake ninja-build g++-mingw-w64-x86-64-posix flex bison cmark-gfm ca-certificates xz-utils
-    bzip2 fonts-dejavu-core python3 wine wine64)
+    bzip2 git nsis patch fonts-dejavu-core python3 wine wine64)
 
 # Fetches all sources before anything is built: what cannot be had shows at once. The lists of packages lie in the cache:
 # the system's own are left alone, and need not name any sources.
@@ -29,7 +31,7 @@ make_sources() {
     mkdir "$KORVEL_WINDOWS_CACHE/sources"
     cd "$KORVEL_WINDOWS_CACHE/sources"
     "${apt[@]}" update
-    "${apt[@]}" source --only-source --tar-only qtbase-opensource-src libusb-1.0 hidapi avrdude
+    "${apt[@]}" source --only-source --tar-only qtbase-opensource-src avrdude
     if [ -n "${KORVEL_QTSERIALPORT:-}" ]; then
         cp -r "$KORVEL_QTSERIALPORT" qtserialport
     elif ! "${apt[@]}" source --only-source --tar-only qtserialport-opensource-src; then
@@ -37,11 +39,38 @@ make_sources() {
             "project and start again with KORVEL_QTSERIALPORT=ARCHIVE_OR_FOLDER."
         return 1
     fi
+    fetch_avrdude_library libelf 0c55bfe1d3020a20bddf6ce57c0d9d98ccb12586
+    fetch_avrdude_library libusb 1da30556b7abf7feebd856b0adac979996b7ca01
+    fetch_avrdude_library libhidapi 8ba3bf46696ec788e3ae9be69ea7b294166d5409
+    fetch_avrdude_library libftdi d141311aad458e7a2f28c027b06b837b2285ca6c
+}
+
+# Lays an archive of a commit of the libraries that avrdude's own CMake files name into the current folder:
+# fetch_avrdude_library NAME COMMIT.
+fetch_avrdude_library() {
+    local name=$1 commit=$2 archive=avrdude-$1-${2:0:12}.tar.gz repository=https://github.com/avrdudes/$1
+    if [ -n "${KORVEL_AVRDUDE_LIBRARIES:-}" ]; then
+        cp "$KORVEL_AVRDUDE_LIBRARIES/$archive" .
+        return
+    fi
+    git init -q --bare "$name.git"
+    git -C "$name.git" fetch -q --depth 1 "$repository" "$commit" || {
+        echo "The source of avrdude's $name cannot be had. Start again with KORVEL_AVRDUDE_LIBRARIES naming a folder" \
+            "that has an archive of that commit of $repository as $archive."
+        return 1
+    }
+    git -C "$name.git" archive --prefix "$name/" --output "$PWD/$archive" "$commit"
+    rm -rf "$name.git"
 }
 
 # The upstream archive of a Debian source package, and where it comes from.
 source_of() { ls "$KORVEL_WINDOWS_CACHE/sources/$1"_*.orig.tar.*; }
 origin_of() { echo "unchanged: source package $1 of $(. /etc/os-release && echo "$PRETTY_NAME")"; }
+origin_of_library() {
+    local archive
+    archive=$(ls "$KORVEL_WINDOWS_CACHE/sources/avrdude-$1"-*)
+    echo "$1 of the avrdude project, https://github.com/avrdudes/$1, commit $(zcat "$archive" | git get-tar-commit-id)"
+}
 
 # Unpacks a source into the folder "scratch" of the cache and prints where it lies; a folder is taken as it is.
 unpack() {
@@ -117,42 +146,36 @@ make_qtserialport() {
     credit qtserialport "Qt SerialPort $version, unchanged: qtserialport of the Qt project" "$source"/LICENSE.LGPL*
 }
 
-make_usb() {
-    local archive source
-    rm -rf "$KORVEL_WINDOWS_CACHE/usb"
-    archive=$(source_of libusb-1.0)
-    source=$(unpack "$archive" libusb)
-    cd "$source"
-    ./configure --host=$windows_target --prefix="$KORVEL_WINDOWS_CACHE/usb" --disable-shared CC=$windows_target-gcc-posix
-    make -j"$(nproc)"
-    make install
-    credit libusb "libusb $(version_of "$archive"), $(origin_of libusb-1.0)" "$source/COPYING"
-
-    archive=$(source_of hidapi)
-    source=$(unpack "$archive" hidapi)
-    cmake -S "$source" -B "$source/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$windows_toolchain" \
-        -DBUILD_SHARED_LIBS=OFF -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_LIBDIR=lib \
-        -DCMAKE_INSTALL_PREFIX="$KORVEL_WINDOWS_CACHE/usb"
-    cmake --build "$source/build" --target install
-    credit hidapi "hidapi $(version_of "$archive"), $(origin_of hidapi)" "$source"/LICENSE{,-bsd,-orig}.txt
-}
-
 make_avrdude() {
-    local archive source program manifest=$PWD/packaging/windows
+    local windows=$PWD/packaging/windows resources=$PWD/resources/windows archive source name folders=()
     archive=$(source_of avrdude)
     source=$(unpack "$archive" avrdude)
-    $windows_target-windres -O coff -I "$manifest" "$manifest/avrdude.rc" "$source/utf8.o"
+    for name in libelf libusb libhidapi libftdi; do
+        unpack "$(ls "$KORVEL_WINDOWS_CACHE/sources/avrdude-$name"-*)" $name
+        folders+=("-DFETCHCONTENT_SOURCE_DIR_${name^^}=$KORVEL_WINDOWS_CACHE/scratch/$name")
+    done
+    patch -p 1 -d "$KORVEL_WINDOWS_CACHE/scratch/libusb" <"$windows/libusb-no-arguments.patch"
+    $windows_target-windres -O coff -I "$resources" "$windows/avrdude.rc" "$source/utf8.o"
+    # libusb uses functions that a Windows header takes away by default; what its sources ask a linker of Microsoft for
+    # is named here, after all that needs it.
     cmake -S "$source" -B "$source/build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$windows_toolchain" \
-        -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_FLAGS="-I$KORVEL_WINDOWS_CACHE/usb/include -ffile-prefix-map=$source=avrdude" \
-        -DCMAKE_EXE_LINKER_FLAGS="-static -s $source/utf8.o" -DCMAKE_DISABLE_FIND_PACKAGE_Git=ON \
-        -DCMAKE_INSTALL_SYSCONFDIR=/etc
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_FLAGS="-ffile-prefix-map=$KORVEL_WINDOWS_CACHE/scratch=." \
+        -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$KORVEL_WINDOWS_CACHE/scratch=. -DSTRSAFE_NO_DEPRECATE" \
+        -DCMAKE_EXE_LINKER_FLAGS="-static -s $source/utf8.o" \
+        -DCMAKE_C_STANDARD_LIBRARIES="-lstdc++ -lwinusb -lsetupapi -lcfgmgr32 -lhid" \
+        -DUSE_EXTERNAL_LIBS=ON -DFETCHCONTENT_FULLY_DISCONNECTED=ON "${folders[@]}" \
+        -DCMAKE_DISABLE_FIND_PACKAGE_Git=ON -DCMAKE_INSTALL_SYSCONFDIR=/etc
     cmake --build "$source/build"
     rm -rf "$KORVEL_WINDOWS_CACHE/avrdude"
     mkdir "$KORVEL_WINDOWS_CACHE/avrdude"
-    program=$(find "$source/build" -name avrdude.exe)
-    cp "$program" "$source/build/src/avrdude.conf" "$KORVEL_WINDOWS_CACHE/avrdude/"
+    cp "$source/build/src/"avrdude.{exe,conf} "$KORVEL_WINDOWS_CACHE/avrdude/"
     credit avrdude "avrdude $(version_of "$archive"), $(origin_of avrdude), but for a manifest that has it take UTF-8 \
 file names" "$source/COPYING"
+    cd "$KORVEL_WINDOWS_CACHE/scratch"
+    credit libelf "$(origin_of_library libelf)" libelf/COPYING.LIB
+    credit libusb "$(origin_of_library libusb), with packaging/windows/libusb-no-arguments.patch" libusb/COPYING_{GPL,LGPL}.txt
+    credit libhidapi "$(origin_of_library libhidapi)" libhidapi/LICENSE{,-bsd,-gpl3,-orig}.txt
+    credit libftdi "$(origin_of_library libftdi)" libftdi/{LICENSE,COPYING.LIB}
 }
 
 # What the compiler adds to every program.
@@ -202,7 +225,7 @@ make_windows_libraries() {
         exit 1
     fi
     local recipe
-    for recipe in make_sources make_qt make_qtserialport make_usb make_avrdude make_wine; do
+    for recipe in make_sources make_qt make_qtserialport make_avrdude make_wine; do
         make_once "$recipe"
     done
     credit_runtime
