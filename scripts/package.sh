@@ -13,7 +13,7 @@ export CXXFLAGS LDFLAGS
 # and belongs to root, whoever makes them.
 if [ -z "${SOURCE_DATE_EPOCH:-}" ]; then
     SOURCE_DATE_EPOCH=$([ -e .git ] && git log -1 --format=%ct 2>/dev/null ||
-        dpkg-parsechangelog --file packaging/changelog --show-field Timestamp)
+        date -ud "$(sed -nE '/^## /{s/.*\((.*)\)/\1/p;q}' CHANGELOG.md) 12:00" +%s)
 fi
 export SOURCE_DATE_EPOCH
 umask 022
