@@ -1,8 +1,7 @@
-# Sourced by the launchers, which say in $prefix where Korvel was installed. Leaves the shell in the user's work folder,
-# which is set up when it is not there.
+# Sourced by the launchers, which say in $prefix where Korvel was installed and in $library where this file lies. Leaves
+# the shell in the user's work folder, which is set up when it is not there.
 
 share=$prefix/share/korvel
-library=$prefix/lib/korvel
 
 . "$library/tell.sh"
 
