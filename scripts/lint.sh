@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks the translations, which part includes which, and layout (clang-format) and code (clang-tidy) of all our sources.
-# Changes nothing.
+# Checks the translations, which part includes which, that every place names the same version, and layout (clang-format)
+# and code (clang-tidy) of all our sources. Changes nothing.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the translations
 
@@ -11,6 +11,24 @@ trap 'rm -r "$scratch"' EXIT
 lupdate -silent src translations/toolkit.cpp -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
 scripts/check-includes.py
+
+# The first entry of CHANGELOG.md says which version this is and of which day.
+read -r version date < <(sed -nE '/^## /{s/^## (.*) \((.*)\)$/\1 \2/p;q}' CHANGELOG.md)
+while IFS=@ read -r file line; do
+    grep -qxF -- "$line" "$file" || { echo "$file lacks this line: $line" >&2; exit 1; }
+done <<EOF
+CMakeLists.txt@project(Korvel VERSION $version LANGUAGES CXX)
+src/about/AboutView.cpp@    "v$version - $(date -d "$date" +%d.%m.%Y) \\n"
+packaging/arch/PKGBUILD@pkgver=$version
+packaging/rpm/korvel.spec@Version:        $version
+packaging/man/korvel.1@.TH KORVEL 1 "$date" "Korvel $version" "User Commands"
+packaging/man/korvel-ts2json.1@.TH KORVEL-TS2JSON 1 "$date" "Korvel $version" "User Commands"
+packaging/man/korvel-virtual-programmer.1@.TH KORVEL-VIRTUAL-PROGRAMMER 1 "$date" "Korvel $version" "User Commands"
+EOF
+# So do the names of packages in texts.
+stale=$(git grep -noE 'korvel[-_][0-9]+(\.[0-9]+)*' -- '*.md' '*.sh' | grep -vE "[-_]${version//./\\.}$" || true)
+[ -z "$stale" ] || { printf 'of another version than %s:\n%s\n' "$version" "$stale" >&2; exit 1; }
+echo "version: $version of $date everywhere"
 
 mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' \
     'bench/*.cpp' 'fuzz/*.cpp' 'translations/*.cpp')
