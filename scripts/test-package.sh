@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Tries what scripts/package.sh made as a user would, each package in a fresh Debian root: installs it, starts it under
 # Xvfb as an ordinary user, writes the virtual chip with the mouse, removes it, and looks at what is left. Needs root
-# and a few minutes. Leaves screenshots in build/package.
+# and a few minutes. Leaves screenshots in build/package. Asks the checkers of Debian and of desktops first.
 source "$(dirname "$0")/common.sh"
 [ "$(id -u)" -eq 0 ] || { echo "Run this as root: it makes a root folder of its own." >&2; exit 1; }
-need_packages debootstrap
+need_packages debootstrap lintian appstream desktop-file-utils
 packages=$PWD/build/package
 deb=$(ls "$packages"/*.deb)
 archive=$(ls "$packages"/*.tar.gz)
@@ -69,6 +69,13 @@ use() {
     as_user "xvfb-run -a -s '-screen 0 800x760x24 -dpi 96' sh /use.sh $*"
     grep -q '"name": "Blink"' "$root/home/tester/$settings" || { echo "the settings were not kept" >&2; false; }
 }
+
+echo "== what distributions check"
+lintian --allow-root -EvIL +pedantic --fail-on error,warning,info,pedantic,experimental "$deb"
+dpkg-deb -x "$deb" "$root"
+# The reserved name in our identifier is no domain that AppStream knows.
+appstreamcli validate --no-net --pedantic --strict --override=cid-maybe-not-rdns=pedantic "$root"/usr/share/metainfo/*
+desktop-file-validate "$root"/usr/share/applications/*
 
 make_root
 echo "== the Debian package"
