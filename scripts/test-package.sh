@@ -40,6 +40,7 @@ make_root() {
 # use.sh PROGRAMMER KORVEL FIRMWARE: loads the first sample profile, presses Write, closes the window.
 set -eu
 openbox & started=$!
+until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done # a window that comes while it starts stays hidden
 "$1" --state chip.json & started="$started $!"
 trap 'kill $started' EXIT
 "$2" & korvel=$!
