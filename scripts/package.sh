@@ -3,7 +3,7 @@
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the language files
 
-need_packages "${build_packages[@]}" dpkg-dev fakeroot file librsvg2-bin
+need_packages "${build_packages[@]}" dpkg-dev fakeroot file librsvg2-bin patchelf
 # Debian's flags harden the programs; CMake takes them over when it configures a folder for the first time.
 CXXFLAGS=$(dpkg-buildflags --get CXXFLAGS)
 CXXFLAGS+=" $(dpkg-buildflags --get CPPFLAGS)"
@@ -19,5 +19,5 @@ export SOURCE_DATE_EPOCH
 umask 022
 build package
 cd build/package
-rm -rf _CPack_Packages ./*.deb ./*.tar.gz
+rm -rf _CPack_Packages ./*.deb ./*.tar.*
 fakeroot cpack
