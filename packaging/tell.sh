@@ -7,7 +7,7 @@ tell() {
     [ -t 2 ] && return
     if command -v zenity >/dev/null; then zenity --error --no-markup --title=Korvel --text="$1"
     elif command -v kdialog >/dev/null; then kdialog --title Korvel --error "$1"
-    elif command -v xmessage >/dev/null; then xmessage "$1"
+    elif command -v xmessage >/dev/null; then xmessage -center -default okay "$1"
     elif command -v notify-send >/dev/null; then notify-send Korvel "$1"
     fi >/dev/null 2>&1 || true
 }
