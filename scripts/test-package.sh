@@ -2,8 +2,7 @@
 # Tries what scripts/package.sh made as a user would: the Debian package in a fresh root of this Debian, the archive in
 # those of Debian 12, 13 and 11 and, where the mirror has it, Ubuntu 22.04. Installs it, starts it under Xvfb as an
 # ordinary user, writes the virtual chip with the mouse, removes it, and looks at what is left. Needs root and five to ten
-# minutes. Leaves screenshots in build/package. Asks the checkers of Debian and of desktops
-# first.
+# minutes. Asks the checkers of Debian and of desktops first. Leaves screenshots in build/package.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of folders
 [ "$(id -u)" -eq 0 ] || { echo "Run this as root: it makes a root folder of its own." >&2; exit 1; }
