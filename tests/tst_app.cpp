@@ -81,7 +81,7 @@ private slots:
             QCOMPARE(boxes.take(), QStringList {"Korvel, warning: Failed to load settings from file: save.json"});
             QCOMPARE(folder.read(kept), content);
             const QString path = QDir::toNativeSeparators(QDir().absoluteFilePath(kept));
-            QVERIFY(window.findChild<Avrdude*>()->log().toPlainText().endsWith(
+            QVERIFY(window.findChild<Avrdude*>()->log().toPlainText().contains(
                 QString("save.json (%1)\nThe file is kept as %2.\n").arg(reason, path)));
             window.close();
             QVERIFY(SettingsRecord().loadFromFile(file)); // a new one
@@ -332,9 +332,9 @@ private slots:
             QTimer::singleShot(0, this, [] { std::raise(SIGTERM); });
             QDialog(&window).exec(); // open until the signal
             QVERIFY(!window.isVisible());
-#else
-            QVERIFY(window.close());
+            QCOMPARE(boxes.take(), QStringList()); // nobody is there to read one
 #endif
+            QVERIFY(window.close());
         }
         QCOMPARE(boxes.take(), QStringList {"Korvel, warning: Failed to save settings to file: save.json"});
     }

@@ -642,6 +642,10 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
         <source>Do you want to close Korvel all the same?</source>
         <translation>Korvel trotzdem schließen?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel kann im Ordner %1 nicht schreiben: Was Sie wählen, wird nicht behalten.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Trotzdem löschen?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude erhält zusätzliche Argumente, die nicht in der Datei des Programmers stehen: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Bis Sie ein Tempo wählen, wird das der Einstellungen benutzt: %1</translation>
     </message>
 </context>
 <context>

@@ -641,6 +641,10 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <source>Do you want to close Korvel all the same?</source>
         <translation>Do you want to close Korvel all the same?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel cannot write to the folder %1: what you choose is not kept.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1348,6 +1352,10 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude gets further arguments that the programmer&apos;s file does not have: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Until you choose a speed, that of the settings is used: %1</translation>
     </message>
 </context>
 <context>

@@ -642,6 +642,10 @@ Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que
         <source>Do you want to close Korvel all the same?</source>
         <translation>¿Desea cerrar Korvel de todos modos?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel no puede escribir en la carpeta %1: lo que elija no se guardará.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude recibe argumentos adicionales que no figuran en el archivo del programador: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Hasta que elija una velocidad, se usa la de los ajustes: %1</translation>
     </message>
 </context>
 <context>

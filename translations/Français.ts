@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>avrdude n&apos;est pas à côté de Korvel : %1 est utilisé à la place.</translation>
+        <translation>avrdude n&apos;est pas à côté de Korvel&#xa0;: %1 est utilisé à la place.</translation>
     </message>
 </context>
 <context>
@@ -641,6 +641,10 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
     <message>
         <source>Do you want to close Korvel all the same?</source>
         <translation>Voulez-vous fermer Korvel quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel ne peut pas écrire dans le dossier %1 : vos choix ne seront pas conservés.</translation>
     </message>
 </context>
 <context>
@@ -1349,6 +1353,10 @@ Le supprimer quand même ?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude reçoit des arguments supplémentaires qui ne figurent pas dans le fichier du programmateur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Tant que vous ne choisissez pas de vitesse, celle des réglages est utilisée : %1</translation>
     </message>
 </context>
 <context>

@@ -642,6 +642,10 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
         <source>Do you want to close Korvel all the same?</source>
         <translation>Chiudere comunque Korvel?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel non può scrivere nella cartella %1: le scelte non verranno conservate.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Eliminarlo comunque?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude riceve argomenti aggiuntivi che non figurano nel file del programmatore: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Finché non si sceglie una velocità, viene usata quella delle impostazioni: %1</translation>
     </message>
 </context>
 <context>

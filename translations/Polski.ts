@@ -642,6 +642,10 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, k
         <source>Do you want to close Korvel all the same?</source>
         <translation>Czy mimo to zamknąć Korvel?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel nie może zapisywać w folderze %1: wybrane ustawienia nie zostaną zachowane.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Usunąć mimo to?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude otrzymuje dodatkowe argumenty, których nie ma w pliku programatora: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Dopóki nie wybierzesz szybkości, używana jest ta z ustawień: %1</translation>
     </message>
 </context>
 <context>

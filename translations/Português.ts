@@ -642,6 +642,10 @@ Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que 
         <source>Do you want to close Korvel all the same?</source>
         <translation>Deseja fechar o Korvel mesmo assim?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>O Korvel não consegue gravar na pasta %1: o que você escolher não será mantido.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Excluir mesmo assim?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>O avrdude recebe argumentos adicionais que não estão no arquivo do gravador: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Até você escolher uma velocidade, é usada a das configurações: %1</translation>
     </message>
 </context>
 <context>

@@ -642,6 +642,10 @@ Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset baca�
         <source>Do you want to close Korvel all the same?</source>
         <translation>Korvel yine de kapatılsın mı?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel %1 klasörüne yazamıyor: seçtikleriniz saklanmayacak.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Yine de silinsin mi?</translation>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude, programlayıcının dosyasında bulunmayan ek argümanlar alıyor: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Siz bir hız seçene kadar ayarlardaki kullanılır: %1</translation>
     </message>
 </context>
 <context>

@@ -642,6 +642,10 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <source>Do you want to close Korvel all the same?</source>
         <translation>Всё равно закрыть Korvel?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel не может записывать в папку %1: выбранное не сохранится.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude получает дополнительные аргументы, которых нет в файле программатора: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Пока вы не выбрали скорость, используется скорость из настроек: %1</translation>
     </message>
 </context>
 <context>

@@ -642,6 +642,10 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <source>Do you want to close Korvel all the same?</source>
         <translation>Усе одно закрити Korvel?</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel не може записувати в теку %1: вибране не збережеться.</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1349,6 +1353,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude отримує додаткові аргументи, яких немає у файлі програматора: %1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>Поки ви не вибрали швидкість, використовується швидкість із налаштувань: %1</translation>
     </message>
 </context>
 <context>

@@ -641,6 +641,10 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <source>Do you want to close Korvel all the same?</source>
         <translation>仍要关闭 Korvel 吗？</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel 无法写入文件夹 %1：您的选择不会被保存。</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1348,6 +1352,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>avrdude 将收到编程器文件中没有的附加参数：%1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>在您选择速度之前，将使用设置中的速度：%1</translation>
     </message>
 </context>
 <context>

@@ -641,6 +641,10 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <source>Do you want to close Korvel all the same?</source>
         <translation>それでも Korvel を閉じますか？</translation>
     </message>
+    <message>
+        <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
+        <translation>Korvel はフォルダー %1 に書き込めません。選択した内容は保存されません。</translation>
+    </message>
 </context>
 <context>
     <name>Memory</name>
@@ -1348,6 +1352,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
         <translation>書込器のファイルにない追加の引数を avrdude に渡します：%1</translation>
+    </message>
+    <message>
+        <source>Until you choose a speed, that of the settings is used: %1</source>
+        <translation>速度を選択するまでは、設定の速度を使用します: %1</translation>
     </message>
 </context>
 <context>

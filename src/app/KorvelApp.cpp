@@ -20,6 +20,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -112,12 +114,25 @@ KorvelApp::KorvelApp(QWidget* parent)
         m_program->refresh();
         m_settings->updateView();
     }
+    if (!QFileInfo(QDir::currentPath()).isWritable())
+        m_log->appendLine(tr("Korvel cannot write to the folder %1: what you choose is not kept.").arg(fullPath({})));
 }
 
-void KorvelApp::saveSettings()
+void KorvelApp::saveSettings(Witness witness)
 {
-    if (!m_avrdude->settings().saveToFile(ProductInfo::settingsFile))
+    if (m_avrdude->settings().saveToFile(ProductInfo::settingsFile))
+        return;
+    if (witness == Witness::User)
         warnAboutSettings(tr("Failed to save settings to file: "));
+    else
+        qDebug() << "Failed to save settings to file:" << ProductInfo::settingsFile;
+}
+
+void KorvelApp::closeUnwatched()
+{
+    m_witness = Witness::Nobody;
+    close();
+    m_witness = Witness::User;
 }
 
 bool KorvelApp::loadSettings()
@@ -181,7 +196,7 @@ void KorvelApp::showRunning(bool isRunning)
 
 void KorvelApp::closeEvent(QCloseEvent* event)
 {
-    saveSettings();
+    saveSettings(m_witness);
     // Only a hand's own closing waits for an answer: the session's end and signals do not. Asked from the event loop,
     // as a window that is closing does not hear of another request to close.
     const bool isAsked = event->spontaneous() && m_avrdude->isRunning();

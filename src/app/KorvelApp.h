@@ -23,8 +23,14 @@ class KorvelApp : public QMainWindow
 public:
     explicit KorvelApp(QWidget* parent = nullptr);
 
-    /// Writes the settings file. On failure a box says so; the window closes all the same.
-    void saveSettings();
+    enum class Witness { User, Nobody };
+
+    /// Writes the settings file. A failure is told to the @p witness: the user in a box, nobody in the debug log, as a
+    /// box would hold up a session that ends. The window closes all the same.
+    void saveSettings(Witness witness = Witness::User);
+
+    /// Closes the window for who is not there to read a box.
+    void closeUnwatched();
 
     /// Reads the settings file into the record. Returns false when there is none (silently: a first start) or when it
     /// cannot be used: a box says so, and the log why, and under which other name the file is kept.
@@ -64,4 +70,5 @@ private:
     Program* m_program;
     Profiles* m_profiles;
     Settings* m_settings;
+    Witness m_witness = Witness::User; ///< of the closing
 };

@@ -75,7 +75,7 @@ KorvelApp* mainWindow()
 void endProgram()
 {
     if (KorvelApp* window = mainWindow())
-        window->close();
+        window->closeUnwatched();
     QCoreApplication::exit();
 }
 
@@ -149,7 +149,7 @@ void Startup::closeOnRequest()
     Toolkit::keepWindowsOnCommit();
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp, [] {
         if (KorvelApp* window = mainWindow())
-            window->saveSettings();
+            window->saveSettings(KorvelApp::Witness::Nobody);
     });
 }
 

@@ -1,6 +1,7 @@
 #include "base/ListComboBox.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -55,6 +56,10 @@ ListComboBox::ListComboBox(Width width, QWidget* parent)
     : QComboBox(parent)
 {
     setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    connect(this, &QComboBox::currentTextChanged, this, [this] {
+        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    });
     if (width == Width::Any) {
         constexpr int minimumLength = 3; // characters
         setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -62,10 +67,17 @@ ListComboBox::ListComboBox(Width width, QWidget* parent)
     }
 }
 
+QStringList ListComboBox::told() const
+{
+    QStringList texts {currentText(), m_remark};
+    texts.removeAll({});
+    return texts;
+}
+
 bool ListComboBox::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip)
-        setToolTip(currentText());
+        setToolTip(told().join(QLatin1Char('\n')));
     return QComboBox::event(event);
 }
 

@@ -27,6 +27,12 @@ public:
     /// @p wordsFor tells what else an entry is called. It is asked for each once, when something is looked for.
     void setOtherWords(std::function<QStringList(const QString& name)> wordsFor) { m_wordsFor = std::move(wordsFor); }
 
+    /// Has the tooltip say @p remark below the entry, and who listens to the list hear it; an empty one is none.
+    void setRemark(const QString& remark) { m_remark = remark; }
+
+    /// What the tooltip says, and what is read out after the name: the entry and the remark.
+    [[nodiscard]] QStringList told() const;
+
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void showPopup() override;
@@ -46,6 +52,7 @@ private:
     void pick(int index);
 
     std::function<QStringList(const QString& name)> m_wordsFor;
+    QString m_remark;
     QLineEdit* m_search = nullptr; ///< lies over the box while something is looked for; made by the first search
     QCompleter* m_completer = nullptr;
 };

@@ -70,6 +70,12 @@ void SettingsPresenter::refreshFromSettings()
     }
     showPort();
     m_view.speed()->setCurrentText(m_settings.speed);
+    QString otherSpeed;
+    if (m_view.speed()->currentText() != m_settings.speed) // the list shows its first entry
+        otherSpeed = tr("Until you choose a speed, that of the settings is used: %1").arg(shownText(m_settings.speed));
+    m_view.speed()->setRemark(otherSpeed);
+    if (!otherSpeed.isEmpty() && (isStart || isReplaced))
+        m_log.appendLine(otherSpeed);
     m_view.language()->setCurrentText(m_settings.language);
     tell(entry);
 }
@@ -173,6 +179,7 @@ void SettingsPresenter::availableComPortsLin(QComboBox* comboBox)
 void SettingsPresenter::setSpeedProgrammer(const QString& speed)
 {
     m_settings.speed = speed;
+    m_view.speed()->setRemark({});
     emit chosen();
 }
 

@@ -14,12 +14,12 @@ public:
 
     [[nodiscard]] ListComboBox* programmer() const { return m_programmer; }
     [[nodiscard]] QComboBox* port() const { return m_port; }
-    [[nodiscard]] QComboBox* speed() const { return m_speed; }
+    [[nodiscard]] ListComboBox* speed() const { return m_speed; }
     [[nodiscard]] QComboBox* language() const { return m_language; }
 
 private:
     ListComboBox* m_programmer;
     QComboBox* m_port;
-    QComboBox* m_speed;
+    ListComboBox* m_speed;
     QComboBox* m_language;
 };
