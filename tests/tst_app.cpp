@@ -166,6 +166,37 @@ private slots:
                               "Profiles: Board", "Programmer: Mine", "Speed ( New MCU -> 185kHz ): 1 kHz (-B 512)"}));
     }
 
+    void everythingIsFoundByItsOwnName()
+    {
+        const WorkFolder folder;
+        const BoxAnswerer boxes;
+        folder.write("mcu/ATtiny85.json", "{}");
+        folder.write(file, m_full);
+        KorvelApp window;
+        window.show();
+        auto* tabs = window.findChild<QTabWidget*>();
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            QStringList names;
+            for (auto* widget : window.findChildren<QWidget*>()) {
+                if (!widget->isVisible() || (widget->focusPolicy() & Qt::TabFocus) == 0
+                    || widget->inherits("QScrollArea") || widget->focusProxy())
+                    continue;
+                const QAccessibleInterface* found = QAccessible::queryAccessibleInterface(widget);
+                const QString name = found->text(QAccessible::Name);
+                QVERIFY2(!name.isEmpty() || !widget->isEnabled(), widget->metaObject()->className());
+                names += QString("%1 %2").arg(found->role()).arg(name);
+                if (auto* list = qobject_cast<QComboBox*>(widget))
+                    QVERIFY(found->text(QAccessible::Description).startsWith(list->currentText()));
+            }
+            QVERIFY(names.size() > 5);
+            QCOMPARE(names.removeDuplicates(), 0);
+        }
+        QMessageBox box(QMessageBox::NoIcon, "title", "text");
+        box.setInformativeText("below");
+        QCOMPARE(QAccessible::queryAccessibleInterface(&box)->text(QAccessible::Description), QString("text. below"));
+    }
+
     void aRunIsFollowedAndStopped()
     {
         const WorkFolder folder;

@@ -80,6 +80,7 @@ AboutView::AboutView(QWidget* parent)
 
     m_versions = new QTextEdit(this);
     m_versions->setReadOnly(true);
+    m_versions->setAccessibleName(QStringLiteral("Version history"));
     m_versions->setLineWrapMode(QTextEdit::WidgetWidth);
     m_versions->setStyleSheet(QStringLiteral("QTextEdit {  background-color: #f0f0f0;  border: 1px solid #cccccc;  "
                                              "border-radius: 3px;  font-family: Consolas, 'Courier New', monospace;  "

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/PlainLabels.h"
+#include "base/Spoken.h"
 
 #include <QMainWindow>
 
@@ -61,6 +62,7 @@ private:
     void askToClose();
 
     PlainLabels m_plainLabels; ///< before all widgets
+    Spoken m_spoken; ///< the same
     QScrollArea* m_central;
     QWidget* m_content; ///< scrolls in it where the screen is too small
     AvrdudeMessage* m_log;

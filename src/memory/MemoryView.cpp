@@ -43,7 +43,11 @@ MemoryView::Row MemoryView::makeRow(const QString& memory, const QString& action
         new RunButton(action, this),
         new RunButton(tr("Verify"), this),
     };
-    row.path->setAccessibleName(memory + QLatin1String(": ") + action);
+    // The buttons' texts are the same in each row.
+    const QString name = memory + QLatin1String(": ") + action;
+    row.path->setAccessibleName(name);
+    row.action->setAccessibleName(name);
+    row.verify->setAccessibleName(name + QLatin1String(": ") + row.verify->text());
     row.browse->setAccessibleName(dialogTitle);
     row.browse->setFixedWidth(browseWidth);
     row.action->setEnabled(false);

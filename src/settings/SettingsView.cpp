@@ -31,6 +31,8 @@ SettingsView::SettingsView(QWidget* parent)
     addBox(tr("Programmer"), {m_programmer}, 1);
     const QString connection = tr("Port && Speed ( New MCU -> 185kHz )");
     addBox(connection, {m_port, m_speed}, 0);
+    for (QComboBox* list : {m_port, static_cast<QComboBox*>(m_speed)})
+        list->setAccessibleDescription(list->accessibleName()); // of both
     m_port->setAccessibleName(connection.section(QLatin1String("&&"), 0, 0).trimmed());
     m_speed->setAccessibleName(connection.section(QLatin1String("&&"), 1).trimmed());
     addBox(tr("Language"), {m_language}, 0);
