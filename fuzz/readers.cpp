@@ -86,9 +86,11 @@ void profile(Fuzz& fuzz, const QByteArray& input)
 void protocol(Fuzz& /*fuzz*/, const QByteArray& input)
 {
     static const QStringList folders {DATA_FOLDER "/mcu"};
-    static const std::array parts {*MappedPart::described(readDescription("ATtiny1614", folders)),
-                                   *MappedPart::described(readDescription("AVR128DA48", folders)),
-                                   *MappedPart::described(readDescription("ATxmega128A4U", folders))};
+    const auto part = [](const QString& name) {
+        QString error;
+        return *MappedPart::described(*Description::read(name, folders, error));
+    };
+    static const std::array parts {part("ATtiny1614"), part("AVR128DA48"), part("ATxmega128A4U")};
     MappedChip chip(parts[input.isEmpty() ? 0 : static_cast<uchar>(input[0]) % parts.size()]);
     JtagMkII programmer(chip);
     static_cast<void>(programmer.receive(input));

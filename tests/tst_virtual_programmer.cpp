@@ -30,6 +30,16 @@ static QByteArray bytesOf(const QString& list)
     return bytes;
 }
 
+/// The description that ships of a part.
+static Description describe(const QString& part)
+{
+    QString error;
+    const auto found = Description::read(part.toLower(), {DATA_FOLDER "/mcu"}, error);
+    if (!found)
+        qFatal("no description of %s. %s", qPrintable(part), qPrintable(error));
+    return *found;
+}
+
 class tst_VirtualProgrammer : public QObject
 {
     Q_OBJECT
@@ -96,11 +106,10 @@ private slots:
             if (cells.size() > 4 && cells[0] == ".ptmm")
                 listed[cells.mid(1, 3).join(' ')] = cells[4];
         }
-        const QDir descriptions(DATA_FOLDER "/mcu");
         int compared = 0;
         QStringList differing;
-        for (const QString& file : descriptions.entryList({"*.json"}, QDir::Files)) {
-            const auto part = MappedPart::described(readDescription(file.chopped(5).toLower(), {descriptions.path()}));
+        for (const QString& file : QDir(DATA_FOLDER "/mcu").entryList({"*.json"}, QDir::Files)) {
+            const auto part = MappedPart::described(describe(file.chopped(5)));
             if (!part || !listed.contains(part->shape.part + " flash size"))
                 continue; // newer than this avrdude, or ISP
             ++compared;
@@ -109,18 +118,17 @@ private slots:
                 if (listed.value(name, QString::number(value)).toInt(nullptr, 0) != value)
                     differing += name;
             };
-            const QString user = part->interface == MappedPart::Interface::Updi ? "userrow" : "usersig";
+            const QString user = part->isUpdi ? "userrow" : "usersig";
             for (const auto& [memory, place] : {std::pair<QString, int>("flash", MappedPart::Flash),
                                                 {"eeprom", MappedPart::Eeprom},
                                                 {"fuses", MappedPart::Fuses},
                                                 {"lock", MappedPart::Lock},
                                                 {user, MappedPart::UserRow},
                                                 {"signature", MappedPart::Signature},
-                                                {"prodsig", MappedPart::ProductionSignature}})
+                                                {"prodsig", MappedPart::ProductionSignature}}) {
                 compare(memory + " offset", static_cast<int>(part->places[place].address));
-            compare("flash size", part->places[MappedPart::Flash].size);
-            compare("eeprom size", part->places[MappedPart::Eeprom].size);
-            compare("lock size", part->places[MappedPart::Lock].size);
+                compare(memory + " size", part->places[place].size);
+            }
             compare("flash page_size", part->flashPageSize);
             compare("eeprom page_size", part->eepromPageSize);
         }
@@ -132,7 +140,7 @@ private slots:
 
     void jtagConversation()
     {
-        MappedChip chip(*MappedPart::described(readDescription(cell("part"), {DATA_FOLDER "/mcu"})));
+        MappedChip chip(*MappedPart::described(describe(cell("part"))));
         JtagMkII programmer(chip);
         QStringList answers;
         quint16 number = 7;
@@ -166,6 +174,22 @@ private slots:
         for (const char byte : bytesOf("start, " + cell("sent")))
             answers += programmer.receive(QByteArray(1, byte)); // a connection may cut a command anywhere
         QCOMPARE(answers.toHex(' '), bytesOf("ok, " + cell("answered")).toHex(' '));
+    }
+
+    void chipWithoutEepromAndEesave()
+    {
+        Description description = describe("AT90S2313");
+        for (const int size : {description.eepromSize, 0}) {
+            description.eepromSize = size;
+            const Part part = *Part::described(description);
+            Chip chip(part);
+            Stk500 programmer(chip);
+            const QByteArray answers =
+                programmer.receive(bytesOf("start, write eeprom 12, read eeprom 1, erase, read eeprom 1"));
+            QCOMPARE(int(chip.state().eeprom.size()), size);
+            QCOMPARE(answers.toHex(' '),
+                     bytesOf(size > 0 ? "ok, ok, ok 12, ok, ok FF" : "ok, ok, ok 00, ok, ok 00").toHex(' '));
+        }
     }
 
     void stateIsKeptInAFileAndADamagedOneIsLeftAlone_data() { casesFrom("states.txt", {"text", "instead", "error"}); }
@@ -246,10 +270,16 @@ private slots:
         QCOMPARE(second.state(), QAbstractSocket::UnconnectedState); // more than four bytes on this connection
     }
 
-    void options_data() { casesFrom("options.txt", {"options", "exitCode", "said"}); }
+    void options_data() { casesFrom("options.txt", {"options", "exitCode", "said", "text", "instead"}); }
 
     void options()
     {
+        const WorkFolder folder;
+        const QString path = "mcu/" + cell("options").section(' ', 1, 1) + ".json";
+        const QString description = QString(folder.read(DATA_FOLDER "/" + path)).simplified();
+        QVERIFY(description.contains(cell("text")));
+        if (!cell("text").isEmpty())
+            folder.write(path, QString(description).replace(cell("text"), cell("instead")).toUtf8());
         QTcpServer other;
         QVERIFY(other.listen(QHostAddress::LocalHost));
         const QString port = QString::number(other.serverPort());

@@ -60,7 +60,7 @@ void Chip::leaveProgramming()
 bool Chip::answers(int bitClock) const
 {
     const bool hasResetPin = (~m_state.fuses[Part::HighFuse] & m_part.resetPin) == 0;
-    const bool isSerialEnabled = (m_state.fuses[m_part.spien.fuse] & m_part.spien.mask) == 0;
+    const bool isSerialEnabled = !m_state.isSet(m_part.spien);
     // "Serial Programming": SCK has to be low and high for more than 2 cycles each. (From 12 MHz on for more than 3,
     // which is still twice as fast as an STK500 can be.)
     return hasResetPin && isSerialEnabled && 4 * bitClock < clockFrequency();
@@ -84,7 +84,9 @@ std::optional<quint8> Chip::execute(const Instruction& in)
         // A protected memory does not answer. What is read instead is the low byte of each address, shifted back.
         return mayRead() ? std::optional(static_cast<quint8>(m_state.flash.at(flashAddress(in)))) : std::nullopt;
     case 0xA0:
-        return mayRead() ? std::optional(static_cast<quint8>(m_state.eeprom.at(eepromAddress(in)))) : std::nullopt;
+        return mayRead() && m_part.eepromSize > 0
+            ? std::optional(static_cast<quint8>(m_state.eeprom.at(eepromAddress(in))))
+            : std::nullopt;
     case 0x30:
         return index < m_part.signature.size() ? m_part.signature[index] : quint8 {0xFF};
     case 0x38:
@@ -146,11 +148,7 @@ void Chip::executeWrite(const Instruction& in)
 
 void Chip::eraseChip()
 {
-    const bool keepsEeprom = (m_state.fuses[m_part.eesave.fuse] & m_part.eesave.mask) == 0;
-    m_state.flash.fill('\xFF');
-    if (!keepsEeprom)
-        m_state.eeprom.fill('\xFF');
-    m_state.lock = m_shape.factory.lock;
+    eraseMemories(m_part.eesave.mask != 0 && !m_state.isSet(m_part.eesave));
 }
 
 void Chip::writeFuse(Part::Fuse fuse, quint8 value)
@@ -158,8 +156,7 @@ void Chip::writeFuse(Part::Fuse fuse, quint8 value)
     if (!mayWrite())
         return;
     // SPIEN cannot be reached by serial programming: nobody shuts the door from inside.
-    const int fixedBits = ~m_part.fuseBits[fuse] | (fuse == m_part.spien.fuse ? m_part.spien.mask : 0);
-    m_state.fuses[fuse] = static_cast<quint8>((m_state.fuses[fuse] & fixedBits) | (value & ~fixedBits));
+    writeFuseBits(fuse, value, m_part.fuseBits[fuse] & ~(fuse == m_part.spien.fuse ? m_part.spien.mask : 0));
 }
 
 void Chip::writeFlashPage(int address)
@@ -172,7 +169,7 @@ void Chip::writeFlashPage(int address)
 
 void Chip::writeEeprom(int address, quint8 value)
 {
-    if (mayWrite())
+    if (mayWrite() && m_part.eepromSize > 0)
         m_state.eeprom[address] = static_cast<char>(value);
 }
 

@@ -15,6 +15,12 @@ struct ChipShape;
 /// one. Flash, EEPROM and user row are objects of address to bytes, both hexadecimal; what is not listed is erased
 /// (0xFF).
 struct ChipState {
+    /// One bit of one fuse byte.
+    struct FuseBit {
+        int fuse = 0; ///< which byte
+        quint8 mask = 0; ///< 0: the part does not have the bit
+    };
+
     QByteArray flash;
     QByteArray eeprom;
     QVector<quint8> fuses;
@@ -28,6 +34,9 @@ struct ChipState {
     /// Replaces the file at `path` as a whole. False, and `error` says why, when that fails; the file is then as
     /// before.
     [[nodiscard]] bool save(const QString& path, const ChipShape& shape, QString& error) const;
+
+    /// Whether a bit of the fuses is 1, which one that the part does not have never is.
+    [[nodiscard]] bool isSet(const FuseBit& bit) const { return (fuses[bit.fuse] & bit.mask) != 0; }
 
     bool operator==(const ChipState& other) const;
 };

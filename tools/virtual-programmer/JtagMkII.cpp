@@ -86,11 +86,6 @@ quint32 numberAt(const QByteArray& bytes, int at)
     return bytes.size() < at + 4 ? 0 : qFromLittleEndian<quint32>(bytes.constData() + at);
 }
 
-quint8 byteAt(const QByteArray& bytes, int at)
-{
-    return at < bytes.size() ? static_cast<quint8>(bytes.at(at)) : quint8 {0};
-}
-
 QByteArray answer(Answer code, const QByteArray& data = {})
 {
     return static_cast<char>(code) + data;

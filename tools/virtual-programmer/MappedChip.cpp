@@ -8,9 +8,8 @@ MappedChip::MappedChip(MappedPart part)
 
 bool MappedChip::enterProgramming()
 {
-    const auto& pin = m_part.updiPin;
     m_isLocked = m_state.lock != m_shape.factory.lock;
-    m_isProgramming = pin.fuse < 0 || (m_state.fuses[pin.fuse] & pin.mask) != 0;
+    m_isProgramming = m_part.updiPin.mask == 0 || m_state.isSet(m_part.updiPin);
     return m_isProgramming;
 }
 
@@ -70,11 +69,9 @@ bool MappedChip::write(quint32 address, const QByteArray& bytes)
         case MappedPart::Eeprom:
             m_state.eeprom[offset] = byte;
             break;
-        case MappedPart::Fuses: {
-            const quint8 bits = m_shape.fuseBits[offset];
-            m_state.fuses[offset] = static_cast<quint8>((m_state.fuses[offset] & ~bits) | (byte & bits));
+        case MappedPart::Fuses:
+            writeFuseBits(offset, static_cast<quint8>(byte), m_shape.fuseBits[offset]);
             break;
-        }
         case MappedPart::Lock:
             m_state.lock[offset] = byte;
             break;
@@ -132,13 +129,7 @@ std::optional<MappedChip::Found> MappedChip::find(quint32 address, int size) con
 
 void MappedChip::eraseChip()
 {
-    const auto& eesave = m_part.eesave;
-    const bool isSet = eesave.fuse >= 0 && (m_state.fuses[eesave.fuse] & eesave.mask) != 0;
-    const bool keepsEeprom =
-        eesave.fuse >= 0 && isSet == m_part.eesaveKeepsAt1 && !(m_isLocked && m_part.lockedLosesEeprom);
-    m_state.flash.fill('\xFF');
-    if (!keepsEeprom)
-        m_state.eeprom.fill('\xFF');
-    m_state.lock = m_shape.factory.lock;
+    const bool isSaved = m_part.eesave.mask != 0 && m_state.isSet(m_part.eesave) == m_part.isUpdi;
+    eraseMemories(isSaved && !(m_isLocked && m_part.lockedLosesEeprom));
     m_isLocked = false;
 }

@@ -1,19 +1,17 @@
 #include "MappedPart.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
+#include "Description.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <iterator>
-#include <tuple>
 
 namespace {
 
-/// Where the families have their memories, and how large those are that no description tells (avrdude's configuration,
+/// Where a family has its memories, and how large those are that no description tells (avrdude's configuration,
 /// `avrdude -p PART/s`; the key of an open lock: the datasheets of AVR Dx, "LOCKBIT").
-struct Family {
-    const char* begin; ///< of the names of its parts
+struct Map {
     quint32 flash;
     quint32 eeprom;
     quint32 fuses;
@@ -26,96 +24,86 @@ struct Family {
     int productionSignatureSize;
 };
 
-constexpr Family families[] = {
-    {"ATtiny", 0x8000, 0x1400, 0x1280, 9, 0x128A, "C5", 0x1300, 0x1100, 0x1103, 61},
-    {"ATmega", 0x4000, 0x1400, 0x1280, 9, 0x128A, "C5", 0x1300, 0x1100, 0x1103, 61},
-    {"ATxmega", 0x800000, 0x8C0000, 0x8F0020, 7, 0x8F0027, "FF", 0x8E0400, 0x1000090, 0x8E0200, 50},
-    {"AVR", 0x800000, 0x1400, 0x1050, 16, 0x1040, "5CC5C55C", 0x1080, 0x1100, 0x1103, 125},
+constexpr Map tiny {0x8000, 0x1400, 0x1280, 9, 0x128A, "C5", 0x1300, 0x1100, 0x1103, 61};
+constexpr Map mega {0x4000, 0x1400, 0x1280, 9, 0x128A, "C5", 0x1300, 0x1100, 0x1103, 61};
+constexpr Map xmega {0x800000, 0x8C0000, 0x8F0020, 7, 0x8F0027, "FF", 0x8E0400, 0x1000090, 0x8E0200, 50};
+constexpr Map avr {0x800000, 0x1400, 0x1050, 9, 0x1040, "5CC5C55C", 0x1080, 0x1100, 0x1103, 125};
+
+/// Parts of a family that are alike in sizes, in bytes, as in avrdude's configuration.
+struct Series {
+    const char* begin; ///< of their names, a regular expression; the first that fits counts
+    const Map& map;
+    int flashPage;
+    int eepromPage;
+    int userRow;
+    /// A locked chip loses its EEPROM, as the datasheets of the tinyAVR 0- and 1-series and the megaAVR 0-series say of
+    /// SYSCFG0. That of AVR DA contradicts itself: kept, says SYSCFG0, lost, says the chip erase command. Here it is
+    /// kept, as AVR DB does it. Of the tinyAVR 2-series and the others nothing is known.
+    bool lockedLosesEeprom;
 };
 
-/// Bytes of a flash page and of an EEPROM page: by family and size, as in avrdude's configuration.
-std::pair<int, int> pageSizes(const QString& name, int flashSize)
-{
-    constexpr int small = 16 * 1024;
-    if (name.startsWith(QLatin1String("ATxmega"))) {
-        static const QRegularExpression shortPages(QStringLiteral("128(A4U|B1|B3|D4)$"));
-        constexpr int most = 70 * 1024; // with the boot section
-        const bool isShort = flashSize < most || name.contains(shortPages);
-        return {name.endsWith(QLatin1String("E5")) ? 128 : isShort ? 256 : 512, 32};
-    }
-    if (name.startsWith(QLatin1String("AT")))
-        return flashSize > small ? std::pair(128, 64) : std::pair(64, 32);
-    const bool isEx =
-        name.contains(QLatin1String("EA")) || name.contains(QLatin1String("EB")) || name.contains(QLatin1String("LA"));
-    return isEx ? std::pair(flashSize > 2 * small ? 128 : 64, 8) : std::pair(512, 1);
-}
+constexpr Series allSeries[] = {
+    {"ATtiny(4|8|16)2[4-7]", tiny, 64, 32, 32, false},
+    {"ATtiny322[4-7]", tiny, 128, 64, 32, false},
+    {"ATtiny32", tiny, 128, 64, 64, true},
+    {"ATtiny", tiny, 64, 32, 32, true},
+    {"ATmega(32|48)0", mega, 128, 64, 64, true},
+    {"ATmega", mega, 64, 32, 32, true},
+    {"ATxmega\\d+E5", xmega, 128, 32, 128, false},
+    {"ATxmega(16|32|64|128A4U|128B)", xmega, 256, 32, 256, false},
+    {"ATxmega128D4", xmega, 256, 32, 512, false},
+    {"ATxmega", xmega, 512, 32, 512, false},
+    {"AVR64E", avr, 128, 8, 64, false},
+    {"AVR\\d+(E|LA)", avr, 64, 8, 64, false},
+    {"AVR", avr, 512, 1, 32, false},
+};
 
 } // namespace
 
-std::optional<MappedPart> MappedPart::described(const QJsonObject& description)
+std::optional<MappedPart> MappedPart::described(const Description& description)
 {
-    const QString partName = description.value(QLatin1String("mcu")).toString();
-    const QJsonArray interfaces = description.value(QLatin1String("interfaces")).toArray();
-    const auto* const family = std::find_if(std::begin(families), std::end(families), [&partName](const Family& one) {
-        return partName.startsWith(QLatin1String(one.begin));
+    const bool isUpdi = description.interfaces.contains(QLatin1String("UPDI"));
+    const auto* const series = std::find_if(std::begin(allSeries), std::end(allSeries), [&](const Series& one) {
+        return QRegularExpression(QLatin1Char('^') + QLatin1String(one.begin)).match(description.name).hasMatch();
     });
-    const bool isUpdi = interfaces.contains(QStringLiteral("UPDI"));
-    if (family == std::end(families) || (!isUpdi && !interfaces.contains(QStringLiteral("PDI"))))
+    if (series == std::end(allSeries) || (!isUpdi && !description.interfaces.contains(QLatin1String("PDI"))))
         return std::nullopt;
 
+    const Map& map = series->map;
     MappedPart part;
-    part.interface = isUpdi ? Interface::Updi : Interface::Pdi;
-    part.signature = QByteArray::fromHex(description.value(QLatin1String("signature")).toString().toLatin1());
-    ChipShape& shape = part.shape;
-    shape.part = partName;
-    shape.factory.flash.fill('\xFF', description.value(QLatin1String("flash")).toInt());
-    shape.factory.eeprom.fill('\xFF', description.value(QLatin1String("eeprom")).toInt());
-    shape.factory.fuses.fill(0, family->fuseCount);
-    shape.factory.lock = QByteArray::fromHex(family->openLock);
-    std::tie(part.flashPageSize, part.eepromPageSize) =
-        pageSizes(partName, static_cast<int>(shape.factory.flash.size()));
-    shape.factory.userRow.fill('\xFF', isUpdi ? 64 : part.flashPageSize);
-    shape.lockBits.fill('\xFF', static_cast<int>(shape.factory.lock.size()));
-    shape.fuseBits.fill(0, family->fuseCount);
-    for (int i = 0; i < family->fuseCount; ++i)
-        shape.fuseNames += QStringLiteral("fuse%1").arg(i);
+    part.isUpdi = isUpdi;
+    part.signature = description.signature;
+    part.flashPageSize = series->flashPage;
+    part.eepromPageSize = series->eepromPage;
+    part.lockedLosesEeprom = series->lockedLosesEeprom;
 
-    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
-    for (const QJsonValue& byte : bytes) {
-        const int fuse = static_cast<int>(shape.fuseNames.indexOf(byte[QLatin1String("id")].toString()));
-        if (fuse < 0)
-            continue; // the lock
-        const QJsonArray bits = byte[QLatin1String("bits")].toArray();
-        for (int i = 0; i < bits.size(); ++i) {
-            const auto mask = static_cast<quint8>(0x80 >> i);
-            const QString bit = bits[i][QLatin1String("name")].toString();
-            if (bits[i][QLatin1String("default")].toInt() != 0)
-                shape.factory.fuses[fuse] |= mask;
-            if (bit != QLatin1String("NOT USED"))
-                shape.fuseBits[fuse] |= mask;
-            if (bit == QLatin1String("EESAVE"))
-                part.eesave = {fuse, mask};
-            // With tinyAVR one pin is both, and 1 and 3 of its settings leave it for UPDI.
-            if (bit == QLatin1String("UPDIPINCFG")
-                || (bit == QLatin1String("RSTPINCFG0") && partName.startsWith(QLatin1String("ATtiny"))))
-                part.updiPin = {fuse, mask};
-        }
+    ChipShape& shape = part.shape;
+    shape.part = description.name;
+    shape.factory.flash.fill('\xFF', description.flashSize);
+    shape.factory.eeprom.fill('\xFF', description.eepromSize);
+    shape.factory.userRow.fill('\xFF', series->userRow);
+    shape.factory.lock = QByteArray::fromHex(map.openLock);
+    shape.lockBits.fill('\xFF', static_cast<int>(shape.factory.lock.size()));
+    for (int i = 0; i < map.fuseCount; ++i) {
+        shape.fuseNames += QStringLiteral("fuse%1").arg(i);
+        const auto byte = description.bytes.value(shape.fuseNames.constLast());
+        shape.factory.fuses += byte.factory;
+        shape.fuseBits += byte.bits;
     }
-    part.eesaveKeepsAt1 = isUpdi;
-    // From the datasheets' SYSCFG0; the tinyAVR 2-series (ATtiny424 to 3227) is not told to.
-    const bool isSecondSeries = partName.size() > 2 && partName.at(partName.size() - 2) == QLatin1Char('2')
-        && partName.at(partName.size() - 1) >= QLatin1Char('4') && partName.startsWith(QLatin1String("ATtiny"));
-    part.lockedLosesEeprom = isUpdi && partName.startsWith(QLatin1String("AT")) && !isSecondSeries;
+    part.eesave = description.findBit(shape.fuseNames, QStringLiteral("EESAVE"));
+    // With tinyAVR one pin is both, and 1 and 3 of its settings leave it for UPDI.
+    part.updiPin = description.findBit(shape.fuseNames,
+                                       &map == &tiny ? QStringLiteral("RSTPINCFG0") : QStringLiteral("UPDIPINCFG"));
 
     const auto place = [&part](Memory memory, quint32 address, qint64 size) {
         part.places[memory] = {address, static_cast<int>(size)};
     };
-    place(Flash, family->flash, shape.factory.flash.size());
-    place(Eeprom, family->eeprom, shape.factory.eeprom.size());
-    place(Fuses, family->fuses, family->fuseCount);
-    place(Lock, family->lock, shape.factory.lock.size());
-    place(UserRow, family->userRow, shape.factory.userRow.size());
-    place(Signature, family->signature, part.signature.size());
-    place(ProductionSignature, family->productionSignature, family->productionSignatureSize);
+    place(Flash, map.flash, shape.factory.flash.size());
+    place(Eeprom, map.eeprom, shape.factory.eeprom.size());
+    place(Fuses, map.fuses, map.fuseCount);
+    place(Lock, map.lock, shape.factory.lock.size());
+    place(UserRow, map.userRow, shape.factory.userRow.size());
+    place(Signature, map.signature, part.signature.size());
+    place(ProductionSignature, map.productionSignature, map.productionSignatureSize);
     return part;
 }

@@ -4,13 +4,11 @@
 
 #include <optional>
 
-class QJsonObject;
+struct Description;
 
 /// What the virtual chip has to know about a part whose memories lie at addresses of one space, as those with UPDI or
 /// PDI. Made of the description that ships with Korvel and of the memory map of the part's family. A plain value.
 struct MappedPart {
-    enum class Interface { Updi, Pdi };
-
     /// Memories that lie somewhere. The first ones are the chip's state, the others are never written.
     enum Memory { Flash, Eeprom, Fuses, Lock, UserRow, Signature, ProductionSignature, MemoryCount };
 
@@ -19,23 +17,16 @@ struct MappedPart {
         int size = 0;
     };
 
-    /// One bit of one fuse byte.
-    struct FuseBit {
-        int fuse = -1; ///< -1: the part does not have it
-        quint8 mask = 0;
-    };
-
-    Interface interface = Interface::Updi;
+    bool isUpdi = true; ///< or PDI
     ChipShape shape;
     QByteArray signature; ///< three bytes
     Place places[MemoryCount];
     int flashPageSize = 0; ///< bytes
     int eepromPageSize = 0; ///< bytes
-    FuseBit eesave; ///< EEPROM survives a chip erase
-    bool eesaveKeepsAt1 = true; ///< the value at which it does
+    ChipState::FuseBit eesave; ///< EEPROM survives a chip erase: with UPDI at 1, with PDI at 0
     bool lockedLosesEeprom = false; ///< whatever EESAVE says
-    FuseBit updiPin; ///< the programming pin is one while this bit is 1
+    ChipState::FuseBit updiPin; ///< the programming pin is one while this bit is 1
 
     /// One made of the description of a part with UPDI or PDI. Nothing where it is programmed in another way.
-    [[nodiscard]] static std::optional<MappedPart> described(const QJsonObject& description);
+    [[nodiscard]] static std::optional<MappedPart> described(const Description& description);
 };

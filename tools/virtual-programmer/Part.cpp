@@ -1,8 +1,6 @@
 #include "Part.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QString>
+#include "Description.h"
 
 namespace {
 
@@ -159,49 +157,31 @@ const Part* Part::find(const QString& name)
     return nullptr;
 }
 
-std::optional<Part> Part::described(const QJsonObject& description)
+std::optional<Part> Part::described(const Description& description)
 {
-    if (!description.value(QLatin1String("interfaces")).toArray().contains(QStringLiteral("ISP")))
+    if (!description.interfaces.contains(QLatin1String("ISP")))
         return std::nullopt;
     constexpr int clock = 1000000; // Hz
     constexpr int calibrationSize = 4;
+    const QStringList ids {QStringLiteral("lfuse"), QStringLiteral("hfuse"), QStringLiteral("efuse")};
     Part part {};
-    part.name = description.value(QLatin1String("mcu")).toString();
-    const QByteArray signature =
-        QByteArray::fromHex(description.value(QLatin1String("signature")).toString().toLatin1()).leftJustified(3);
-    std::copy_n(signature.begin(), part.signature.size(), part.signature.begin());
-    part.flashSize = description.value(QLatin1String("flash")).toInt();
-    part.eepromSize = description.value(QLatin1String("eeprom")).toInt();
+    part.name = description.name;
+    std::copy_n(description.signature.begin(), part.signature.size(), part.signature.begin());
+    part.flashSize = description.flashSize;
+    part.eepromSize = description.eepromSize;
     part.calibrationSize = calibrationSize;
-    part.factoryFuses = {0xFF, 0xFF, 0xFF};
     part.oscillators = {clock};
-    const QJsonArray bytes = description.value(QLatin1String("FuseBytes")).toArray();
-    for (const QJsonValue& byte : bytes) {
-        const QString id = byte[QLatin1String("id")].toString();
-        const auto index =
-            QStringList {QStringLiteral("lfuse"), QStringLiteral("hfuse"), QStringLiteral("efuse")}.indexOf(id);
-        const QJsonArray bits = byte[QLatin1String("bits")].toArray();
-        for (int i = 0; i < bits.size(); ++i) {
-            const auto mask = static_cast<quint8>(0x80 >> i);
-            const QString bit = bits[i][QLatin1String("name")].toString();
-            if (bit == QLatin1String("NOT USED"))
-                continue;
-            if (index < 0) {
-                part.lockBits |= id == QLatin1String("lock") ? mask : quint8 {0};
-                continue;
-            }
-            const auto fuse = static_cast<Fuse>(index);
-            part.fuseBits[fuse] |= mask;
-            if (bits[i][QLatin1String("default")].toInt() == 0)
-                part.factoryFuses[fuse] &= static_cast<quint8>(~mask);
-            if (bit == QLatin1String("SPIEN"))
-                part.spien = {fuse, mask};
-            if (bit == QLatin1String("EESAVE"))
-                part.eesave = {fuse, mask};
-            if (fuse == HighFuse && (bit == QLatin1String("RSTDISBL") || bit == QLatin1String("DWEN")))
-                part.resetPin |= mask;
-        }
+    for (int i = 0; i < FuseCount; ++i) {
+        const auto fuse = static_cast<Fuse>(i);
+        const auto byte = description.bytes.value(ids[i], {0xFF, 0x00, {}});
+        part.factoryFuses[fuse] = byte.factory;
+        part.fuseBits[fuse] = byte.bits;
     }
+    part.lockBits = description.bytes.value(QStringLiteral("lock")).bits;
+    part.spien = description.findBit(ids, QStringLiteral("SPIEN"));
+    part.eesave = description.findBit(ids, QStringLiteral("EESAVE"));
+    const auto& highBits = description.bytes.value(ids[HighFuse]).masks;
+    part.resetPin = highBits.value(QStringLiteral("RSTDISBL")) | highBits.value(QStringLiteral("DWEN"));
     return part;
 }
 

@@ -8,24 +8,20 @@
 #include <array>
 #include <optional>
 
-class QJsonObject;
+struct Description;
 
 /// What the virtual chip has to know about one part that is programmed by ISP. The table of parts is constant and lives
 /// as long as the program.
 struct Part {
     enum Fuse { LowFuse, HighFuse, ExtendedFuse, FuseCount };
 
-    /// One bit of one fuse byte.
-    struct FuseBit {
-        Fuse fuse;
-        quint8 mask;
-    };
+    using FuseBit = ChipState::FuseBit;
 
     QString name; ///< as the vendor writes it
     std::array<quint8, 3> signature;
     int flashSize; ///< bytes, a power of two
     int flashPageSize; ///< bytes, a power of two; 0: as the programmer is told, and 1 or less then for none
-    int eepromSize; ///< bytes, a power of two
+    int eepromSize; ///< bytes, a power of two; 0: the part has none
     int eepromPageSize; ///< bytes, a power of two; 0: the part has no instructions for EEPROM pages
     int calibrationSize; ///< number of calibration bytes
     std::array<quint8, FuseCount> factoryFuses;
@@ -45,7 +41,7 @@ struct Part {
 
     /// One made of the description of a part with ISP, which tells less: it always has a clock, and only the fuses by
     /// which it is programmed over ISP can take that away. Nothing where it is programmed in another way.
-    [[nodiscard]] static std::optional<Part> described(const QJsonObject& description);
+    [[nodiscard]] static std::optional<Part> described(const Description& description);
 
     /// The names of all parts, in the order of the table.
     [[nodiscard]] static QStringList names();

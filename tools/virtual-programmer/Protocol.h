@@ -2,6 +2,12 @@
 
 #include <QByteArray>
 
+/// The byte at `index` of a message; 0 beyond its end.
+inline quint8 byteAt(const QByteArray& bytes, int index)
+{
+    return index < bytes.size() ? static_cast<quint8>(bytes.at(index)) : quint8 {0};
+}
+
 /// A programmer's side of a protocol: bytes in, bytes out.
 class Protocol
 {

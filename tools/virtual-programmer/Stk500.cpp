@@ -41,11 +41,6 @@ constexpr std::size_t targetVoltage = 0x84; // 0.1 V
 constexpr std::size_t referenceVoltage = 0x85; // 0.1 V
 constexpr std::size_t sckDuration = 0x89; // of one bit, in 8 cycles of the 7.3728 MHz crystal
 
-quint8 byteAt(const QByteArray& bytes, int index)
-{
-    return index < bytes.size() ? static_cast<quint8>(bytes.at(index)) : quint8 {0};
-}
-
 int wordAt(const QByteArray& bytes, int high, int low)
 {
     return byteAt(bytes, high) << 8 | byteAt(bytes, low);

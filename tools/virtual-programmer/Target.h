@@ -42,6 +42,21 @@ protected:
         m_state.flash[address] = static_cast<char>(address == m_faultyAddress ? value ^ 0x01 : value & before);
     }
 
+    /// Writes those `bits` of a fuse byte, and leaves the others as they are.
+    void writeFuseBits(int fuse, quint8 value, int bits)
+    {
+        m_state.fuses[fuse] = static_cast<quint8>((m_state.fuses[fuse] & ~bits) | (value & bits));
+    }
+
+    /// What an erase of the whole chip does: the lock opens, and the fuses stay.
+    void eraseMemories(bool keepsEeprom)
+    {
+        m_state.flash.fill('\xFF');
+        if (!keepsEeprom)
+            m_state.eeprom.fill('\xFF');
+        m_state.lock = m_shape.factory.lock;
+    }
+
     ChipShape m_shape;
     ChipState m_state;
     bool m_isProgramming = false;

@@ -35,23 +35,25 @@ struct Bench {
     explicit Bench(const QString& name)
     {
         const Part* part = Part::find(name);
-        const QJsonObject description = part ? QJsonObject() : readDescription(name, descriptionFolders());
-        described = Part::described(description);
+        const auto description = part ? std::nullopt : Description::read(name, descriptionFolders(), error);
+        if (description)
+            described = Part::described(*description);
         if (part || described) {
             auto classic = std::make_unique<Chip>(part ? *part : *described);
             withClock = part ? classic.get() : nullptr;
             protocol = std::make_unique<Stk500>(*classic);
             chip = std::move(classic);
-        } else if (const auto mapped = MappedPart::described(description)) {
+        } else if (const auto mapped = description ? MappedPart::described(*description) : std::nullopt) {
             auto modern = std::make_unique<MappedChip>(*mapped);
-            programmer = mapped->interface == MappedPart::Interface::Updi ? "jtag2updi" : "jtag2pdi";
+            programmer = mapped->isUpdi ? "jtag2updi" : "jtag2pdi";
             protocol = std::make_unique<JtagMkII>(*modern);
             chip = std::move(modern);
         }
     }
 
     std::optional<Part> described; ///< that the chip refers to
-    std::unique_ptr<Target> chip; ///< null: there is no such part
+    std::unique_ptr<Target> chip; ///< null: there is no such part, or `error` says what else
+    QString error;
     std::unique_ptr<Protocol> protocol;
     Chip* withClock = nullptr; ///< the same chip, if it can have a clock from outside
     const char* programmer = "stk500v1"; ///< avrdude's "-c"
@@ -116,6 +118,8 @@ int main(int argc, char* argv[])
                     QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
 
     const Bench bench(parser.value(partOption));
+    if (!bench.error.isEmpty())
+        return fail(exitUsage, bench.error);
     if (!bench.chip)
         return fail(
             exitUsage,
