@@ -91,8 +91,8 @@ int main(int argc, char* argv[])
         QStringLiteral("hertz"));
     const QCommandLineOption rescueOption(
         QStringLiteral("rescue"),
-        QStringLiteral("Start the chip with factory fuses, as after high-voltage programming. Lock bits protect fuses "
-                       "too: a locked chip is erased first; any other keeps its memories."));
+        QStringLiteral("Start the chip with factory fuses, as after high-voltage programming. A chip whose lock keeps "
+                       "programmers from writing is erased first; any other keeps its memories."));
     const QCommandLineOption silentOption(QStringLiteral("silent"),
                                           QStringLiteral("Accept connections and never answer."));
     const QCommandLineOption flipOption(QStringLiteral("flip"),
