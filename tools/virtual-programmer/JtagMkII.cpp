@@ -2,6 +2,10 @@
 
 #include <QtEndian>
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace {
 
 // Commands, answers, parameters and memory types of AVR067; those for ATxmega and UPDI as avrdude uses them.
@@ -71,7 +75,10 @@ constexpr char messageStart = 0x1B;
 constexpr char token = 0x0E;
 constexpr int headerLength = 8; // start, sequence number, size, token
 constexpr int checksumLength = 2;
+constexpr int sizeAt = 3;
 constexpr int memoryHeaderLength = 10; // command, type, size, address
+constexpr int memorySizeAt = 2;
+constexpr int memoryAddressAt = 6;
 
 QByteArray littleEndian(quint32 number, int bytes)
 {
@@ -91,15 +98,65 @@ QByteArray answer(Answer code, const QByteArray& data = {})
     return static_cast<char>(code) + data;
 }
 
-bool isFlash(quint8 type)
-{
-    return type == Flash || type == BootFlash || type == FlashPage;
-}
+/// What the types of memories stand for.
+constexpr std::pair<MemoryType, MappedPart::Memory> memoryTypes[] = {
+    {Flash, MappedPart::Flash},
+    {BootFlash, MappedPart::Flash},
+    {FlashPage, MappedPart::Flash},
+    {EepromOne, MappedPart::Eeprom},
+    {EepromPage, MappedPart::Eeprom},
+    {EepromXmega, MappedPart::Eeprom},
+    {FuseBits, MappedPart::Fuses},
+    {LockBits, MappedPart::Lock},
+    {UserSignature, MappedPart::UserRow},
+    {SignatureBytes, MappedPart::Signature},
+    {ProductionSignature, MappedPart::ProductionSignature},
+    {Flash, MappedPart::ProductionSignature}, // so avrdude reads the parts of it that have names, such as osccal16
+};
 
 bool isMemoryType(quint8 type)
 {
-    return isFlash(type) || type == EepromOne || type == EepromPage || type == EepromXmega || type == FuseBits
-        || type == LockBits || type == SignatureBytes || type == UserSignature || type == ProductionSignature;
+    return std::any_of(std::begin(memoryTypes), std::end(memoryTypes),
+                       [type](const auto& row) { return row.first == type; });
+}
+
+bool isTypeOf(quint8 type, MappedPart::Memory memory)
+{
+    return std::any_of(std::begin(memoryTypes), std::end(memoryTypes),
+                       [&](const auto& row) { return row.first == type && row.second == memory; });
+}
+
+/// The answer to a message about `size` bytes from `address` on, as far as type, place and lock decide: Ok or what is
+/// wrong. `isAllowed` asks for the lock.
+Answer checked(const MappedChip& chip, quint8 type, quint32 address, int size,
+               bool (MappedChip::*isAllowed)(MappedPart::Memory) const)
+{
+    const auto memory = chip.memoryAt(address, size);
+    if (!isMemoryType(type))
+        return IllegalMemoryType;
+    if (!chip.isProgramming() || (memory && !(chip.*isAllowed)(*memory)))
+        return IllegalMcuState;
+    return memory && isTypeOf(type, *memory) ? Ok : IllegalMemoryRange;
+}
+
+/// The length of a command with all that has to come with it, in bytes. What may follow is data.
+int shortestLength(quint8 command)
+{
+    switch (command) {
+    case GetParameter:
+    case ForcedStop:
+    case Reset:
+        return 2;
+    case SetParameter:
+        return 3;
+    case EraseMemory:
+        return 6;
+    case WriteMemory:
+    case ReadMemory:
+        return memoryHeaderLength;
+    default:
+        return 1;
+    }
 }
 
 } // namespace
@@ -125,40 +182,48 @@ QByteArray JtagMkII::receive(const QByteArray& bytes)
 {
     m_pending += bytes;
     QByteArray answers;
+    int begin = 0; // of the next message, if it is one
     while (true) {
-        m_pending.remove(0, qMax<int>(0, static_cast<int>(m_pending.indexOf(messageStart))));
-        if (m_pending.size() < headerLength || !m_pending.startsWith(messageStart)) {
-            if (!m_pending.startsWith(messageStart))
-                m_pending.clear();
-            return answers;
-        }
-        const quint32 size = numberAt(m_pending, 3);
-        if (m_pending.at(headerLength - 1) != token || size > longestMessage) {
-            m_pending.remove(0, 1);
+        begin = static_cast<int>(m_pending.indexOf(messageStart, begin));
+        if (begin < 0)
+            begin = static_cast<int>(m_pending.size());
+        if (m_pending.size() - begin < headerLength)
+            break;
+        const quint32 size = numberAt(m_pending, begin + sizeAt);
+        if (byteAt(m_pending, begin + headerLength - 1) != token || size > longestMessage) {
+            ++begin;
             continue;
         }
         const int whole = headerLength + static_cast<int>(size) + checksumLength;
-        if (m_pending.size() < whole)
-            return answers;
-        const QByteArray message = m_pending.left(whole);
-        m_pending.remove(0, whole);
-        if (checksumOf(message.chopped(checksumLength)) != qFromLittleEndian<quint16>(message.right(checksumLength)))
+        if (m_pending.size() - begin < whole)
+            break;
+        const QByteArray message = m_pending.mid(begin, whole);
+        if (checksumOf(message.chopped(checksumLength)) != qFromLittleEndian<quint16>(message.right(checksumLength))) {
+            ++begin;
             continue;
+        }
+        begin += whole;
         const QByteArray result = execute(message.mid(headerLength).chopped(checksumLength));
-        QByteArray frame = message.left(3) + littleEndian(static_cast<quint32>(result.size()), 4) + token + result;
+        QByteArray frame = message.left(sizeAt) + littleEndian(static_cast<quint32>(result.size()), 4) + token + result;
         answers += frame + littleEndian(checksumOf(frame), checksumLength);
     }
+    m_pending.remove(0, begin);
+    return answers;
 }
 
 int JtagMkII::flashBytesReceived() const
 {
     const bool isWithin = m_pending.size() > headerLength + memoryHeaderLength
-        && byteAt(m_pending, headerLength) == WriteMemory && isFlash(byteAt(m_pending, headerLength + 1));
-    return m_flashBytes + (isWithin ? static_cast<int>(m_pending.size()) - headerLength - memoryHeaderLength : 0);
+        && byteAt(m_pending, headerLength) == WriteMemory
+        && isTypeOf(byteAt(m_pending, headerLength + 1), MappedPart::Flash);
+    const qint64 length = qMin<qint64>(m_pending.size() - headerLength, numberAt(m_pending, sizeAt)); // no checksum
+    return m_flashBytes + (isWithin ? static_cast<int>(length) - memoryHeaderLength : 0);
 }
 
 QByteArray JtagMkII::execute(const QByteArray& command)
 {
+    if (command.size() < shortestLength(byteAt(command, 0)))
+        return answer(Failed);
     switch (byteAt(command, 0)) {
     case GetSignOn: {
         const char cpu[] = {1, firmwareMinor, firmwareMajor, 1};
@@ -177,6 +242,7 @@ QByteArray JtagMkII::execute(const QByteArray& command)
         return erase(command);
     case EnterProgramming:
         return answer(m_chip.enterProgramming() ? Ok : NoTargetPower);
+    case LeaveProgramming: // after which avrdude sends a reset, and goes on
     case Go:
     case SignOff:
         m_chip.leaveProgramming();
@@ -187,7 +253,6 @@ QByteArray JtagMkII::execute(const QByteArray& command)
         m_chip.enterProgramming();
         return answer(Ok);
     case GetSync:
-    case LeaveProgramming:
     case SetDeviceDescriptor: // which this programmer knows already
         return answer(Ok);
     default:
@@ -238,27 +303,24 @@ QByteArray JtagMkII::writeMemory(const QByteArray& command)
 {
     const quint8 type = byteAt(command, 1);
     const QByteArray data = command.mid(memoryHeaderLength);
-    if (isFlash(type))
+    const quint32 address = numberAt(command, memoryAddressAt);
+    if (isTypeOf(type, MappedPart::Flash))
         m_flashBytes += static_cast<int>(data.size());
-    if (!isMemoryType(type))
-        return answer(IllegalMemoryType);
-    if (!m_chip.isProgramming() || m_chip.isLocked())
-        return answer(IllegalMcuState);
-    const bool isWhole = data.size() == static_cast<qint64>(numberAt(command, 2));
-    return answer(isWhole && m_chip.write(numberAt(command, 6), data) ? Ok : IllegalMemoryRange);
+    if (data.size() != static_cast<qint64>(numberAt(command, memorySizeAt)))
+        return answer(Failed);
+    const Answer taken = checked(m_chip, type, address, static_cast<int>(data.size()), &MappedChip::mayWrite);
+    return answer(taken == Ok && !m_chip.write(address, data) ? IllegalMemoryRange : taken);
 }
 
 QByteArray JtagMkII::readMemory(const QByteArray& command) const
 {
-    if (!isMemoryType(byteAt(command, 1)))
-        return answer(IllegalMemoryType);
-    if (!m_chip.isProgramming() || m_chip.isLocked())
-        return answer(IllegalMcuState);
-    const quint32 size = numberAt(command, 2);
-    if (size > longestMessage)
+    const quint32 size = numberAt(command, memorySizeAt);
+    const quint32 address = numberAt(command, memoryAddressAt);
+    if (size > longestRead)
         return answer(IllegalMemoryRange);
-    const auto bytes = m_chip.read(numberAt(command, 6), static_cast<int>(size));
-    return bytes ? answer(Memory, *bytes) : answer(IllegalMemoryRange);
+    const int bytes = static_cast<int>(size);
+    const Answer taken = checked(m_chip, byteAt(command, 1), address, bytes, &MappedChip::mayRead);
+    return taken == Ok ? answer(Memory, *m_chip.read(address, bytes)) : answer(taken);
 }
 
 QByteArray JtagMkII::erase(const QByteArray& command)
@@ -270,7 +332,8 @@ QByteArray JtagMkII::erase(const QByteArray& command)
     const std::size_t kind = byteAt(command, 1);
     if (kind >= std::size(kinds))
         return answer(IllegalMemoryType);
-    if (!m_chip.isProgramming() || (m_chip.isLocked() && kinds[kind] != Erase::Chip))
+    const bool isAllowed = kinds[kind] == Erase::Chip || m_chip.mayWrite(MappedPart::Flash); // the others go with it
+    if (!m_chip.isProgramming() || !isAllowed)
         return answer(IllegalMcuState);
     return answer(m_chip.erase(kinds[kind], numberAt(command, 2)) ? Ok : IllegalMemoryRange);
 }

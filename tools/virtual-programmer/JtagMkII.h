@@ -15,18 +15,20 @@ public:
 
     void beginConnection() override;
 
-    /// What is no message is skipped up to the next one. A message with a wrong checksum has no answer, so that it is
-    /// sent again.
+    /// What is no message is skipped up to the next one, which may lie within what looked like one. A message with a
+    /// wrong checksum has no answer, so that it is sent again.
     [[nodiscard]] QByteArray receive(const QByteArray& bytes) override;
 
     [[nodiscard]] int flashBytesReceived() const override;
-    [[nodiscard]] int waitingBytes() const override { return longestMessage; }
+    [[nodiscard]] int waitingBytes() const override { return mostWaiting; }
 
     /// The checksum of a message: CRC-16 of CCITT, lowest bit first, as AVR067 tells. 0 for a message with its own.
     [[nodiscard]] static quint16 checksumOf(const QByteArray& bytes);
 
 private:
     static constexpr int longestMessage = 1024; ///< bytes; a page has 512 at most
+    static constexpr int longestRead = 1024; ///< bytes; avrdude asks for 512 at most
+    static constexpr int mostWaiting = 1024; ///< bytes; who has to wait sends a few short messages
 
     [[nodiscard]] QByteArray execute(const QByteArray& command);
     [[nodiscard]] QByteArray setParameter(const QByteArray& command);

@@ -1,5 +1,15 @@
 #include "MappedChip.h"
 
+namespace {
+
+// The bits LB of an ATxmega's lock, and their settings besides that which forbids reading too. The other bits restrict
+// the chip's own program alone.
+constexpr quint8 lockBits = 0x03;
+constexpr quint8 noLock = 0x03;
+constexpr quint8 writeLock = 0x02;
+
+} // namespace
+
 MappedChip::MappedChip(MappedPart part)
     : Target(part.shape)
     , m_part(std::move(part))
@@ -8,9 +18,21 @@ MappedChip::MappedChip(MappedPart part)
 
 bool MappedChip::enterProgramming()
 {
-    m_isLocked = m_state.lock != m_shape.factory.lock;
+    m_access = accessByLock();
     m_isProgramming = m_part.updiPin.mask == 0 || m_state.isSet(m_part.updiPin);
     return m_isProgramming;
+}
+
+bool MappedChip::mayRead(MappedPart::Memory memory) const
+{
+    // With PDI the signature is a register: its address, 0x1000090, is one of the data, as avrdude has them. Whether a
+    // closed lock leaves the fuses readable is not known; here it does not.
+    return m_access != Access::None || (memory == MappedPart::Signature && !m_part.isUpdi);
+}
+
+bool MappedChip::mayWrite(MappedPart::Memory memory) const
+{
+    return m_access == Access::All || (m_access == Access::Reading && memory == MappedPart::Lock);
 }
 
 void MappedChip::leaveProgramming()
@@ -21,7 +43,7 @@ void MappedChip::leaveProgramming()
 void MappedChip::rescue()
 {
     enterProgramming();
-    if (m_isLocked)
+    if (m_access != Access::All)
         eraseChip();
     leaveProgramming();
     m_state.fuses = m_shape.factory.fuses;
@@ -72,8 +94,8 @@ bool MappedChip::write(quint32 address, const QByteArray& bytes)
         case MappedPart::Fuses:
             writeFuseBits(offset, static_cast<quint8>(byte), m_shape.fuseBits[offset]);
             break;
-        case MappedPart::Lock:
-            m_state.lock[offset] = byte;
+        case MappedPart::Lock: // with UPDI a key, with PDI bits that only an erase makes 1
+            m_state.lock[offset] = m_part.isUpdi ? byte : static_cast<char>(m_state.lock.at(offset) & byte);
             break;
         case MappedPart::UserRow:
             m_state.userRow[offset] = byte;
@@ -116,6 +138,20 @@ bool MappedChip::erase(Erase what, quint32 address)
     return false;
 }
 
+MappedChip::Access MappedChip::accessByLock() const
+{
+    if (m_state.lock == m_shape.factory.lock)
+        return Access::All;
+    const int bits = m_part.isUpdi ? 0 : m_state.lock.at(0) & lockBits;
+    return bits == noLock ? Access::All : bits == writeLock ? Access::Reading : Access::None;
+}
+
+std::optional<MappedPart::Memory> MappedChip::memoryAt(quint32 address, int size) const
+{
+    const auto found = find(address, size);
+    return found ? std::optional(found->memory) : std::nullopt;
+}
+
 std::optional<MappedChip::Found> MappedChip::find(quint32 address, int size) const
 {
     for (int memory = 0; memory < MappedPart::MemoryCount; ++memory) {
@@ -130,6 +166,6 @@ std::optional<MappedChip::Found> MappedChip::find(quint32 address, int size) con
 void MappedChip::eraseChip()
 {
     const bool isSaved = m_part.eesave.mask != 0 && m_state.isSet(m_part.eesave) == m_part.isUpdi;
-    eraseMemories(isSaved && !(m_isLocked && m_part.lockedLosesEeprom));
-    m_isLocked = false;
+    eraseMemories(isSaved && (m_access == Access::All || !m_part.lockedLosesEeprom));
+    m_access = Access::All;
 }

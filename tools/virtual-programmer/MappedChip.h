@@ -23,8 +23,14 @@ public:
     /// No lock protects the fuses from high voltage, which erases the chip all the same: there is no other way in.
     void rescue() override;
 
-    /// Whether the lock, as it was when the chip started, keeps all but an erase of the whole chip from the programmer.
-    [[nodiscard]] bool isLocked() const { return m_isLocked; }
+    /// Whether the lock, as it was when the chip started, lets the programmer read this memory.
+    [[nodiscard]] bool mayRead(MappedPart::Memory memory) const;
+
+    /// The same for writing it, or erasing it without the rest of the chip.
+    [[nodiscard]] bool mayWrite(MappedPart::Memory memory) const;
+
+    /// The memory that the `size` bytes from `address` on lie in. Nothing where not all of them lie in one.
+    [[nodiscard]] std::optional<MappedPart::Memory> memoryAt(quint32 address, int size) const;
 
     /// The `size` bytes from `address` on. Nothing where not all of them lie in one memory.
     [[nodiscard]] std::optional<QByteArray> read(quint32 address, int size) const;
@@ -37,13 +43,15 @@ public:
     bool erase(Erase what, quint32 address);
 
 private:
+    enum class Access { All, Reading, None };
     struct Found {
         MappedPart::Memory memory;
         int offset; ///< in that
     };
     [[nodiscard]] std::optional<Found> find(quint32 address, int size) const;
+    [[nodiscard]] Access accessByLock() const;
     void eraseChip();
 
     const MappedPart m_part;
-    bool m_isLocked = false;
+    Access m_access = Access::All;
 };
