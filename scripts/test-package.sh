@@ -56,6 +56,7 @@ add_display() {
 # use.sh PROGRAMMER KORVEL FIRMWARE [AVRDUDE]: loads the first sample profile, presses Write, closes the window, and
 # verifies the chip. Without FIRMWARE it only looks at the window.
 set -eu
+until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.2; done # openbox gives up at once
 openbox & started=$!
 until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done # a window that comes while it starts stays hidden
 "$1" --state chip.json & started="$started $!"
