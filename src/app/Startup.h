@@ -23,8 +23,8 @@ void closeOnRequest();
 void leaveOutOpenGl();
 
 /// Centres @p window on the available area of the screen under the mouse pointer, else of the primary screen. On a
-/// screen that is lower than the window with its frame the window becomes as high as the screen allows, with its title at
-/// the top.
+/// screen that is lower than the window with its frame the window becomes as high as the screen allows, with its title
+/// at the top.
 void moveToPointerScreen(QWidget& window);
 
 /// Calls @p then once, shortly after @p window has been painted for the first time: what nobody waits for is not to
