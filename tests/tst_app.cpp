@@ -365,6 +365,7 @@ private slots:
             QVERIFY(!window.isVisible());
             QCOMPARE(boxes.take(), QStringList()); // nobody is there to read one
 #endif
+            window.show(); // Qt 6 closes no window twice
             QVERIFY(window.close());
         }
         QCOMPARE(boxes.take(), QStringList {"Korvel, warning: Failed to save settings to file: save.json"});
