@@ -342,6 +342,67 @@ private slots:
         QCOMPARE(ears.heard.trimmed(), cell("heard"));
     }
 
+    void withKeysAlone()
+    {
+        const WorkFolder folder;
+        folder.copy({"mcu/ATmega16.json", "mcu/ATtiny9.json"});
+        BoxAnswerer boxes;
+        KorvelApp window;
+        for (const QString part : {"ATmega16", "ATtiny9"}) // the editors are made anew for each
+            emit window.findChild<Avrdude*>()->partChosen(part);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const auto press = [&window](int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+            QTest::keyClick(window.focusWidget(), Qt::Key(key), modifiers);
+        };
+        const auto here = [&window] { // in one word
+            const auto* button = qobject_cast<QAbstractButton*>(window.focusWidget());
+            const QString name = window.focusWidget()->accessibleName();
+            return (button && name.isEmpty() ? button->text() : name).section(' ', 0, 0);
+        };
+        press(Qt::Key_2, Qt::AltModifier);
+        QStringList forth;
+        QStringList back;
+        do {
+            press(Qt::Key_Tab);
+            forth += here();
+        } while (!here().isEmpty());
+        do {
+            back.prepend(here());
+            press(Qt::Key_Backtab, Qt::ShiftModifier);
+        } while (!here().isEmpty()); // as it is on the tab bar
+        QCOMPARE(forth.join('|'),
+                 QString("CKOUT|WDTON|RSTDISBL|Fuse|NVLB2|NVLB1|Lock|Write|Verify|Read|Default|"
+                         "Programmer|Port|Speed|Language|avrdude|Website|Telegram|YouTube|"));
+        QCOMPARE(back, forth);
+
+        for (int i = 0; i < 4; ++i)
+            press(Qt::Key_Tab);
+        press(Qt::Key_1, Qt::AltModifier); // types a digit into the byte
+        press(Qt::Key_Return); // does nothing there
+        QCOMPARE(here(), QString("Fuse"));
+        for (int i = 0; i < 7; ++i)
+            press(Qt::Key_Tab);
+        boxes.take();
+        for (const bool isRepeat : {false, true, true}) { // held down on "Default"
+            QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", isRepeat);
+            QSpontaneKeyEvent::setSpontaneous(&key);
+            qApp->notify(window.focusWidget(), &key);
+        }
+        QCOMPARE(boxes.take().size(), 1);
+
+        QApplication::setActiveWindow(&window);
+        QString title;
+        QTimer::singleShot(100, &window, [&title] {
+            title = QApplication::activeModalWidget()->windowTitle();
+            QApplication::activeModalWidget()->close();
+        });
+        window.findChild<AvrdudeMessage*>()->setFocus();
+        press(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(title, QString("SELECT FLASH FILE FOR WRITING"));
+        QCOMPARE(here(), QString("SELECT"));
+    }
+
     void closingDuringARun()
     {
         const WorkFolder folder;

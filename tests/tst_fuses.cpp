@@ -125,6 +125,32 @@ private slots:
         QVERIFY(low->fusesBit()[0]->toolTip().endsWith(m_factoryClock) && !low->fusesBit()[5]->font().bold());
     }
 
+    void meaningsWithoutAMouse()
+    {
+        Bench bench;
+        Fuses fuses(bench.avrdude, nullptr);
+        loadMega328P(bench, fuses);
+        QVERIFY(QTest::qWaitForWindowActive(&fuses));
+        const auto* low = fuses.findChild<FusesByteView*>();
+        QCheckBox* bit = low->fusesBit()[5];
+        const auto tip = [low] {
+            const auto labels = low->findChildren<QLabel*>();
+            const auto isTip = [](const QLabel* label) { return label->isWindow() && label->isVisible(); };
+            const auto found = std::find_if(labels.begin(), labels.end(), isTip);
+            return found == labels.end() ? QString() : (*found)->text();
+        };
+        bit->setFocus(Qt::TabFocusReason);
+        QTRY_COMPARE(tip(), m_clock + m_factoryClock);
+        QTest::keyClick(bit, Qt::Key_Space);
+        QVERIFY(tip().contains("Factory setting") && tip() == bit->toolTip());
+        QTest::keyClick(bit, Qt::Key_Escape);
+        QCOMPARE(tip(), QString());
+        low->value()->setFocus(Qt::BacktabFocusReason);
+        QTRY_COMPARE(tip(), low->value()->toolTip());
+        QTest::mouseClick(bit, Qt::LeftButton);
+        QCOMPARE(tip(), QString());
+    }
+
     void meaningsAreThoseOfThePartThatIsShown()
     {
         Bench bench;

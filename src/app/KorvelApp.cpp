@@ -4,6 +4,7 @@
 #include "about/SocialLinksWidget.h"
 #include "advice/Advice.h"
 #include "advice/Surroundings.h"
+#include "app/KeyboardFocus.h"
 #include "app/StrayInput.h"
 #include "app/log/AvrdudeMessage.h"
 #include "app/log/RunBar.h"
@@ -18,17 +19,23 @@
 #include "profiles/Profiles.h"
 #include "settings/Settings.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace {
 
@@ -66,17 +73,19 @@ KorvelApp::KorvelApp(QWidget* parent)
     , m_program(new Program(*m_avrdude, *m_fuses, this))
     , m_profiles(new Profiles(*m_avrdude, this))
     , m_settings(new Settings(*m_avrdude, this))
+    , m_strays(new StrayInput(this))
 {
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
     m_tabs->addTab(m_fuses, QStringLiteral("Fuses"));
     m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
     m_tabs->addTab(new AboutView(this), QStringLiteral("About"));
-    m_tabs->setCornerWidget(new SocialLinksWidget(this), Qt::TopRightCorner);
 
     auto* layout = new QVBoxLayout(m_content);
     layout->addWidget(m_tabs);
     layout->addWidget(m_settings);
     layout->addWidget(m_log);
+    // After all others: the Tab key goes through the window as it is filled, and these are what is needed least.
+    m_tabs->setCornerWidget(new SocialLinksWidget(this), Qt::TopRightCorner);
     m_central->setFrameShape(QFrame::NoFrame);
     m_central->setFocusPolicy(Qt::NoFocus);
     m_central->setWidgetResizable(true);
@@ -84,8 +93,9 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_central->setWidget(m_content);
     setCentralWidget(m_central);
 
-    auto* strays = new StrayInput(this);
-    connect(m_profiles, &Profiles::writePressed, strays, &StrayInput::expectRepeats);
+    new KeyboardFocus(*this);
+    addShortcuts();
+    connect(m_profiles, &Profiles::writePressed, m_strays, &StrayInput::expectRepeats);
     // Queued: by then the layouts know.
     connect(m_profiles, &Profiles::grew, this, &KorvelApp::makeRoom, Qt::QueuedConnection);
     m_avrdude->setExplainer(
@@ -185,6 +195,26 @@ void KorvelApp::makeRoom(int pixels)
         resize(width(), height() + missing);
 }
 
+void KorvelApp::addShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, std::function<void()> act) {
+        auto* shortcut = new QShortcut(keys, this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        add(QKeySequence(QStringLiteral("Alt+%1").arg(i + 1)), [this, i] {
+            m_tabs->setCurrentIndex(i);
+            m_tabs->tabBar()->clearFocus(); // which it may have had since the start, and shows when a key gives it
+            m_tabs->tabBar()->setFocus(Qt::ShortcutFocusReason); // from where the Tab key leads into the tab
+        });
+    }
+    add(QKeySequence::Open, [this] {
+        m_tabs->setCurrentWidget(m_program);
+        m_program->browseForFlash();
+    });
+}
+
 void KorvelApp::showRunning(bool isRunning)
 {
     // Whoever changes boards sees by the pointer that the one on the bench is still being worked on.
@@ -192,6 +222,18 @@ void KorvelApp::showRunning(bool isRunning)
         QApplication::setOverrideCursor(Qt::BusyCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+void KorvelApp::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = isEnter ? qobject_cast<QAbstractButton*>(focusWidget()) : nullptr; // which left it to the window
+    if (button && !button->isCheckable()) {
+        m_strays->expectRepeats();
+        button->click();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void KorvelApp::closeEvent(QCloseEvent* event)

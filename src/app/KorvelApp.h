@@ -13,6 +13,7 @@ class Program;
 class QScrollArea;
 class QTabWidget;
 class Settings;
+class StrayInput;
 
 /// The one top-level window: the tabs, the connection settings and the log under them, and the runner that all of
 /// them share. Reads the settings file when it is built and writes it when it is closed. Lives in main() for as long as
@@ -51,12 +52,19 @@ public slots:
     void onTabChanged(int index);
 
 protected:
+    /// Lets Enter press the button that has the focus, once for as long as it is held down.
+    void keyPressEvent(QKeyEvent* event) override;
+
     void closeEvent(QCloseEvent* event) override;
 
 private:
     /// Grows by what is missing after something in the window has grown by @p pixels, unless the window was too small
     /// before, or the screen is: there a scroll bar serves.
     void makeRoom(int pixels);
+
+    /// Ctrl+O opens the dialog for the flash file, Alt and a digit show a tab. None of it is on a widget: the texts
+    /// are given, and "Write" stands there twice.
+    void addShortcuts();
 
     void showRunning(bool isRunning);
     void askToClose();
@@ -72,5 +80,6 @@ private:
     Program* m_program;
     Profiles* m_profiles;
     Settings* m_settings;
+    StrayInput* m_strays;
     Witness m_witness = Witness::User; ///< of the closing
 };

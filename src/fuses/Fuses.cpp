@@ -27,6 +27,7 @@ Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     , m_scrollArea(new QScrollArea(this))
 {
     auto* bytesView = new FusesBytesView;
+    m_scrollArea->setFocusPolicy(Qt::ClickFocus); // the Tab key would stop where nothing is seen of it
     m_scrollArea->setWidgetResizable(true);
     m_scrollArea->setWidget(bytesView);
     m_scrollArea->setStyleSheet(QStringLiteral("QScrollArea { border: none; background: transparent; }"));
@@ -39,7 +40,7 @@ Fuses::Fuses(Avrdude& avrdude, QWidget* parent)
     layout->addWidget(m_scrollArea);
     layout->addWidget(buttonsView);
 
-    m_bytes = new FusesBytes(m_settings, *bytesView, this);
+    m_bytes = new FusesBytes(m_settings, *bytesView, *m_scrollArea, this);
     auto* buttons = new FusesButtons(avrdude, *buttonsView, this);
     connect(buttons, &FusesButtons::setReadingFusesEmit, this, &Fuses::refresh);
     connect(buttons, &FusesButtons::known, this, &Fuses::showLegend);

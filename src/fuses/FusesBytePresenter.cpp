@@ -18,6 +18,7 @@ bool isEditingKey(int key)
 {
     switch (key) {
     case Qt::Key_Tab:
+    case Qt::Key_Backtab:
     case Qt::Key_Backspace:
     case Qt::Key_Delete:
     case Qt::Key_Home:

@@ -1,5 +1,6 @@
 #include "fuses/FusesByteView.h"
 
+#include "base/FocusTip.h"
 #include "fuses/HexField.h"
 
 #include <QGroupBox>
@@ -11,18 +12,20 @@ FusesByteView::FusesByteView(QWidget* parent)
     : QWidget(parent)
     , m_box(new QGroupBox(this))
 {
-    // From the highest bit down and the field last: the Tab key goes through them as they are made.
+    auto* tip = new FocusTip(*this); // what the bits mean, without a mouse
     constexpr int bitCount = 8;
     for (int i = 0; i < bitCount; ++i) {
         auto* checkBox = new QCheckBox(this);
         connect(checkBox, &QCheckBox::stateChanged, this, [this, checkBox] { emit bitChanged(m_fusesBit, checkBox); });
         m_fusesBit.prepend(checkBox);
+        tip->watch(checkBox);
         checkBox->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(checkBox, &QCheckBox::customContextMenuRequested, this, [this, checkBox](const QPoint& position) {
             emit settingsWanted(static_cast<int>(m_fusesBit.indexOf(checkBox)), checkBox->mapToGlobal(position));
         });
     }
     m_value = new HexField(this);
+    tip->watch(m_value);
     auto* label = new QLabel(QStringLiteral("HEX"), this);
     const int width = fontMetrics().boundingRect(label->text()).width();
     label->setFixedWidth(width);
@@ -45,6 +48,15 @@ FusesByteView::FusesByteView(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_box);
+}
+
+void FusesByteView::putIntoTabOrder(QWidget* before)
+{
+    for (auto checkBox = m_fusesBit.crbegin(); checkBox != m_fusesBit.crend(); ++checkBox) {
+        setTabOrder(before, *checkBox);
+        before = *checkBox;
+    }
+    setTabOrder(before, m_value);
 }
 
 void FusesByteView::setTitle(const QString& title)

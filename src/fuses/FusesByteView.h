@@ -17,6 +17,9 @@ public:
 
     void setTitle(const QString& title);
 
+    /// Lets the Tab key go from @p before to the bits, the highest first, then to the value, and on from there.
+    void putIntoTabOrder(QWidget* before);
+
     /// The check boxes by bit number; a checked one is a programmed bit.
     [[nodiscard]] const QVector<QCheckBox*>& fusesBit() const { return m_fusesBit; }
     [[nodiscard]] HexField* value() const { return m_value; }

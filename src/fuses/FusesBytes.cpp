@@ -5,6 +5,7 @@
 #include "fuses/FusesBytePresenter.h"
 #include "fuses/FusesByteView.h"
 #include "fuses/FusesBytesView.h"
+#include "fuses/HexField.h"
 #include "mcu/description/BytesModel.h"
 
 #include <QHBoxLayout>
@@ -14,10 +15,11 @@
 #include <memory>
 #include <utility>
 
-FusesBytes::FusesBytes(SettingsRecord& settings, FusesBytesView& view, QObject* parent)
+FusesBytes::FusesBytes(SettingsRecord& settings, FusesBytesView& view, QWidget& before, QObject* parent)
     : QObject(parent)
     , m_settings(settings)
     , m_view(view)
+    , m_before(before)
 {
     connect(&view, &FusesBytesView::shown, this, &FusesBytes::explain);
 }
@@ -36,8 +38,12 @@ void FusesBytes::rebuild()
     m_meanings.clear();
     if (m_view.isVisible()) // else when somebody looks
         m_meanings.load(m_settings);
-    for (int i = 0; i < m_settings.fusesBytes.size(); ++i)
-        m_view.editors()->addWidget(makeEditor(i));
+    QWidget* before = &m_before; // a new widget comes last in the window, behind the log
+    for (int i = 0; i < m_settings.fusesBytes.size(); ++i) {
+        FusesByteView* view = makeEditor(i);
+        view->putIntoTabOrder(before);
+        before = view->value();
+    }
     m_settings.fusesEnable = !m_settings.fusesBytes.isEmpty();
     explainAbsence();
 }
@@ -79,7 +85,7 @@ void FusesBytes::explainAbsence()
         m_view.setReason(tr("No fuse bytes are loaded. Choose the microcontroller in the first tab."));
 }
 
-QWidget* FusesBytes::makeEditor(int index)
+FusesByteView* FusesBytes::makeEditor(int index)
 {
     auto* editor = new QWidget(&m_view);
     auto* view = new FusesByteView(editor);
@@ -89,5 +95,6 @@ QWidget* FusesBytes::makeEditor(int index)
     auto* layout = new QHBoxLayout(editor);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view);
-    return editor;
+    m_view.editors()->addWidget(editor);
+    return view;
 }

@@ -6,6 +6,7 @@
 #include <QVector>
 
 class FusesBytePresenter;
+class FusesByteView;
 class FusesBytesView;
 
 /// Builds one editor for each fuse byte of the settings record, and lets them show it again. Owned by the Fuses tab;
@@ -15,7 +16,8 @@ class FusesBytes : public QObject
     Q_OBJECT
 
 public:
-    FusesBytes(SettingsRecord& settings, FusesBytesView& view, QObject* parent = nullptr);
+    /// The Tab key comes to the editors from @p before, which outlives them and takes the focus by a click at least.
+    FusesBytes(SettingsRecord& settings, FusesBytesView& view, QWidget& before, QObject* parent = nullptr);
 
     /// Brings bits and values of the record's present list together, replaces all editors by those of that list, and
     /// notes in the record whether there are any. May be called from a handler of one of the old editors: they go when
@@ -26,12 +28,13 @@ public:
     void refresh();
 
 private:
-    QWidget* makeEditor(int index);
+    FusesByteView* makeEditor(int index);
     void explain();
     void explainAbsence();
 
     SettingsRecord& m_settings;
     FusesBytesView& m_view;
+    QWidget& m_before;
     FuseMeanings m_meanings;
     QVector<FusesBytePresenter*> m_editors; ///< by place in the record's list
 };

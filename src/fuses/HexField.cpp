@@ -14,6 +14,15 @@ HexField::HexField(QWidget* parent)
     setAcceptDrops(false);
 }
 
+bool HexField::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept(); // with Ctrl or Alt a key is typed too, and does not leave the byte for a shortcut
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
 void HexField::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);

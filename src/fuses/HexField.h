@@ -11,6 +11,8 @@ class HexField : public QLineEdit
 public:
     explicit HexField(QWidget* parent = nullptr);
 
+    bool event(QEvent* event) override;
+
 signals:
     /// The field is left, perhaps with a digit deleted.
     void left();

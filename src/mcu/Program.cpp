@@ -18,18 +18,18 @@ Program::Program(Avrdude& avrdude, Fuses& fuses, QWidget* parent)
     , m_settings(avrdude.settings())
     , m_fuses(fuses)
     , m_attributesView(new AttributesView(this))
+    , m_flashView(new FlashView(this))
 {
-    auto* flashView = new FlashView(this);
     auto* eepromView = new EepromView(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_attributesView);
-    layout->addWidget(flashView);
+    layout->addWidget(m_flashView);
     layout->addWidget(eepromView);
     layout->addStretch();
 
     m_attributes = new Attributes(avrdude, m_signatures, *m_attributesView, this);
-    m_flash = new Flash(*flashView, avrdude, this);
+    m_flash = new Flash(*m_flashView, avrdude, this);
     m_eeprom = new Eeprom(*eepromView, avrdude, this);
     connect(m_attributesView->mcuList(), &QComboBox::textActivated, this, &Program::onMcuSelected);
 }
@@ -45,6 +45,11 @@ void Program::chooseMcu(const QString& name)
 {
     m_attributesView->mcuList()->setCurrentText(name);
     onMcuSelected(name);
+}
+
+void Program::browseForFlash()
+{
+    m_flashView->browseForWriting();
 }
 
 void Program::onMcuSelected(const QString& name)

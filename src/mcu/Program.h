@@ -9,6 +9,7 @@ class AttributesView;
 class Avrdude;
 class Eeprom;
 class Flash;
+class FlashView;
 class Fuses;
 struct SettingsRecord;
 
@@ -27,6 +28,9 @@ public:
     /// Does what picking the microcontroller called @p name in the list does.
     void chooseMcu(const QString& name);
 
+    /// Opens the dialog for the flash file to write, as its button does.
+    void browseForFlash();
+
 private:
     void onMcuSelected(const QString& name);
 
@@ -34,6 +38,7 @@ private:
     Fuses& m_fuses;
     SignatureIndex m_signatures;
     AttributesView* m_attributesView;
+    FlashView* m_flashView;
     Attributes* m_attributes;
     Flash* m_flash;
     Eeprom* m_eeprom;

@@ -35,6 +35,12 @@ MemoryView::MemoryView(const QString& memory, QWidget* parent)
     layout->addWidget(box);
 }
 
+void MemoryView::browseForWriting() const
+{
+    m_writeRow.browse->setFocus(Qt::ShortcutFocusReason);
+    m_writeRow.browse->click();
+}
+
 MemoryView::Row MemoryView::makeRow(const QString& memory, const QString& action, const QString& dialogTitle)
 {
     const Row row {

@@ -14,7 +14,6 @@ ProgrammingView::ProgrammingView(QWidget* parent)
     , m_externalButton(std::make_unique<QCheckBox>(tr("Use external button")))
 {
     m_write->setEnabled(false);
-    m_write->setAutoDefault(true); // so that Enter presses it
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
