@@ -127,21 +127,22 @@ void ListComboBox::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
 }
 
-void ListComboBox::paintEvent(QPaintEvent* event)
+void ListComboBox::paintEvent(QPaintEvent*)
 {
-    if (currentIndex() >= 0 || placeholderText().isEmpty()) {
-        QComboBox::paintEvent(event);
-        return;
-    }
-    // With a style sheet Qt 5.15 has no brush for a placeholder, and draws none.
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    option.currentText = placeholderText();
-    QColor faint = palette().color(QPalette::ButtonText);
-    faint.setAlphaF(0.5);
-    option.palette.setBrush(QPalette::ButtonText, faint);
+    if (currentIndex() < 0) {
+        // With a style sheet Qt 5.15 has no brush for a placeholder, and draws none.
+        option.currentText = placeholderText();
+        QColor faint = palette().color(QPalette::ButtonText);
+        faint.setAlphaF(0.5);
+        option.palette.setBrush(QPalette::ButtonText, faint);
+    }
+    constexpr int margins = 2; // pixels, which styles leave beside the text; they would cut a longer one off
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, field.width() - margins);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
