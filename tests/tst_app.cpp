@@ -1,6 +1,9 @@
+#include "about/AboutView.h"
 #include "app/KorvelApp.h"
 #include "app/Startup.h"
 #include "app/log/RunBar.h"
+#include "fuses/FusesByteView.h"
+#include "fuses/FusesTextView.h"
 #include "mcu/AttributesView.h"
 #include "profiles/Profiles.h"
 #include "profiles/ProgrammingView.h"
@@ -8,6 +11,8 @@
 #include "settings/SettingsView.h"
 #include "support/Bench.h"
 #include "support/Table.h"
+
+#include <cmath>
 
 #ifdef Q_OS_LINUX
 #include <csignal>
@@ -340,6 +345,42 @@ private slots:
             }
         }
         QCOMPARE(ears.heard.trimmed(), cell("heard"));
+    }
+
+    void everythingFollowsTheDesktop()
+    {
+        const WorkFolder folder;
+        folder.copy({"mcu/ATmega16.json"});
+        BoxAnswerer boxes;
+        KorvelApp window;
+        emit window.findChild<Avrdude*>()->partChosen("ATmega16");
+        const auto* about = window.findChild<AboutView*>(); // stays light
+        const auto faintest = [](const QWidget& legendOrBit) { // of what is disabled, as WCAG counts contrast
+            const auto luminance = [](const QColor& color) {
+                const auto linear = [](double part) {
+                    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+                };
+                return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+            };
+            const double ground = luminance(legendOrBit.palette().color(QPalette::Window)) + 0.05;
+            const double text = luminance(legendOrBit.palette().color(QPalette::Disabled, QPalette::WindowText)) + 0.05;
+            return std::max(ground, text) / std::min(ground, text);
+        };
+        const QPalette light = QApplication::palette();
+        for (const QPalette& desktop : {QPalette(QColor(0x31363b)), light}) {
+            QApplication::setPalette(desktop);
+            QStringList left;
+            for (const QWidget* widget : window.findChildren<QWidget*>()) {
+                for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+                    const bool follows = widget->palette().color(QPalette::Active, role) == desktop.color(role);
+                    if (!follows && widget != about && !about->isAncestorOf(widget))
+                        left += widget->metaObject()->className();
+                }
+            }
+            QCOMPARE(left, QStringList());
+            QVERIFY(faintest(*window.findChild<FusesTextView*>()) > 4.5);
+            QVERIFY(faintest(*window.findChild<FusesByteView*>()->fusesBit()[0]) > 3);
+        }
     }
 
     void withKeysAlone()

@@ -236,6 +236,19 @@ void KorvelApp::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void KorvelApp::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        // The toolkit hands no palette on to what has a style sheet, which reads it when it is set.
+        const auto widgets = findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            if (!widget->styleSheet().isEmpty())
+                widget->setStyleSheet(widget->styleSheet());
+        }
+    }
+    QMainWindow::changeEvent(event);
+}
+
 void KorvelApp::closeEvent(QCloseEvent* event)
 {
     saveSettings(m_witness);

@@ -55,6 +55,9 @@ protected:
     /// Lets Enter press the button that has the focus, once for as long as it is held down.
     void keyPressEvent(QKeyEvent* event) override;
 
+    /// Has everything follow a desktop that turns dark or light.
+    void changeEvent(QEvent* event) override;
+
     void closeEvent(QCloseEvent* event) override;
 
 private:

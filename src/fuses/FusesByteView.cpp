@@ -1,5 +1,6 @@
 #include "fuses/FusesByteView.h"
 
+#include "base/Contrast.h"
 #include "base/FocusTip.h"
 #include "fuses/HexField.h"
 
@@ -19,6 +20,7 @@ FusesByteView::FusesByteView(QWidget* parent)
         connect(checkBox, &QCheckBox::stateChanged, this, [this, checkBox] { emit bitChanged(m_fusesBit, checkBox); });
         m_fusesBit.prepend(checkBox);
         tip->watch(checkBox);
+        Contrast::liftDisabled(*checkBox, Contrast::half);
         checkBox->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(checkBox, &QCheckBox::customContextMenuRequested, this, [this, checkBox](const QPoint& position) {
             emit settingsWanted(static_cast<int>(m_fusesBit.indexOf(checkBox)), checkBox->mapToGlobal(position));

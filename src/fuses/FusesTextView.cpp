@@ -1,5 +1,6 @@
 #include "fuses/FusesTextView.h"
 
+#include "base/Contrast.h"
 #include "base/ElidedLabel.h"
 
 #include <QCheckBox>
@@ -35,6 +36,7 @@ FusesTextView::FusesTextView(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(row);
+    Contrast::liftDisabled(*this, Contrast::whole); // it is there to be read
 }
 
 void FusesTextView::setUnread(bool isUnread)
