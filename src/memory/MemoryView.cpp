@@ -3,9 +3,9 @@
 #include "base/RunButton.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -21,14 +21,14 @@ MemoryView::MemoryView(const QString& memory, QWidget* parent)
     // An open dialog here too: people overwrite the file they picked last time, and can type a new name.
     m_readRow = makeRow(memory, tr("Read"), QStringLiteral("SELECT %1 FILE FOR READING").arg(memory));
 
-    auto* rows = new QVBoxLayout(box);
+    auto* rows = new QGridLayout(box); // in which the buttons line up, whatever the length of their words
+    int line = 0;
     for (const Row& row : {m_writeRow, m_readRow}) {
-        auto* line = new QHBoxLayout;
-        line->addWidget(row.path);
-        line->addWidget(row.browse);
-        line->addWidget(row.action);
-        line->addWidget(row.verify);
-        rows->addLayout(line);
+        rows->addWidget(row.path, line, 0);
+        rows->addWidget(row.browse, line, 1);
+        rows->addWidget(row.action, line, 2);
+        rows->addWidget(row.verify, line, 3);
+        ++line;
     }
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
