@@ -4,6 +4,7 @@
 #include "app/main.cpp"
 #undef main
 
+#include "app/log/AvrdudeMessage.h"
 #include "mcu/AttributesView.h"
 #include "support/WorkFolder.h"
 
@@ -35,6 +36,12 @@ struct Watcher : QObject {
     }
 } watcher;
 
+bool isScrolled(Qt::Orientation orientation)
+{
+    const auto* area = window->centralWidget()->findChild<QScrollArea*>({}, Qt::FindDirectChildrenOnly);
+    return (orientation == Qt::Vertical ? area->verticalScrollBar() : area->horizontalScrollBar())->isVisible();
+}
+
 void watch()
 {
     qApp->installEventFilter(&watcher);
@@ -61,9 +68,26 @@ private slots:
         QTest::newRow("nothing is scrolled at the smallest size") << Look([] {
             window->resize(window->sizeHint());
             QTest::qWait(0);
-            const auto* central = qobject_cast<QScrollArea*>(window->centralWidget());
-            QVERIFY(!central->horizontalScrollBar()->isVisible() && !central->verticalScrollBar()->isVisible());
+            QVERIFY(!isScrolled(Qt::Horizontal) && !isScrolled(Qt::Vertical));
         });
+        QTest::newRow("the log grows with the window, and gives way in a smaller one before anything scrolls")
+            << Look([] {
+                   const auto* log = window->findChild<AvrdudeMessage*>();
+                   const int usual = window->sizeHint().height();
+                   const auto heightOfLog = [log](int height) {
+                       window->resize(window->width(), height);
+                       QTest::qWait(0);
+                       return log->height();
+                   };
+                   QCOMPARE(heightOfLog(usual + 100), 180 + 50);
+                   QCOMPARE(heightOfLog(usual), 180);
+                   QVERIFY(heightOfLog(usual - 50) <= 180 - 50 + 1 && !isScrolled(Qt::Vertical));
+                   const int fourLines = 4 * QFontMetrics(log->font()).lineSpacing();
+                   QVERIFY(heightOfLog(usual - 200) >= fourLines && log->height() < 2 * fourLines
+                           && isScrolled(Qt::Vertical));
+                   QCOMPARE(heightOfLog(usual), 180);
+                   QVERIFY(!isScrolled(Qt::Vertical));
+               });
         QTest::newRow("a window that fits the screen without its frame alone is made lower") << Look([] {
             const int screen = window->screen()->availableGeometry().height();
             window->resize(520, screen - 1);

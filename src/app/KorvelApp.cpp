@@ -5,6 +5,7 @@
 #include "advice/Advice.h"
 #include "advice/Surroundings.h"
 #include "app/KeyboardFocus.h"
+#include "app/Panes.h"
 #include "app/StrayInput.h"
 #include "app/log/AvrdudeMessage.h"
 #include "app/log/RunBar.h"
@@ -29,17 +30,13 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 #include <functional>
 
 namespace {
-
-constexpr QSize smallestSize(320, 240); // pixels; what does not fit is scrolled
 
 void warnAboutSettings(const QString& text)
 {
@@ -64,8 +61,6 @@ QString setAside(const QString& path)
 
 KorvelApp::KorvelApp(QWidget* parent)
     : QMainWindow(parent)
-    , m_central(new QScrollArea(this))
-    , m_content(new QWidget)
     , m_log(new AvrdudeMessage(this))
     , m_avrdude(new Avrdude(this, m_log))
     , m_tabs(new QTabWidget(this))
@@ -73,6 +68,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     , m_program(new Program(*m_avrdude, *m_fuses, this))
     , m_profiles(new Profiles(*m_avrdude, this))
     , m_settings(new Settings(*m_avrdude, this))
+    , m_panes(new Panes({m_tabs, m_settings}, *m_log, this))
     , m_strays(new StrayInput(this))
 {
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
@@ -80,18 +76,14 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
     m_tabs->addTab(new AboutView(this), QStringLiteral("About"));
 
-    auto* layout = new QVBoxLayout(m_content);
-    layout->addWidget(m_tabs);
-    layout->addWidget(m_settings);
-    layout->addWidget(m_log);
-    // After all others: the Tab key goes through the window as it is filled, and these are what is needed least.
-    m_tabs->setCornerWidget(new SocialLinksWidget(this), Qt::TopRightCorner);
-    m_central->setFrameShape(QFrame::NoFrame);
-    m_central->setFocusPolicy(Qt::NoFocus);
-    m_central->setWidgetResizable(true);
-    m_central->setMinimumSize(smallestSize);
-    m_central->setWidget(m_content);
-    setCentralWidget(m_central);
+    setCentralWidget(m_panes);
+    auto* links = new SocialLinksWidget(this);
+    m_tabs->setCornerWidget(links, Qt::TopRightCorner);
+    QWidget* last = m_log; // for the Tab key, but for these, which are needed least
+    for (auto* link : links->findChildren<QAbstractButton*>()) {
+        setTabOrder(last, link);
+        last = link;
+    }
 
     new KeyboardFocus(*this);
     addShortcuts();
@@ -100,6 +92,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     connect(m_profiles, &Profiles::grew, this, &KorvelApp::makeRoom, Qt::QueuedConnection);
     m_avrdude->setExplainer(
         [](const FailedRun& run) { return Advice::explain(run, Surroundings::now(Advice::portOf(run))); });
+    connect(m_panes, &Panes::scrolling, m_fuses, &Fuses::showWhole);
     connect(m_avrdude, &Avrdude::partChosen, m_program, &Program::chooseMcu);
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
@@ -170,7 +163,7 @@ bool KorvelApp::checksForUpdates() const
 
 QSize KorvelApp::sizeHint() const
 {
-    return m_content->minimumSizeHint();
+    return m_panes->sizeHint();
 }
 
 void KorvelApp::refreshPanels()
@@ -189,10 +182,11 @@ void KorvelApp::onTabChanged(int index)
 
 void KorvelApp::makeRoom(int pixels)
 {
-    const int missing = m_content->minimumSizeHint().height() - m_central->viewport()->height();
+    const int missing = m_panes->sizeHint().height() - m_panes->height();
     const int most = screen()->availableGeometry().bottom() - geometry().bottom();
     if (missing > 0 && missing <= pixels && missing <= most && !isMaximized() && !isFullScreen())
         resize(width(), height() + missing);
+    m_panes->share();
 }
 
 void KorvelApp::addShortcuts()

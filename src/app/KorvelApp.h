@@ -9,8 +9,8 @@ class Avrdude;
 class AvrdudeMessage;
 class Fuses;
 class Profiles;
+class Panes;
 class Program;
-class QScrollArea;
 class QTabWidget;
 class Settings;
 class StrayInput;
@@ -62,7 +62,7 @@ protected:
 
 private:
     /// Grows by what is missing after something in the window has grown by @p pixels, unless the window was too small
-    /// before, or the screen is: there a scroll bar serves.
+    /// before, or the screen is: there the log gives way, and then a scroll bar serves.
     void makeRoom(int pixels);
 
     /// Ctrl+O opens the dialog for the flash file, Alt and a digit show a tab. None of it is on a widget: the texts
@@ -74,8 +74,6 @@ private:
 
     PlainLabels m_plainLabels; ///< before all widgets
     Spoken m_spoken; ///< the same
-    QScrollArea* m_central;
-    QWidget* m_content; ///< scrolls in it where the screen is too small
     AvrdudeMessage* m_log;
     Avrdude* m_avrdude;
     QTabWidget* m_tabs;
@@ -83,6 +81,7 @@ private:
     Program* m_program;
     Profiles* m_profiles;
     Settings* m_settings;
+    Panes* m_panes;
     StrayInput* m_strays;
     Witness m_witness = Witness::User; ///< of the closing
 };

@@ -9,6 +9,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -79,6 +80,13 @@ AvrdudeMessage::AvrdudeMessage(QWidget* parent)
         + verticalScrollBar()->sizeHint().width() + static_cast<int>(2 * document()->documentMargin());
     setFont(outputFont(windowWidth - margins));
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+int AvrdudeMessage::leastHeight() const
+{
+    constexpr int lines = 4;
+    const double margins = 2 * (document()->documentMargin() + frameWidth());
+    return static_cast<int>(std::ceil(lines * QFontMetricsF(font()).lineSpacing() + margins));
 }
 
 void AvrdudeMessage::insertAtCursor(const QString& text)

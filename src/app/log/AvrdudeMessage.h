@@ -11,6 +11,9 @@ class AvrdudeMessage : public QPlainTextEdit
 public:
     explicit AvrdudeMessage(QWidget* parent = nullptr);
 
+    /// The height in pixels at which a few lines are seen, which tell how a run went.
+    [[nodiscard]] int leastHeight() const;
+
     /// Inserts @p text at the text cursor, which is where the user last clicked, else the end. While something is
     /// selected it goes to the end, and the selection stays as it is. A line of thousands of characters is broken: laid
     /// out whole it would hold up the window.

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+class AvrdudeMessage;
+class QScrollArea;
+
+/// What fills the window: panes, which scroll where the screen is too small for them, over the log, which stays in
+/// sight. The log has the height that it was made with in a window of the size at which it opens; it grows with half of
+/// what a larger one has, and gives way in a smaller one before anything scrolls.
+class Panes : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Takes over @p panes, from top to bottom, and @p log.
+    Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* parent);
+
+    /// The least size at which nothing is scrolled and the log has its height.
+    [[nodiscard]] QSize sizeHint() const override;
+
+    /// Shares the height between panes and log. Due when the panes need another one than before.
+    void share();
+
+signals:
+    /// The panes have begun to scroll, or ended: what scrolls in them had better not.
+    void scrolling(bool isScrolling);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QScrollArea* m_area;
+    QWidget* m_panes;
+    AvrdudeMessage& m_log;
+    const int m_logHeight; ///< pixels, in a window as it opens
+    int m_opened = 0; ///< the height of these in pixels when the window opened
+    int m_needed = 0; ///< that at which nothing is scrolled
+    bool m_isScrolling = false;
+};
