@@ -57,6 +57,18 @@ private:
     const std::function<void()> m_then;
 };
 
+/// Brings all of @p window with its frame onto its screen: how large the frame is is known once the window is shown.
+void bringFrameIntoSight(QWidget& window)
+{
+    const QRect area = window.screen()->availableGeometry();
+    const int excess = window.frameGeometry().height() - area.height();
+    if (excess > 0)
+        window.resize(window.width(), window.height() - excess);
+    const QRect frame = window.frameGeometry();
+    if (frame.bottom() > area.bottom())
+        window.move(frame.left(), area.bottom() + 1 - frame.height());
+}
+
 /// The main window while it is shown, else null.
 KorvelApp* mainWindow()
 {
@@ -159,15 +171,12 @@ void Startup::moveToPointerScreen(QWidget& window)
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     const QRect area = screen->availableGeometry();
-    // How high the frame is shows only later: it is as high as the title, and as much again.
-    const int frame = 2 * window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    if (window.height() + frame > area.height()) {
+    if (window.height() > area.height()) {
         const int scrollBar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-        window.resize(std::min(window.width() + scrollBar, area.width()), area.height() - frame);
+        window.resize(std::min(window.width() + scrollBar, area.width()), area.height());
     }
-    const int spare = area.height() - window.height();
-    const int y = area.top() + std::max(0, std::min(spare / 2, spare - frame));
-    window.move(area.left() + (area.width() - window.width()) / 2, y);
+    window.move(area.left() + (area.width() - window.width()) / 2, area.top() + (area.height() - window.height()) / 2);
+    afterFirstPaint(window, [&window] { bringFrameIntoSight(window); });
 }
 
 void Startup::leaveOutOpenGl()

@@ -22,9 +22,9 @@ void closeOnRequest();
 /// and the first window is not; whatever the environment says of it is left alone.
 void leaveOutOpenGl();
 
-/// Centres @p window on the available area of the screen under the mouse pointer, else of the primary screen. On a
-/// screen that is lower than the window with its frame the window becomes as high as the screen allows, with its title
-/// at the top.
+/// Centres @p window on the available area of the screen under the mouse pointer, else of the primary screen. Once it
+/// is shown it is moved up where its frame sticks out below, and made lower on a screen that is lower than window and
+/// frame.
 void moveToPointerScreen(QWidget& window);
 
 /// Calls @p then once, shortly after @p window has been painted for the first time: what nobody waits for is not to
