@@ -2,6 +2,8 @@
 
 #include <QHBoxLayout>
 
+#include <algorithm>
+
 RowBox::RowBox(const QString& title, std::initializer_list<QWidget*> widgets, QWidget* parent)
     : QGroupBox(title, parent)
     , m_row(new QHBoxLayout(this))
@@ -13,4 +15,15 @@ RowBox::RowBox(const QString& title, std::initializer_list<QWidget*> widgets, QW
         if (!widget->inherits("QLabel") && !widget->inherits("QAbstractButton")) // these have a text of their own
             widget->setAccessibleName(name);
     }
+}
+
+QSize RowBox::minimumSizeHint() const
+{
+    const int titleWidth = fontMetrics().size(Qt::TextShowMnemonic, title() + QLatin1Char(' ')).width();
+    return {std::max(titleWidth, layout()->totalMinimumSize().width()), QGroupBox::minimumSizeHint().height()};
+}
+
+QSize RowBox::sizeHint() const
+{
+    return QGroupBox::sizeHint().expandedTo(QGroupBox::minimumSizeHint());
 }
