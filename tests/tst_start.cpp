@@ -4,6 +4,7 @@
 #include "app/main.cpp"
 #undef main
 
+#include "app/Panes.h"
 #include "app/log/AvrdudeMessage.h"
 #include "mcu/AttributesView.h"
 #include "support/WorkFolder.h"
@@ -73,7 +74,7 @@ private slots:
         QTest::newRow("the log grows with the window, and gives way in a smaller one before anything scrolls")
             << Look([] {
                    const auto* log = window->findChild<AvrdudeMessage*>();
-                   const int usual = window->sizeHint().height();
+                   const int usual = window->findChild<Panes*>()->neededHeight();
                    const auto heightOfLog = [log](int height) {
                        window->resize(window->width(), height);
                        QTest::qWait(0);

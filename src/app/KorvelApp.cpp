@@ -68,7 +68,6 @@ KorvelApp::KorvelApp(QWidget* parent)
     , m_program(new Program(*m_avrdude, *m_fuses, this))
     , m_profiles(new Profiles(*m_avrdude, this))
     , m_settings(new Settings(*m_avrdude, this))
-    , m_panes(new Panes({m_tabs, m_settings}, *m_log, this))
     , m_strays(new StrayInput(this))
 {
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
@@ -76,6 +75,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
     m_tabs->addTab(new AboutView(this), QStringLiteral("About"));
 
+    m_panes = new Panes({m_tabs, m_settings}, *m_log, this);
     setCentralWidget(m_panes);
     auto* links = new SocialLinksWidget(this);
     m_tabs->setCornerWidget(links, Qt::TopRightCorner);
@@ -182,11 +182,10 @@ void KorvelApp::onTabChanged(int index)
 
 void KorvelApp::makeRoom(int pixels)
 {
-    const int missing = m_panes->sizeHint().height() - m_panes->height();
+    const int missing = m_panes->neededHeight() - m_panes->height();
     const int most = screen()->availableGeometry().bottom() - geometry().bottom();
     if (missing > 0 && missing <= pixels && missing <= most && !isMaximized() && !isFullScreen())
         resize(width(), height() + missing);
-    m_panes->share();
 }
 
 void KorvelApp::addShortcuts()

@@ -81,7 +81,7 @@ private:
     Program* m_program;
     Profiles* m_profiles;
     Settings* m_settings;
-    Panes* m_panes;
+    Panes* m_panes = nullptr; ///< made when these are filled, as it looks at their sizes
     StrayInput* m_strays;
     Witness m_witness = Witness::User; ///< of the closing
 };

@@ -2,6 +2,7 @@
 
 #include "app/log/AvrdudeMessage.h"
 
+#include <QEvent>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -23,6 +24,7 @@ Panes::Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* paren
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->setWidgetResizable(true);
     m_area->setWidget(m_panes);
+    m_panes->installEventFilter(this);
 
     auto* lower = new QHBoxLayout;
     lower->setContentsMargins(margins.left(), 0, margins.right(), 0);
@@ -38,14 +40,21 @@ Panes::Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* paren
 
 QSize Panes::sizeHint() const
 {
-    const QSize panes = m_panes->minimumSizeHint();
-    return {panes.width(), panes.height() + layout()->spacing() + m_logHeight + layout()->contentsMargins().bottom()};
+    // With a font that is a little larger than usual the window opens as large as usual.
+    const int given = m_logHeight / 6;
+    return {m_panes->minimumSizeHint().width(), neededHeight() - given};
+}
+
+int Panes::neededHeight() const
+{
+    return m_panes->minimumSizeHint().height() + layout()->spacing() + m_logHeight
+        + layout()->contentsMargins().bottom();
 }
 
 void Panes::share()
 {
     if (!m_isScrolling) // while they scroll they may want more
-        m_needed = sizeHint().height();
+        m_needed = neededHeight();
     const int missing = m_needed - height();
     const int spare = std::max(0, height() - std::max(m_needed, m_opened));
     m_log.setFixedHeight(std::max(m_log.leastHeight(), m_logHeight + (missing > 0 ? -missing : spare / 2)));
@@ -54,6 +63,13 @@ void Panes::share()
         m_isScrolling = isScrolling;
         emit scrolling(isScrolling);
     }
+}
+
+bool Panes::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest && m_opened > 0) // the panes need another height than before
+        share();
+    return QWidget::eventFilter(object, event);
 }
 
 void Panes::resizeEvent(QResizeEvent* event)

@@ -17,11 +17,13 @@ public:
     /// Takes over @p panes, from top to bottom, and @p log.
     Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* parent);
 
-    /// The least size at which nothing is scrolled and the log has its height.
+    /// The least size at which nothing is scrolled and the log has most of its height.
     [[nodiscard]] QSize sizeHint() const override;
 
-    /// Shares the height between panes and log. Due when the panes need another one than before.
-    void share();
+    /// The height in pixels at which nothing is scrolled and the log has its height.
+    [[nodiscard]] int neededHeight() const;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
 
 signals:
     /// The panes have begun to scroll, or ended: what scrolls in them had better not.
@@ -32,6 +34,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void share();
+
     QScrollArea* m_area;
     QWidget* m_panes;
     AvrdudeMessage& m_log;
