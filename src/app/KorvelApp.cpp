@@ -35,6 +35,7 @@
 #include <QTabWidget>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -193,7 +194,7 @@ void KorvelApp::addShortcuts()
     const auto add = [this](const QKeySequence& keys, std::function<void()> act) {
         auto* shortcut = new QShortcut(keys, this);
         shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, this, act);
+        connect(shortcut, &QShortcut::activated, this, std::move(act));
     };
     for (int i = 0; i < m_tabs->count(); ++i) {
         add(QKeySequence(QStringLiteral("Alt+%1").arg(i + 1)), [this, i] {

@@ -37,7 +37,7 @@ void Contrast::lift()
     const QPalette desktop = QApplication::palette(&m_widget);
     QPalette lifted; // in which nothing is set but these two: the rest follows the desktop
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text}) {
-        const QColor text = desktop.color(QPalette::Active, role);
+        const QColor& text = desktop.color(QPalette::Active, role);
         lifted.setColor(role, text);
         lifted.setColor(QPalette::Disabled, role, between(desktop.color(QPalette::Window), text, m_share));
     }
