@@ -3,13 +3,16 @@
 set -eu
 glibc=2.35 # the oldest that will do
 cd "$(dirname "$(readlink -f "$0")")"
+# After the first start it goes on without this folder too.
 tell() { echo "korvel: $1" >&2; }
-[ ! -r starter/tell.sh ] || . starter/tell.sh
+lay_starters() { :; }
+[ ! -r starter/launchers.sh ] || . starter/launchers.sh
+# packages_of COMMAND COLUMN: a line with the command that installs what is missing, where the list has packages for it.
 packages_of() {
-    echo "$missing" | awk -v line="$1" -v column="$2" '
+    echo "$missing" | awk -v command="$1" -v column="$2" '
         NR == FNR { package[$1] = $column; next }
-        $1 in package && !told[package[$1]]++ { line = line " " package[$1] }
-        END { print line }' starter/system-libraries.txt -
+        package[$1] && !told[package[$1]]++ { names = names " " package[$1] }
+        END { if (names) print "\n" command names }' starter/system-libraries.txt -
 }
 give_up() { tell "$1"; exit 1; }
 
@@ -20,9 +23,9 @@ printf 'glibc %s\n' "$glibc" "${system#glibc }" | sort -VC ||
 libraries=$(LC_ALL=C ldd ./korvel plugins/platforms/libqxcb.so 2>&1) || true
 case $libraries in *"not a dynamic executable"*) give_up "This Korvel is not for this processor, $(uname -m)." ;; esac
 missing=$(echo "$libraries" | sed -n 's/^[[:space:]]*\(.*\) => not found.*/\1/p' | sort -u)
-[ -z "$missing" ] || give_up "Korvel needs libraries that this system does not have: $(echo $missing)
-$(packages_of "Debian, Ubuntu: apt install" 2)
-$(packages_of "Fedora: dnf install" 3)
+[ -z "$missing" ] || give_up "Korvel needs libraries that this system does not have: $(echo $missing)\
+$(packages_of "Debian, Ubuntu: apt install" 2)\
+$(packages_of "Fedora: dnf install" 3)\
 $(packages_of "Arch: pacman -S" 4)"
 old=$(echo "$libraries" | grep 'version .* not found') && give_up "Korvel needs newer libraries than this system's:
 $old"
@@ -39,10 +42,7 @@ Arch: pacman -S ttf-dejavu"
 command -v avrdude >/dev/null || PATH=$PATH:$(pwd)/avrdude
 
 # Unpacking the archive once more must not take your settings, so they are laid in place only here.
-for starter in save.json profiles; do
-    [ -e "$starter" ] || cp -R "starter/$starter" . || true
-done
-[ -w . ] && [ -w profiles ] || tell "Korvel cannot write to $(pwd).
+lay_starters starter && [ -w . ] && [ -w profiles ] || tell "Korvel cannot write to $(pwd).
 It starts, but keeps no settings and no profiles.
 Unpack the archive in a folder of your own to keep them."
 exec ./korvel "$@"

@@ -3,7 +3,7 @@
 
 share=$prefix/share/korvel
 
-. "$library/tell.sh"
+. "$library/launchers.sh"
 
 case ${XDG_DATA_HOME:-} in
 /*) work=$XDG_DATA_HOME/korvel ;;
@@ -14,14 +14,7 @@ if ! mkdir -p "$work" || ! cd "$work"; then
     exit 1
 fi
 
-# Whatever the user put in a place, a link that leads nowhere included, is left alone.
-taken() { [ -e "$1" ] || [ -L "$1" ]; }
-
-# What is the user's from the first start on. Moved into place, so that half a copy never counts.
-for starter in save.json profiles; do
-    taken "$starter" || { cp -R "$share/$starter" "$starter.new" && mv "$starter.new" "$starter"; } || unwritable=yes
-done
-
+lay_starters "$share" || unwritable=yes
 # What ships.
 for data in mcu programmer Languages demo; do
     taken "$data" || ln -s "$share/$data" "$data" || unwritable=yes
