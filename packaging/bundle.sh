@@ -31,7 +31,7 @@ take() {
 # Whatever is loaded looks there before all else: an LD_LIBRARY_PATH of the user's has no say, and one of ours, which
 # avrdude and the browser would inherit, is not needed.
 follow() {
-    local current needed found target
+    local current needed found target library
     while [ ${#todo[@]} -gt 0 ]; do
         current=${todo[0]}
         todo=("${todo[@]:1}")
@@ -39,7 +39,9 @@ follow() {
         for needed in $(patchelf --print-needed "$folder/$current"); do
             target=$1/$needed
             if [ -e "$folder/$target" ] || is_of_system "$needed"; then continue; fi
-            take "$(awk -v name="$needed" '$1 == name { print $3 }' <<<"$found")" "$target"
+            library=$(awk -v name="$needed" '$1 == name && $3 ~ "^/" { print $3 }' <<<"$found")
+            [ -n "$library" ] || fail "$current needs $needed, which this system does not have"
+            take "$library" "$target"
         done
         patchelf --force-rpath --set-rpath \
             "\$ORIGIN/$(realpath -m --relative-to="$folder/$(dirname "$current")" "$folder/$1")" "$folder/$current"
@@ -59,7 +61,7 @@ printf '[Paths]\nPrefix=.\nPlugins=plugins\n' >"$folder/qt.conf"
 # avrdude finds its configuration beside itself.
 take "$(command -v avrdude)" avrdude/avrdude
 take /etc/avrdude.conf avrdude/avrdude.conf
-take "$(ls /{usr/,}lib/udev/rules.d/60-avrdude.rules 2>/dev/null | head -n 1)" avrdude/60-avrdude.rules
+take /lib/udev/rules.d/60-avrdude.rules avrdude/60-avrdude.rules
 follow avrdude/lib
 
 # Licences: a folder for each source package; licences.txt must have a line for each and for nothing else.
@@ -84,12 +86,17 @@ difference=$(diff <(ls "$folder/licences") \
     fail "licences.txt does not fit what is in the archive:
 $difference"
 
-# What the system has to be at least. korvel.sh compares with the system's own, and the guide tells it.
-promised=$(sed -n 's/^glibc=\([0-9.]*\).*/\1/p' "$packaging/korvel.sh")
-needed=$(find "$folder" -type f \( -perm /111 -o -name '*.so*' \) -exec objdump -T {} + |
-    grep -o 'GLIBC_[0-9][0-9.]*' | sort -Vu | tail -n 1)
-echo "The archive needs glibc ${needed#GLIBC_}."
-printf '%s\n' "${needed#GLIBC_}" "$promised" | sort -VC || fail "korvel.sh promises that glibc $promised is enough"
-grep -q "glibc $promised " "$packaging/../docs/guide.md" || fail "docs/guide.md names another glibc than $promised"
+# What the system has to be at least: glibc as korvel.sh says, which compares with the system's own, and the libstdc++
+# of GCC 12, as the oldest releases with such a glibc have.
+glibc=$(sed -n 's/^glibc=\([0-9.]*\).*/\1/p' "$packaging/korvel.sh")
+symbols=$(find "$folder" -type f \( -perm /111 -o -name '*.so*' \) -exec objdump -T {} +)
+for promised in "GLIBC_$glibc" GLIBCXX_3.4.30 CXXABI_1.3.13; do
+    needed=$(grep -o "\<${promised%_*}_[0-9][0-9.]*" <<<"$symbols" | sort -Vu | tail -n 1)
+    echo "The archive needs $needed."
+    printf '%s\n' "$needed" "$promised" | sort -VC || fail "that is newer than $promised"
+done
+for text in README.md docs/guide.md; do
+    grep -q "glibc $glibc " "$packaging/../$text" || fail "$text names another glibc than $glibc"
+done
 
 find "$folder" -type d -exec chmod 755 {} +

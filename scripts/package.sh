@@ -1,11 +1,23 @@
 #!/usr/bin/env bash
-# Builds the Debian package and the portable archive, both in build/package. With --check from scratch, and once more in
-# build/package-check, and fails where the two differ.
+# Builds the Debian package and, on Debian 12, the portable archive, both in build/package. With --check from scratch,
+# and once more in build/package-check, and fails where the two differ.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the language files
 case "$#${1:-}" in 0 | 1--check) ;; *) echo "Usage: package.sh [--check]" >&2; exit 2 ;; esac
 
 need_packages "${build_packages[@]}" dpkg-dev fakeroot file librsvg2-bin patchelf
+# The archive brings what Debian 12 has: packaging/licences.txt and packaging/system-libraries.txt list that.
+system="$(. /etc/os-release && echo "${ID:-} ${VERSION_ID:-}") $(dpkg --print-architecture)"
+generators=DEB
+targets=(all)
+left_out=
+if [ "$system" = "debian 12 amd64" ]; then
+    generators+=";TXZ"
+    targets+=(korvel_bundle)
+else
+    left_out="The portable archive is left out: it is made on debian 12 amd64, and this is $system."
+fi
+shopt -s nullglob # for the archive that is left out
 # Debian's flags harden the programs; CMake takes them over when it configures a folder for the first time.
 flags="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)"
 LDFLAGS=$(DEB_BUILD_MAINT_OPTIONS=hardening=+all dpkg-buildflags --get LDFLAGS)
@@ -22,10 +34,10 @@ umask 022
 # Makes the packages in the given folder, whose name must not get into them.
 make_packages() (
     CXXFLAGS="$flags -ffile-prefix-map=$PWD/$1=." cmake --preset package -B "$1"
-    cmake --build "$1"
+    cmake --build "$1" --target "${targets[@]}"
     cd "$1"
     rm -rf _CPack_Packages ./*.deb ./*.tar.*
-    fakeroot cpack
+    fakeroot cpack -G "$generators"
 )
 
 # What is in a tar: a line for each member, and the sums of the files with their names.
@@ -66,3 +78,4 @@ if [ -n "${1:-}" ]; then
     echo "Made twice, the packages are the same byte for byte."
 fi
 ls -l build/package/*.{deb,tar.xz}
+[ -z "$left_out" ] || echo "$left_out"
