@@ -1,25 +1,34 @@
 #!/usr/bin/env bash
-# Tries what scripts/package.sh made as a user would: the Debian package in a fresh root of this Debian, the archive in
-# those of Debian 12, 13 and 11 and, where the mirror has it, Ubuntu 22.04. Installs it, starts it under Xvfb as an
-# ordinary user, writes the virtual chip with the mouse, removes it, and looks at what is left. Needs root and five to ten
-# minutes. Asks the checkers of Debian and of desktops first. Leaves screenshots in build/package.
+# Tries what scripts/package.sh made on Debian 12 as a user would: the Debian package in fresh roots of Debian 12 and 13
+# and Ubuntu 24.04, the archive in those of Debian 12, 13 and 11 and Ubuntu 22.04; Ubuntu where the mirror has it.
+# Installs it, starts it under Xvfb as an ordinary user, writes the virtual chip with the mouse, removes it, and looks
+# at what is left. Needs root and about ten minutes. Asks the checkers of Debian and of desktops first. Leaves
+# screenshots in build/package.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of folders
 [ "$(id -u)" -eq 0 ] || { echo "Run this as root: it makes a root folder of its own." >&2; exit 1; }
+# With mounts of its own, which end with it, however it ends.
+[ -n "${KORVEL_OWN_MOUNTS:-}" ] || KORVEL_OWN_MOUNTS=1 exec unshare --mount scripts/test-package.sh
+set -E
+trap 'echo "test-package.sh: failed in line $LINENO, called from ${BASH_LINENO[*]}" >&2' ERR
 need_packages debootstrap iproute2 lintian appstream desktop-file-utils
 packages=$PWD/build/package
-deb=$(ls "$packages"/*.deb)
-archive=$(ls "$packages"/*.tar.xz)
+deb=$(echo "$packages"/*.deb)
+archive=$(echo "$packages"/*.tar.xz)
+[ -e "$deb" ] && [ -e "$archive" ] || { echo "First make both packages: scripts/package.sh on Debian 12." >&2; exit 1; }
 this_debian=$(. /etc/os-release && echo "$VERSION_CODENAME")
-mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' | grep -m 1 '/debian/$')
+mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' |
+    awk '/\/debian\/$/ && !n++')
+[ -n "$mirror" ] || { echo "apt knows no mirror of Debian." >&2; exit 1; }
 tried=()
 
-root=$(mktemp -d)
+scratch=$(mktemp -d)
+root=$scratch/root
 cleanup() {
     umount -l "$root/proc" "$root/dev" "$root"/home/tester/*/* 2>/dev/null || true
     rm -rf --one-file-system "$root"
 }
-trap cleanup EXIT
+trap 'cleanup; rmdir "$scratch"' EXIT
 
 # In a network of its own: nobody else's displays and virtual programmers are there.
 in_root() {
@@ -33,18 +42,17 @@ apt() {
 }
 install() { apt install --no-install-recommends "$@"; }
 
-# make_root RELEASE MIRROR [COMPONENTS]: a system as bare as it gets, with a user.
+# make_root RELEASE MIRROR [COMPONENTS SCRIPT]: a system as bare as it gets, with a user.
 make_root() {
     cleanup
-    mkdir -p "$root"
+    mkdir "$root"
     chmod 755 "$root"
-    debootstrap --variant=minbase --components="${3:-main}" "$1" "$root" "$2" >"$packages/debootstrap.log"
+    debootstrap --variant=minbase --components="${3:-main}" "$1" "$root" "$2" ${4:+"$4"} >"$packages/debootstrap.log"
     cp -a /etc/apt/{apt,auth}.conf.d "$root/etc/apt/"
     if [ "$1" = "$this_debian" ]; then cp -a /etc/apt/. "$root/etc/apt/"; fi
     cp /etc/resolv.conf "$root/etc/"
     mount -t proc proc "$root/proc"
     mount --rbind /dev "$root/dev"
-    mount --make-rslave "$root/dev" # so that unmounting it stays in here
     apt update
     in_root useradd --create-home --shell /bin/sh tester
 }
@@ -56,11 +64,12 @@ add_display() {
 # use.sh PROGRAMMER KORVEL FIRMWARE [AVRDUDE]: loads the first sample profile, presses Write, closes the window, and
 # verifies the chip. Without FIRMWARE it only looks at the window.
 set -eu
-until xdotool getdisplaygeometry >/dev/null 2>&1; do sleep 0.2; done # openbox gives up at once
+await() { timeout 60 sh -c "until $1 >/dev/null 2>&1; do sleep 0.2; done"; }
+await 'xdotool getdisplaygeometry' # openbox gives up at once
 openbox & started=$!
-until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done # a window that comes while it starts stays hidden
-"$1" --state chip.json & started="$started $!"
 trap 'kill $started' EXIT
+await 'xdotool get_num_desktops' # a window that comes while openbox starts stays hidden
+"$1" --state chip.json & started="$started $!"
 "$2" & korvel=$!
 if command -v xmessage >/dev/null; then # which the launcher tells with
     box=$(timeout 60 xdotool search --sync --onlyvisible --class xmessage | head -n 1)
@@ -95,11 +104,12 @@ close
 EOF
 }
 
-# Runs use.sh with the given arguments and keeps the screenshot under the given name.
+# Runs use.sh with the given arguments and keeps the screenshot under the given name. Xvfb without -noreset turns away
+# who comes just after its only client has gone.
 run_use() {
     local name=$1
     shift
-    as_user "rm -f chip.json; xvfb-run -a -n 60 -s '-screen 0 800x760x24 -dpi 96' sh /use.sh ${*@Q}" 2>&1 |
+    as_user "rm -f chip.json; xvfb-run -a -n 60 -s '-screen 0 800x760x24 -dpi 96 -noreset' sh /use.sh ${*@Q}" 2>&1 |
         tee "$root/said.txt"
     cp "$root/home/tester/written.png" "$packages/$name.png"
 }
@@ -120,15 +130,27 @@ dpkg-deb -x "$deb" "$root"
 appstreamcli validate --no-net --pedantic --strict --override=cid-maybe-not-rdns=pedantic "$root"/usr/share/metainfo/*
 desktop-file-validate "$root"/usr/share/applications/*
 
-echo "== the Debian package"
-make_root "$this_debian" "$mirror"
+# try_deb NAME: in the root that is there, which has a display.
+try_deb() {
+    echo "== the Debian package on $1"
+    cp "$deb" "$root/korvel.deb"
+    install /korvel.deb
+    # A first start that was interrupted does no harm.
+    as_user 'mkdir -p .local/share/korvel/profiles.new/half'
+    use_deb "$1 deb"
+    as_user 'cd .local/share/korvel && test ! -e profiles.new -a ! -e profiles/half -a -s profiles/Blink.json'
+    tried+=("$(basename "$deb") on $1: installed, wrote a chip")
+}
+use_deb() {
+    use "$1" .local/share/korvel/save.json korvel-virtual-programmer korvel /usr/share/korvel/demo/blink.hex
+}
+
+make_root bookworm "$mirror"
 add_display
-cp "$deb" "$root/korvel.deb"
-install /korvel.deb
-use deb .local/share/korvel/save.json korvel-virtual-programmer korvel /usr/share/korvel/demo/blink.hex
+try_deb "Debian 12"
 # A folder of the user's own stays as it is, and the rest still works.
 as_user 'cd .local/share/korvel && rm mcu && mkdir mcu && cp /usr/share/korvel/mcu/ATmega16.json mcu/My.json'
-use deb .local/share/korvel/save.json korvel-virtual-programmer korvel /usr/share/korvel/demo/blink.hex
+use_deb "Debian 12 deb"
 as_user 'cd .local/share/korvel && test "$(ls mcu)" = My.json && test -L programmer'
 # So does a link that leads nowhere; and a language of one's own comes beside those that ship.
 echo '<TS><context><message><source>Write</source><translation>Schrijven</translation></message></context></TS>' \
@@ -140,8 +162,7 @@ apt purge korvel
 left=$(in_root find / -xdev -iname '*korvel*' -not -path '/home/*' -not -path '/proc/*' -not -name korvel.deb)
 [ -z "$left" ] || { printf 'left behind:\n%s\n' "$left" >&2; false; }
 as_user 'test -s .local/share/korvel/save.json'
-tried+=("$(basename "$deb"): $(stat -c %s "$deb") bytes"
-    "... installed, wrote a chip, kept the user's own folder, removed without a trace")
+tried+=("... $(stat -c %s "$deb") bytes; kept the user's own folder, removed without a trace")
 
 folder=$(basename "$archive" .tar.xz)
 place='Мои программы' # whose name has a blank and letters that few systems use
@@ -155,7 +176,7 @@ start() { ! as_user "${1:-} './$own/korvel.sh'" >"$root/said.txt" 2>&1 || { echo
 programs=("./$own/korvel-virtual-programmer" "./$own/korvel.sh")
 write() { use "$1" "$own/save.json" "${programs[@]}" "$own/demo/blink.hex" "${@:2}"; }
 
-# try_archive NAME RELEASE MIRROR [COMPONENTS]
+# try_archive NAME RELEASE MIRROR [COMPONENTS SCRIPT]
 try_archive() {
     echo "== the archive on $1"
     make_root "${@:2}"
@@ -198,6 +219,7 @@ said 'Korvel cannot write to /home/tester/Мои программы'
 umount "$root/home/tester/$own"
 [ "$before" = "$(kept)" ]
 tried+=("... on a read-only place: said so, wrote a chip")
+try_deb "Debian 13"
 rm -r "$root/home/tester/$own"/{save.json,profiles}
 in_root chown -R root: "/home/tester/$place"
 install x11-utils
@@ -205,7 +227,7 @@ run_use "Debian 13 as another user" "${programs[@]}"
 said 'Korvel cannot write to /home/tester/Мои программы'
 cp "$root/home/tester/box.png" "$packages/Debian 13 box.png"
 [ ! -e "$root/home/tester/$own/save.json" ]
-tried+=("... where somebody else unpacked it and none started it before: said so in a box, went on")
+tried+=("$folder where somebody else unpacked it and none started it before: said so in a box, went on")
 
 echo "== the archive on Debian 11"
 make_root bullseye "$mirror"
@@ -214,11 +236,14 @@ start
 said 'needs glibc 2.35 or newer; this system has 2.31'
 tried+=("$folder on Debian 11: said that glibc is too old")
 
-ubuntu=${mirror%debian/}ubuntu/
-if wget -q --spider "${ubuntu}dists/jammy/Release"; then
-    try_archive "Ubuntu 22.04" jammy "$ubuntu" main,universe
+ubuntu=("${mirror%debian/}ubuntu/" main,universe gutsy) # all releases are made as that one was
+if wget -q --spider "${ubuntu[0]}dists/noble/Release"; then
+    try_archive "Ubuntu 22.04" jammy "${ubuntu[@]}"
+    make_root noble "${ubuntu[@]}"
+    add_display
+    try_deb "Ubuntu 24.04"
 else
-    tried+=("Ubuntu 22.04: left out, as the mirror does not have it")
+    tried+=("Ubuntu: left out, as the mirror does not have it")
 fi
 echo "== tried"
 printf '%s\n' "${tried[@]}"
