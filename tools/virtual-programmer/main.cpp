@@ -11,15 +11,34 @@
 #include <limits>
 #include <memory>
 
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
 namespace {
 
 constexpr int exitFailure = 1;
 constexpr int exitUsage = 2;
 constexpr int fastestClock = 20000000; // Hz; no part takes more
 
+/// After a double click on Windows the console closes with the program: leaves time to read what stands in it.
+void awaitReader()
+{
+#ifdef Q_OS_WIN
+    DWORD process = 0;
+    DWORD mode = 0;
+    // Others in the console, such as a command line, keep it open; a message that goes to a file has no reader here.
+    if (GetConsoleProcessList(&process, 1) == 1 && GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode)) {
+        QTextStream(stderr) << "Press Enter to close this window." << Qt::endl;
+        QTextStream(stdin).readLine();
+    }
+#endif
+}
+
 int fail(int status, const QString& message)
 {
     QTextStream(stderr) << message << Qt::endl;
+    awaitReader();
     return status;
 }
 
