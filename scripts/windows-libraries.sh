@@ -46,11 +46,18 @@ make_sources() {
 }
 
 # Lays an archive of a commit of the libraries that avrdude's own CMake files name into the current folder:
-# fetch_avrdude_library NAME COMMIT.
+# fetch_avrdude_library NAME COMMIT. Git and the web site of the project write the commit into the archives they make.
 fetch_avrdude_library() {
     local name=$1 commit=$2 archive=avrdude-$1-${2:0:12}.tar.gz repository=https://github.com/avrdudes/$1
     if [ -n "${KORVEL_AVRDUDE_LIBRARIES:-}" ]; then
         cp "$KORVEL_AVRDUDE_LIBRARIES/$archive" .
+        local found
+        found=$(commit_of "$archive")
+        [ "$found" = "$commit" ] || {
+            echo "$KORVEL_AVRDUDE_LIBRARIES/$archive is of commit ${found:-unknown}, and commit $commit of $repository" \
+                "is wanted. \"git archive\" makes the right one."
+            return 1
+        }
         return
     fi
     git init -q --bare "$name.git"
@@ -63,13 +70,16 @@ fetch_avrdude_library() {
     rm -rf "$name.git"
 }
 
+# Only the beginning of the archive is read, so zcat may complain.
+commit_of() { { zcat "$1" 2>/dev/null || true; } | git get-tar-commit-id || true; }
+
 # The upstream archive of a Debian source package, and where it comes from.
 source_of() { ls "$KORVEL_WINDOWS_CACHE/sources/$1"_*.orig.tar.*; }
 origin_of() { echo "unchanged: source package $1 of $(. /etc/os-release && echo "$PRETTY_NAME")"; }
 origin_of_library() {
     local archive
     archive=$(ls "$KORVEL_WINDOWS_CACHE/sources/avrdude-$1"-*)
-    echo "$1 of the avrdude project, https://github.com/avrdudes/$1, commit $(zcat "$archive" | git get-tar-commit-id)"
+    echo "$1 of the avrdude project, https://github.com/avrdudes/$1, commit $(commit_of "$archive")"
 }
 
 # Unpacks a source into the folder "scratch" of the cache and prints where it lies; a folder is taken as it is.
@@ -201,12 +211,19 @@ make_wine() {
     WINEPREFIX=$KORVEL_WINDOWS_CACHE/wine wineserver -w # that is when it is on the disk
 }
 
-# Makes one of them unless the cache has it as the recipe above, and those before it, would make it now.
+# What make_avrdude is made with beside the recipes: the functions that it calls and files of ours.
+beside_make_avrdude() {
+    declare -f source_of origin_of origin_of_library commit_of unpack credit version_of
+    cat packaging/windows/{libusb-no-arguments.patch,avrdude.rc} resources/windows/program.manifest "$windows_toolchain"
+}
+
+# Makes one of them unless the cache has it as the recipe above, and those before it, would make it now. What Qt takes
+# beside its recipe is not looked at: half an hour is too long for a word in a comment. Delete make_qt.made by hand.
 recipes=()
 make_once() {
     local recipe=$1 mark=$KORVEL_WINDOWS_CACHE/$1.made log=$KORVEL_WINDOWS_CACHE/$1.log now
     recipes+=("$recipe")
-    now=$(declare -f "${recipes[@]}" | sha256sum)
+    now=$({ declare -f "${recipes[@]}" && { [ "$recipe" != make_avrdude ] || beside_make_avrdude; }; } | sha256sum)
     [ ! -e "$mark" ] || [ "$(cat "$mark")" != "$now" ] || return 0
     echo "== ${recipe/_/ }: the log is $log"
     rm -rf "$mark" "$KORVEL_WINDOWS_CACHE/scratch"
