@@ -156,7 +156,7 @@ runs() {
     false
 }
 runs_no_more() { ! runs "$1"; }
-verify "$firmware" && fail "The chip holds the other firmware before it was written."
+verify "$firmware" e && fail "The chip holds the other firmware before it was written."
 wine ./avrdude.exe -q -q -p m16 -c stk500v1 -P net:127.0.0.1:7016 -U "flash:w:Z:${firmware//\//\\}:e" >/dev/null 2>&1
 verify "$firmware" e || fail "An ELF file was not written."
 
@@ -178,8 +178,18 @@ end_program korvel-virtual-programmer.exe
 wait_for runs_no_more korvel-virtual
 
 echo "== setup.exe"
-wine "$setup" /S
+# An older version, with two files that this one does not have.
+mkdir -p "$scratch/more/mcu"
+echo older | tee "$scratch/more/older.dll" >"$scratch/more/mcu/ATolder.json"
+(cd "$shots" && cpack -G NSIS -B "$scratch/older" -D CPACK_PACKAGE_VERSION=5.5 \
+    -D "CPACK_INSTALLED_DIRECTORIES=$scratch/more;.") >/dev/null
+wine "$scratch"/older/*-setup.exe /S
 installed=$(ls -d "$WINEPREFIX"/drive_c/users/*/AppData/Local/Programs/Korvel)
+cp "$installed/mcu/ATmega16.json" "$installed/mcu/Mine.json"
+[ -e "$installed/older.dll" ] && [ -e "$installed/mcu/ATolder.json" ] || fail "The older version lacks its own files."
+wine "$setup" /S
+[ ! -e "$installed/older.dll" ] && [ ! -e "$installed/mcu/ATolder.json" ] && [ -e "$installed/mcu/Mine.json" ] ||
+    fail "An update left what only the older version had, or took what is the user's."
 menu=$(ls "$WINEPREFIX"/drive_c/users/*/"AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Korvel.lnk")
 uninstaller='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Korvel'
 wine reg query "$uninstaller" /v DisplayVersion | grep 5.6 >/dev/null || fail "Korvel is not among the installed programs."
@@ -192,7 +202,15 @@ wine start /unix "$menu" >/dev/null 2>&1 # as the menu does
 wait_for find_window '^Korvel [0-9]'
 sleep 2
 picture installed
-wine "$setup" /S && fail "setup.exe replaces a program that runs."
+# Ends with 2, and nobody has touched the installed files and the entry.
+installation() { find "$installed" -type f -printf '%p %s %C@\n' | sort; wine reg query "$uninstaller"; }
+refuses() {
+    local before code=0
+    before=$(installation)
+    wine "$@" || code=$?
+    [ "$code" = 2 ] && [ "$(installation)" = "$before" ]
+}
+refuses "$setup" /S || fail "setup.exe replaces a program that runs."
 click 189 22 # Profiles
 click 130 272 # the list
 xdotool type Blink
@@ -203,6 +221,17 @@ accept Profiles
 verify demo/blink.hex || fail "The chip does not hold the firmware."
 xdotool windowfocus --sync "$window" key alt+F4
 wait_for runs_no_more korvel.exe
+refuses "$setup" /S || fail "setup.exe replaces a virtual programmer that runs."
+
+# After a double click only its own window tells why a second one ends.
+wine start /unix "$installed/korvel-virtual-programmer.exe" >/dev/null 2>&1
+wait_for find_window 'virtual-programmer'
+sleep 2
+picture console
+find_window 'virtual-programmer' || fail "The console closes before anybody can read it."
+xdotool windowfocus --sync "$window" key Return
+console_is_gone() { ! find_window 'virtual-programmer'; }
+wait_for console_is_gone
 end_program korvel-virtual-programmer.exe
 wait_for runs_no_more korvel-virtual
 
@@ -217,12 +246,42 @@ cmp save.json mine.json && [ -e mcu/Mine.json ] && [ ! -e 'profiles/Blink comple
 cmp mcu/ATmega8.json "$folder/mcu/ATmega8.json" || fail "An update left an old description."
 mv mine.json "$scratch"
 cd "$scratch"
-wine "$installed/uninstall.exe" /S
-is_uninstalled() { [ ! -e "$installed/uninstall.exe" ]; }
-wait_for is_uninstalled
+
+stranger=$WINEPREFIX/drive_c/Stranger
+mkdir "$stranger"
+echo mine >"$stranger/notes.txt"
+refuses "$setup" /S '/D=C:\Stranger' && [ "$(ls "$stranger")" = notes.txt ] || fail "setup.exe takes a stranger's folder."
+refuses "$setup" /S '/D=Z:\proc\Korvel' || fail "setup.exe does not say that it cannot write."
+
+# An uninstaller that cannot delete a file stays, to try again.
+cp "$installed"/{korvel-virtual-programmer,lesson}.exe # which holds Qt's libraries
+wine "$installed/lesson.exe" >"$scratch/programmer.log" 2>&1 &
+wait_for grep -q Listening "$scratch/programmer.log"
+is_entered() { wine reg query "$uninstaller" >/dev/null 2>&1; }
+wine "$installed/korvel-uninstall.exe" /S "_?=$(winepath -w "$installed")" && fail "It uninstalls what is held."
+[ -e "$installed/korvel-uninstall.exe" ] && is_entered || fail "After a failure nothing is left to uninstall with."
+end_program lesson.exe
+wait_for runs_no_more lesson
+rm "$installed/lesson.exe"
+
+# Of two installations the entries are the later one's.
+wine "$setup" /S '/D=C:\Second'
+second=$WINEPREFIX/drive_c/Second
+for entry in "$folder"/*; do
+    [ -e "$second/${entry##*/}" ] || [[ $entry == */chip.json ]] || fail "setup.exe lacks ${entry##*/}."
+done
+# It goes on in a copy of itself, which can delete it.
+uninstall() {
+    wine "$1/korvel-uninstall.exe" /S
+    wait_for runs_no_more 'Un[._]'
+    [ ! -e "$1/korvel-uninstall.exe" ] || fail "The uninstaller is still there."
+}
+uninstall "$installed"
+[ -e "$menu" ] && is_entered || fail "Uninstalling took the entries of another installation."
+uninstall "$second"
 left=$(cd "$installed" && find . -type f | sort | tr '\n' ' ')
 [ "$left" = './mcu/Mine.json ./profiles/Blink.json ./save.json ' ] || fail "Uninstalling left $left"
-[ ! -e "$menu" ] && ! wine reg query "$uninstaller" >/dev/null 2>&1 || fail "Uninstalling left its entries."
+[ ! -e "$menu" ] && ! is_entered || fail "Uninstalling left its entries."
 
 echo "archive: $unpacked bytes unpacked, $(stat -c %s "$archive") packed: started, wrote a chip, kept the settings"
 echo "setup.exe: $(stat -c %s "$setup") bytes: installed, wrote a chip, updated, uninstalled but for the user's files"
