@@ -75,19 +75,19 @@ private slots:
             << Look([] {
                    const auto* log = window->findChild<AvrdudeMessage*>();
                    const int usual = window->findChild<Panes*>()->neededHeight();
-                   const auto heightOfLog = [log](int height) {
-                       window->resize(window->width(), height);
-                       QTest::qWait(0);
-                       return log->height();
-                   };
-                   QCOMPARE(heightOfLog(usual + 100), 180 + 50);
-                   QCOMPARE(heightOfLog(usual), 180);
-                   QVERIFY(heightOfLog(usual - 50) <= 180 - 50 + 1 && !isScrolled(Qt::Vertical));
+                   const auto resize = [](int height) { window->resize(window->width(), height); };
+                   resize(usual + 100);
+                   QTRY_COMPARE(log->height(), 180 + 50);
+                   resize(usual - 50);
+                   QTRY_COMPARE(log->height(), 180 - 50);
+                   QTRY_VERIFY(!isScrolled(Qt::Vertical));
                    const int fourLines = 4 * QFontMetrics(log->font()).lineSpacing();
-                   QVERIFY(heightOfLog(usual - 200) >= fourLines && log->height() < 2 * fourLines
-                           && isScrolled(Qt::Vertical));
-                   QCOMPARE(heightOfLog(usual), 180);
-                   QVERIFY(!isScrolled(Qt::Vertical));
+                   resize(usual - 200);
+                   QTRY_VERIFY(isScrolled(Qt::Vertical));
+                   QVERIFY(log->height() >= fourLines && log->height() < 2 * fourLines);
+                   resize(usual);
+                   QTRY_COMPARE(log->height(), 180);
+                   QTRY_VERIFY(!isScrolled(Qt::Vertical));
                });
         QTest::newRow("a window that fits the screen without its frame alone is made lower") << Look([] {
             const int screen = window->screen()->availableGeometry().height();
