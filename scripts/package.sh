@@ -5,7 +5,7 @@ source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the language files
 case "$#${1:-}" in 0 | 1--check) ;; *) echo "Usage: package.sh [--check]" >&2; exit 2 ;; esac
 
-need_packages "${build_packages[@]}" dpkg-dev fakeroot file librsvg2-bin patchelf
+need_packages "${build_packages[@]}" cmark-gfm dpkg-dev fakeroot file librsvg2-bin patchelf
 # The archive brings what Debian 12 has: packaging/licences.txt and packaging/system-libraries.txt list that.
 system="$(. /etc/os-release && echo "${ID:-} ${VERSION_ID:-}") $(dpkg --print-architecture)"
 generators=DEB
