@@ -19,4 +19,5 @@ lay_starters "$share" || unwritable=yes
 for data in mcu programmer Languages demo; do
     taken "$data" || ln -s "$share/$data" "$data" || unwritable=yes
 done
+taken docs || ln -s "$prefix/share/doc/korvel" docs || unwritable=yes
 [ -z "${unwritable-}" ] || tell "Korvel cannot write to $work."

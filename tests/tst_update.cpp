@@ -17,7 +17,7 @@ public slots:
 private slots:
     void initTestCase()
     {
-        for (const QString scheme : {"https", "ftp"})
+        for (const QString scheme : {"https", "ftp", "file"})
             QDesktopServices::setUrlHandler(scheme, this, "open");
     }
 
@@ -27,16 +27,26 @@ private slots:
         SocialLinksWidget corner;
         for (QToolButton* button : corner.findChildren<QToolButton*>())
             button->click();
-        AboutView about;
+        const QTemporaryDir folder(QDir::tempPath() + "/a & \"b\" %20 XXXXXX");
+        const QString guide = folder.filePath("guide.html");
+        QVERIFY(!AboutView(guide).findChildren<QLabel*>().at(2)->text().contains("file:"));
+        QVERIFY(QFile(guide).open(QIODevice::WriteOnly));
+        AboutView about(guide);
         about.setPalette(QPalette(Qt::black)); // as on a dark desktop
         QVERIFY(about.palette().color(QPalette::Window).lightness() > 200);
         QVERIFY(about.findChild<QTextEdit*>()->isReadOnly());
-        int links = 0;
-        for (const QLabel* label : about.findChildren<QLabel*>())
-            links += label->openExternalLinks() && label->text().contains("<a href=\"https://korvel.example\"") ? 1 : 0;
-        QCOMPARE(links, 1);
+        about.show();
+        QVERIFY(QTest::qWaitForWindowActive(&about));
+        auto* links = about.findChildren<QLabel*>().at(2);
+        links->setFocus();
+        QTest::keyClick(links, Qt::Key_Tab); // the website
+        QTest::keyClick(links, Qt::Key_Return);
+        QTest::keyClick(links, Qt::Key_Tab);
+        QTest::keyClick(links, Qt::Key_Return);
         const QString host = "korvel.example";
-        QCOMPARE(m_opened, QStringList({"https://" + host, "https://telegram." + host, "https://youtube." + host}));
+        QCOMPARE(m_opened,
+                 QStringList({"https://" + host, "https://telegram." + host, "https://youtube." + host,
+                              "https://" + host, QUrl::fromLocalFile(guide).toString()}));
         QCOMPARE(UpdateChecker::defaultSource().toString().remove(KORVEL_UPDATE_HOST),
                  QString("https:///downloads/korvel5/version.json"));
     }

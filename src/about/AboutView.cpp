@@ -4,9 +4,11 @@
 
 #include <QDate>
 #include <QEvent>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPalette>
 #include <QTextEdit>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -46,17 +48,31 @@ constexpr const char* history[] = {
      "- Korvel5\n"), // in parentheses, since one entry of two strings looks like a forgotten comma to clang
 };
 
-QString information()
+QString link(const QString& address, const QString& text)
 {
-    return QStringLiteral("<p style=\"line-height: 1.5; color: #4A4A4A;\">"
-                          "<a href=\"%1\" style=\"color: #4A4A4A; text-decoration: underline; \">%1</a><br>"
-                          "OS: Windows7/10/11, Linux<br>%2</p>")
-        .arg(ProductInfo::website, ProductInfo::termsOfUse);
+    return QStringLiteral("<a href=\"%1\" style=\"color: #4A4A4A; text-decoration: underline; \">%2</a>")
+        .arg(address.toHtmlEscaped(), text);
+}
+
+/// Behind the terms of use. The file's own path: a browser in a sandbox may see that, and not the link to it.
+QString guideLink(const QString& guide)
+{
+    const QString path = QFileInfo(guide).canonicalFilePath();
+    if (path.isEmpty())
+        return {};
+    const QUrl address = QUrl::fromLocalFile(path);
+    return QStringLiteral(" &ndash; ") + link(address.toString(QUrl::FullyEncoded), QStringLiteral("Guide"));
+}
+
+QString information(const QString& guide)
+{
+    return QStringLiteral("<p style=\"line-height: 1.5; color: #4A4A4A;\">%1<br>OS: Windows7/10/11, Linux<br>%2%3</p>")
+        .arg(link(ProductInfo::website, ProductInfo::website), ProductInfo::termsOfUse, guideLink(guide));
 }
 
 } // namespace
 
-AboutView::AboutView(QWidget* parent)
+AboutView::AboutView(const QString& guide, QWidget* parent)
     : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);
@@ -74,9 +90,11 @@ AboutView::AboutView(QWidget* parent)
              QStringLiteral("font-size: 14pt; font-weight: bold; color: #4A4A4A;"));
     addLabel(ProductInfo::byline, Qt::AlignLeft,
              QStringLiteral("font-size: 12pt; color: #4A4A4A; padding-left: 30px;"));
-    QLabel* block = addLabel(information(), Qt::AlignLeft, QStringLiteral("padding-left: 30px;"));
+    QLabel* block = addLabel(information(guide), Qt::AlignLeft, QStringLiteral("padding-left: 30px;"));
     block->setTextFormat(Qt::RichText);
     block->setOpenExternalLinks(true);
+    if (QFileInfo::exists(guide)) // to which keys lead too; the website has a button in the corner
+        block->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
 
     m_versions = new QTextEdit(this);
     m_versions->setReadOnly(true);

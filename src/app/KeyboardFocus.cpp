@@ -56,7 +56,7 @@ private:
 bool needsFrame(const QWidget& widget)
 {
     const bool isText = widget.inherits("QAbstractScrollArea") && !widget.inherits("QScrollArea");
-    return isText || widget.inherits("QTabBar") || widget.inherits("QToolButton");
+    return isText || widget.inherits("QLabel") || widget.inherits("QTabBar") || widget.inherits("QToolButton");
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 #include "base/ProductInfo.h"
 #include "base/RunButton.h"
 #include "fuses/Fuses.h"
+#include "i18n/LanguageFiles.h"
 #include "mcu/Program.h"
 #include "profiles/Profiles.h"
 #include "settings/Settings.h"
@@ -74,7 +75,8 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
     m_tabs->addTab(m_fuses, QStringLiteral("Fuses"));
     m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
-    m_tabs->addTab(new AboutView(this), QStringLiteral("About"));
+    m_tabs->addTab(new AboutView(LanguageFiles::baseFolder() + QLatin1String("/docs/guide.html"), this),
+                   QStringLiteral("About"));
 
     m_panes = new Panes({m_tabs, m_settings}, *m_log, this);
     setCentralWidget(m_panes);

@@ -5,7 +5,8 @@
 /// Where the interface's language files lie.
 namespace LanguageFiles {
 
-/// The folder of the package file that the environment variable "APPIMAGE" names, else the application's folder.
+/// Where what was installed with the program is found: the folder of the package file that the environment variable
+/// "APPIMAGE" names, else the application's folder.
 [[nodiscard]] QString baseFolder();
 
 /// The folder of the language files below @p base.
