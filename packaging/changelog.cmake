@@ -1,5 +1,5 @@
-# Makes of CHANGELOG.md (FROM) what packages want it as: METAINFO from the template TEMPLATE and, where DEBIAN names a
-# file, Debian's changelog. Fails when the first entry is not VERSION's.
+# Makes of CHANGELOG.md (FROM) what packages want it as: METAINFO from the template TEMPLATE, with PARTS as the number of
+# microcontrollers, and, where DEBIAN names a file, Debian's changelog. Fails when the first entry is not VERSION's.
 
 file(READ ${FROM} text)
 string(REGEX MATCHALL "\n## [^\n]*" headings "${text}")
