@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Checks the translations, which part includes which, that every place names the same version, and layout (clang-format)
-# and code (clang-tidy) of all our sources. Changes nothing.
+# Checks the translations, which part includes which, that every place names the same version, the links of the documents
+# as they are and as they are installed, and layout (clang-format) and code (clang-tidy) of all our sources. Changes
+# nothing.
 source "$(dirname "$0")/common.sh"
 export LC_ALL=C.UTF-8 # for the names of the translations
 
-need_packages "${build_packages[@]}" clang-format clang-tidy git python3 qttools5-dev-tools \
+need_packages "${build_packages[@]}" clang-format clang-tidy cmark-gfm git python3 qttools5-dev-tools \
     g++-mingw-w64-x86-64-posix pkgconf
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
@@ -40,6 +41,9 @@ build release
 mapfile -t units < <(git ls-files 'src/*.cpp' 'tools/*.cpp')
 printf '%s\0' "${units[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/release
 echo "clang-tidy: ${#units[@]} files are in order"
+
+cmake --install build/release --prefix "$scratch/installed" >/dev/null
+scripts/check-links.py "$scratch"/installed/share/doc/korvel/*.html
 
 # What Windows alone compiles. The headers of the system's Qt do for that; only linking takes a Qt for Windows.
 mapfile -t units < <(git grep -l Q_OS_ -- 'src/*.cpp' 'tools/*.cpp' 'tests/stand-in/*.cpp')
