@@ -1,10 +1,9 @@
 #!/usr/bin/env python3
-"""Checks what the files in src include against docs/parts.svg.
+"""Checks what the files in src include against docs/parts.svg, which is drawn from docs/parts.dot.
 
 Each box of the picture is a folder of src, by its path, and its arrows say which folder may include from which. Arrows
 only lead down, so there is no circle. The ground, base, may be included by all and includes nothing of ours. Views
-include other views, fields and the ground alone. Prints what is wrong; the status is 1 if anything is. The picture is
-drawn from docs/parts.dot, which says how.
+include other views, fields and the ground alone. Prints what is wrong; the status is 1 if anything is.
 """
 
 import pathlib
@@ -50,6 +49,8 @@ def main():
               for folder in sorted(folders ^ set(heights))]
     wrong += [f"docs/parts.svg: nothing includes along the arrow from {arrow[0]} to {arrow[1]}"
               for arrow in sorted(arrows - used)]
+    if wrong:
+        wrong.append("What is drawn is changed in docs/parts.dot, whose first line says how the picture is made of it.")
     print("\n".join(wrong) if wrong else f"includes: {len(folders)} folders, {len(used)} arrows, all drawn")
     return bool(wrong)
 

@@ -13,13 +13,18 @@ lupdate -silent src translations/toolkit.cpp -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
 scripts/check-includes.py
 
-# The first entry of CHANGELOG.md says which version this is and of which day.
+# The entries of CHANGELOG.md are those of the About tab, and the first one says which version this is and of which day.
+entries=$(sed -nE 's/^## (.*) \((.*)-(.*)-(.*)\)$/v\1 - \4.\3.\2/p' CHANGELOG.md)
+told=$(sed -nE 's/^ *\(?"(v[0-9.]+)( \(beta\))?( - [0-9.]+) ?\\n"$/\1\3/p' src/about/AboutView.cpp)
+if [ "$entries" != "$told" ]; then
+    printf 'src/about/AboutView.cpp tells of\n%s\nCHANGELOG.md of\n%s\n' "$told" "$entries" >&2
+    exit 1
+fi
 read -r version date < <(sed -nE '/^## /{s/^## (.*) \((.*)\)$/\1 \2/p;q}' CHANGELOG.md)
 while IFS=@ read -r file line; do
     grep -qxF -- "$line" "$file" || { echo "$file lacks this line: $line" >&2; exit 1; }
 done <<EOF
 CMakeLists.txt@project(Korvel VERSION $version LANGUAGES CXX)
-src/about/AboutView.cpp@    "v$version - $(date -d "$date" +%d.%m.%Y) \\n"
 packaging/arch/PKGBUILD@pkgver=$version
 packaging/rpm/korvel.spec@Version:        $version
 packaging/man/korvel.1@.TH KORVEL 1 "$date" "Korvel $version" "User Commands"

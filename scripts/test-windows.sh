@@ -18,6 +18,7 @@ echo "== the tests"
 ctest --preset windows
 
 echo "== the archive"
+checkout=$PWD
 shots=$PWD/build/windows
 archive=$(ls "$PWD"/build/windows/*.zip)
 setup=$(ls "$PWD"/build/windows/*-setup.exe)
@@ -192,7 +193,8 @@ wine "$setup" /S
     fail "An update left what only the older version had, or took what is the user's."
 menu=$(ls "$WINEPREFIX"/drive_c/users/*/"AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Korvel.lnk")
 uninstaller='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Korvel'
-wine reg query "$uninstaller" /v DisplayVersion | grep 5.6 >/dev/null || fail "Korvel is not among the installed programs."
+version=$(sed -nE 's/^project\(Korvel VERSION (\S+) .*/\1/p' "$checkout/CMakeLists.txt")
+wine reg query "$uninstaller" /v DisplayVersion | grep -F "$version" >/dev/null || fail "Korvel is not among the installed programs."
 for entry in *; do
     [ -e "$installed/$entry" ] || [ "$entry" = chip.json ] || fail "setup.exe lacks $entry."
 done
