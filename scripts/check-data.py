@@ -139,7 +139,8 @@ for name, found in sorted(ships.items()):
     check(listed == memories, name, 'has', listed, 'instead of', memories)
     reason = found.pop('withoutFuseBytes', None)
     check(reason is None if listed else reason in ('unreachable', 'unreliable'), name, 'has no fuse bytes, as', reason)
-    check(found.pop('avrdude', '7') == ('8' if has_word(newer, name) else '7'), name, 'needs avrdude 8, or does not')
+    check(found.pop('avrdude', '7') == ('8' if has_word(newer, name) else '7'), name,
+          'has "avrdude": "8", or is listed below "What needs avrdude 8" in docs/devices.md, but not both')
     if name.startswith('AVR') and not has_word(newer, name):  # 7.1 has the whole name, which newer ones take too
         expected = dict(expected, id=name.lower())
     check_other_names(name, found)

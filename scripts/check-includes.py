@@ -3,7 +3,7 @@
 
 Each box of the picture is a folder of src, by its path, and its arrows say which folder may include from which. Arrows
 only lead down, so there is no circle. The ground, base, may be included by all and includes nothing of ours. Views
-include other views, fields and the ground alone. Prints what is wrong; the status is 1 if anything is.
+include other views, fields and the ground alone. Each folder has its row in CONTRIBUTING.md. Prints what is wrong; the status is 1 if anything is.
 """
 
 import pathlib
@@ -42,15 +42,18 @@ def main():
             elif arrow in arrows:
                 used.add(arrow)
             else:
-                wrong.append(f"{file}: no arrow leads to {included}")
+                wrong.append(f"{file}: docs/parts.svg has no arrow to {included}")
             if path.stem.endswith("View") and not re.match(rf"{GROUND}/|.+(View|Field)\.h$", included):
                 wrong.append(f"{file}: a view includes {included}")
     wrong += [f"src/{folder}: is a folder or a box in docs/parts.svg, but not both"
               for folder in sorted(folders ^ set(heights))]
+    table = pathlib.Path("CONTRIBUTING.md").read_text(encoding="utf-8")
+    wrong += [f"src/{folder}: has no row in the table of folders in CONTRIBUTING.md"
+              for folder in sorted(folders) if f"`src/{folder}`" not in table]
     wrong += [f"docs/parts.svg: nothing includes along the arrow from {arrow[0]} to {arrow[1]}"
               for arrow in sorted(arrows - used)]
-    if wrong:
-        wrong.append("What is drawn is changed in docs/parts.dot, whose first line says how the picture is made of it.")
+    if any("parts.svg" in line for line in wrong):
+        wrong.append("docs/parts.svg is made of docs/parts.dot, which says how: edit that.")
     print("\n".join(wrong) if wrong else f"includes: {len(folders)} folders, {len(used)} arrows, all drawn")
     return bool(wrong)
 

@@ -11,6 +11,16 @@ scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
 lupdate -silent src translations/toolkit.cpp -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
+# Each language is told of where people choose a program: by its name, and in it.
+for file in translations/*.ts; do
+    language=$(basename "$file" .ts)
+    code=$(sed -nE 's/^<TS .* language="([^"]*)".*/\1/p' "$file")
+    grep -qF "$language" README.md docs/guide.md || { echo "README.md does not name $language" >&2; exit 1; }
+    [ "${code%_*}" != en ] || continue
+    grep -qE "^Comment\[(${code%_*}|$code)\]=" packaging/korvel.desktop &&
+        grep -qE "<summary xml:lang=\"(${code%_*}|$code)\">" packaging/*.metainfo.xml.in ||
+        { echo "packaging/korvel.desktop or the metainfo beside it does not speak $language" >&2; exit 1; }
+done
 scripts/check-includes.py
 
 # The entries of CHANGELOG.md are those of the About tab, and the first one says which version this is and of which day.
