@@ -11,7 +11,7 @@ export LC_ALL=C.UTF-8 # for the names of folders
 [ -n "${KORVEL_OWN_MOUNTS:-}" ] || KORVEL_OWN_MOUNTS=1 exec unshare --mount scripts/test-package.sh
 set -E
 trap 'echo "test-package.sh: failed in line $LINENO, called from ${BASH_LINENO[*]}" >&2' ERR
-need_packages debootstrap iproute2 lintian appstream desktop-file-utils
+need_packages cmark-gfm debootstrap git iproute2 python3 lintian appstream desktop-file-utils
 packages=$PWD/build/package
 deb=$(echo "$packages"/*.deb)
 archive=$(echo "$packages"/*.tar.xz)
@@ -129,6 +129,7 @@ dpkg-deb -x "$deb" "$root"
 # The reserved name in our identifier is no domain that AppStream knows.
 appstreamcli validate --no-net --pedantic --strict --override=cid-maybe-not-rdns=pedantic "$root"/usr/share/metainfo/*
 desktop-file-validate "$root"/usr/share/applications/*
+scripts/check-links.py "$root"/usr/share/doc/korvel/*.html
 
 # try_deb NAME: in the root that is there, which has a display.
 try_deb() {
@@ -138,7 +139,7 @@ try_deb() {
     # A first start that was interrupted does no harm.
     as_user 'mkdir -p .local/share/korvel/profiles.new/half'
     use_deb "$1 deb"
-    as_user 'cd .local/share/korvel && test ! -e profiles.new -a ! -e profiles/half -a -s profiles/Blink.json'
+    as_user 'cd .local/share/korvel && test ! -e profiles.new -a ! -e profiles/half -a -s profiles/Blink.json -a -s docs/guide.html'
     tried+=("$(basename "$deb") on $1: installed, wrote a chip")
 }
 use_deb() {
@@ -196,6 +197,7 @@ try_archive() {
     write "$1" "./$own/avrdude/avrdude"
     # Unpacking it once more takes nothing that is the user's.
     before=$(cat "$root/home/tester/$own/save.json")
+    [ -s "$root/home/tester/$own/docs/guide.html" ]
     as_user "tar -C '$place' -xf /korvel.tar.xz"
     [ "$before" = "$(cat "$root/home/tester/$own/save.json")" ]
     tried+=("$folder on $1: said what was missing, wrote a chip with its own avrdude"
