@@ -29,9 +29,9 @@ private slots:
             button->click();
         const QTemporaryDir folder(QDir::tempPath() + "/a & \"b\" %20 XXXXXX");
         const QString guide = folder.filePath("guide.html");
-        QVERIFY(!AboutView(guide).findChildren<QLabel*>().at(2)->text().contains("file:"));
+        QVERIFY(!AboutView(nullptr, guide).findChildren<QLabel*>().at(2)->text().contains("file:"));
         QVERIFY(QFile(guide).open(QIODevice::WriteOnly));
-        AboutView about(guide);
+        AboutView about(nullptr, guide);
         about.setPalette(QPalette(Qt::black)); // as on a dark desktop
         QVERIFY(about.palette().color(QPalette::Window).lightness() > 200);
         QVERIFY(about.findChild<QTextEdit*>()->isReadOnly());

@@ -72,7 +72,7 @@ QString information(const QString& guide)
 
 } // namespace
 
-AboutView::AboutView(const QString& guide, QWidget* parent)
+AboutView::AboutView(QWidget* parent, const QString& guide)
     : QWidget(parent)
 {
     auto* layout = new QVBoxLayout(this);

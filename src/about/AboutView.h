@@ -13,7 +13,7 @@ class AboutView : public QWidget
 public:
     /// @p guide is the path of the guide that was installed with the program: the label with the terms of use ends in a
     /// link to it. Where there is no such file, it has no link.
-    explicit AboutView(const QString& guide, QWidget* parent = nullptr);
+    explicit AboutView(QWidget* parent = nullptr, const QString& guide = {});
 
     /// None: it is smaller than any other tab, and to ask its labels would load their fonts before anybody looks.
     [[nodiscard]] QSize sizeHint() const override { return {}; }

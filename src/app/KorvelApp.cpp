@@ -75,7 +75,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(m_program, QStringLiteral("Programming"));
     m_tabs->addTab(m_fuses, QStringLiteral("Fuses"));
     m_tabs->addTab(m_profiles, QStringLiteral("Profiles"));
-    m_tabs->addTab(new AboutView(LanguageFiles::baseFolder() + QLatin1String("/docs/guide.html"), this),
+    m_tabs->addTab(new AboutView(this, LanguageFiles::baseFolder() + QLatin1String("/docs/guide.html")),
                    QStringLiteral("About"));
 
     m_panes = new Panes({m_tabs, m_settings}, *m_log, this);
