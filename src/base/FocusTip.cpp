@@ -68,8 +68,8 @@ void FocusTip::show()
         m_tip->setWordWrap(true);
         size = {screen.width(), m_tip->heightForWidth(screen.width())};
     }
-    const QRect owner(m_owner.mapToGlobal({0, 0}), m_owner.size());
-    QRect place({m_focused->mapToGlobal({0, 0}).x(), owner.bottom() + 1}, size);
+    const QRect owner(m_owner.mapToGlobal(QPoint()), m_owner.size());
+    QRect place({m_focused->mapToGlobal(QPoint()).x(), owner.bottom() + 1}, size);
     if (place.bottom() > screen.bottom())
         place.moveBottom(owner.top() - 1);
     place.moveLeft(std::max(screen.left(), std::min(place.left(), screen.right() + 1 - size.width())));
