@@ -369,6 +369,7 @@ private slots:
         const QPalette light = QApplication::palette();
         for (const QPalette& desktop : {QPalette(QColor(0x31363b)), light}) {
             QApplication::setPalette(desktop);
+            QCoreApplication::processEvents(); // Qt 6 tells of it only then
             QStringList left;
             for (const QWidget* widget : window.findChildren<QWidget*>()) {
                 for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
