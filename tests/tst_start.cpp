@@ -6,8 +6,9 @@
 
 #include "app/Panes.h"
 #include "app/log/AvrdudeMessage.h"
+#include "fuses/FusesBytesView.h"
 #include "mcu/AttributesView.h"
-#include "support/WorkFolder.h"
+#include "support/Bench.h"
 
 #include <QtNetwork>
 #include <QtTest>
@@ -90,6 +91,23 @@ private slots:
                    QTRY_COMPARE(log->height(), 180);
                    QTRY_VERIFY(!isScrolled(Qt::Vertical));
                });
+        QTest::newRow("one scroll bar for many bytes, whatever the way to that size") << Look([] {
+            auto* avrdude = window->findChild<Avrdude*>();
+            const auto* inner = window->findChild<FusesBytesView*>();
+            const auto barOfBytes = [inner] {
+                return inner->parentWidget()->height() < inner->minimumSizeHint().height();
+            };
+            const int needed = window->findChild<Panes*>()->neededHeight();
+            BoxAnswerer boxes;
+            window->resize(window->width(), needed - 250);
+            window->findChild<QTabWidget*>()->setCurrentIndex(1);
+            emit avrdude->partChosen("AVR128DA48");
+            QTRY_VERIFY(!barOfBytes() && isScrolled(Qt::Vertical));
+            for (const int height : {needed, needed + 1}) // at once
+                window->resize(window->width(), height);
+            QTRY_COMPARE(window->findChild<AvrdudeMessage*>()->height(), 180);
+            QTRY_VERIFY(barOfBytes() && !isScrolled(Qt::Vertical));
+        });
         QTest::newRow("a window that fits the screen without its frame alone is made lower") << Look([] {
             const int screen = window->screen()->availableGeometry().height();
             window->resize(520, screen - 1);
@@ -139,6 +157,7 @@ private slots:
         look = check;
         const WorkFolder folder;
         folder.write("save.json", R"({"language": "X"})");
+        folder.copy({"mcu/AVR128DA48.json"});
         folder.write("Languages/X.json", R"({"Erase all": "All gone"})");
         qputenv("APPIMAGE", QDir::current().filePath("Korvel.AppImage").toUtf8());
         char name[] = "korvel";

@@ -78,7 +78,7 @@ KorvelApp::KorvelApp(QWidget* parent)
     m_tabs->addTab(new AboutView(this, LanguageFiles::baseFolder() + QLatin1String("/docs/guide.html")),
                    QStringLiteral("About"));
 
-    m_panes = new Panes({m_tabs, m_settings}, *m_log, this);
+    m_panes = new Panes({m_tabs, m_settings}, m_fuses->scrollArea(), *m_log, this);
     setCentralWidget(m_panes);
     auto* links = new SocialLinksWidget(this);
     m_tabs->setCornerWidget(links, Qt::TopRightCorner);
@@ -95,7 +95,6 @@ KorvelApp::KorvelApp(QWidget* parent)
     connect(m_profiles, &Profiles::grew, this, &KorvelApp::makeRoom, Qt::QueuedConnection);
     m_avrdude->setExplainer(
         [](const FailedRun& run) { return Advice::explain(run, Surroundings::now(Advice::portOf(run))); });
-    connect(m_panes, &Panes::scrolling, m_fuses, &Fuses::showWhole);
     connect(m_avrdude, &Avrdude::partChosen, m_program, &Program::chooseMcu);
     connect(m_tabs, &QTabWidget::currentChanged, this, &KorvelApp::onTabChanged);
     connect(m_profiles, &Profiles::emitUpdateUI, this, &KorvelApp::refreshPanels);
@@ -222,7 +221,8 @@ void KorvelApp::showRunning(bool isRunning)
 
 void KorvelApp::keyPressEvent(QKeyEvent* event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isEnter = (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        && (event->modifiers() & ~Qt::KeypadModifier) == 0;
     auto* button = isEnter ? qobject_cast<QAbstractButton*>(focusWidget()) : nullptr; // which left it to the window
     if (button && !button->isCheckable()) {
         m_strays->expectRepeats();
@@ -234,8 +234,8 @@ void KorvelApp::keyPressEvent(QKeyEvent* event)
 
 void KorvelApp::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::PaletteChange) {
-        // The toolkit hands no palette on to what has a style sheet, which reads it when it is set.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+        // The toolkit hands neither on to what has a style sheet, which reads them when it is set.
         const auto widgets = findChildren<QWidget*>();
         for (QWidget* widget : widgets) {
             if (!widget->styleSheet().isEmpty())

@@ -55,7 +55,7 @@ protected:
     /// Lets Enter press the button that has the focus, once for as long as it is held down.
     void keyPressEvent(QKeyEvent* event) override;
 
-    /// Has everything follow a desktop that turns dark or light.
+    /// Has everything follow a desktop that turns dark or light, or to another font.
     void changeEvent(QEvent* event) override;
 
     void closeEvent(QCloseEvent* event) override;

@@ -8,10 +8,11 @@
 
 #include <algorithm>
 
-Panes::Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* parent)
+Panes::Panes(const QVector<QWidget*>& panes, QScrollArea& inner, AvrdudeMessage& log, QWidget* parent)
     : QWidget(parent)
     , m_area(new QScrollArea(this))
     , m_panes(new QWidget(m_area))
+    , m_inner(inner)
     , m_log(log)
     , m_logHeight(log.minimumHeight())
 {
@@ -24,7 +25,9 @@ Panes::Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* paren
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->setWidgetResizable(true);
     m_area->setWidget(m_panes);
-    m_panes->installEventFilter(this);
+    for (QObject* watched : {static_cast<QObject*>(m_panes), static_cast<QObject*>(inner.viewport()),
+                             static_cast<QObject*>(inner.widget())})
+        watched->installEventFilter(this);
 
     auto* lower = new QHBoxLayout;
     lower->setContentsMargins(margins.left(), 0, margins.right(), 0);
@@ -53,21 +56,22 @@ int Panes::neededHeight() const
 
 void Panes::share()
 {
-    if (!m_isScrolling) // while they scroll they may want more
-        m_needed = neededHeight();
-    const int missing = m_needed - height();
-    const int spare = std::max(0, height() - std::max(m_needed, m_opened));
+    const int missing = neededHeight() - height();
+    const int spare = std::max(0, height() - std::max(neededHeight(), m_opened));
     m_log.setFixedHeight(std::max(m_log.leastHeight(), m_logHeight + (missing > 0 ? -missing : spare / 2)));
+    // Where the panes scroll, what scrolls in them is as high as it wants: one bar is enough.
     const bool isScrolling = missing > m_logHeight - m_log.minimumHeight();
-    if (isScrolling != m_isScrolling) {
-        m_isScrolling = isScrolling;
-        emit scrolling(isScrolling);
-    }
+    const int lacking = m_inner.widget()->minimumSizeHint().height() - m_inner.viewport()->height();
+    m_panes->setMinimumHeight(isScrolling && m_inner.isVisible()
+                                  ? std::max(m_panes->minimumSizeHint().height(), m_panes->height() + lacking)
+                                  : 0);
 }
 
 bool Panes::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() == QEvent::LayoutRequest && m_opened > 0) // the panes need another height than before
+    const QEvent::Type type = event->type();
+    const bool isOfInner = type == QEvent::Resize || type == QEvent::Show || type == QEvent::Hide;
+    if (m_opened > 0 && (type == QEvent::LayoutRequest || (isOfInner && object == m_inner.viewport())))
         share();
     return QWidget::eventFilter(object, event);
 }

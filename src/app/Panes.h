@@ -14,8 +14,8 @@ class Panes : public QWidget
     Q_OBJECT
 
 public:
-    /// Takes over @p panes, from top to bottom, and @p log.
-    Panes(const QVector<QWidget*>& panes, AvrdudeMessage& log, QWidget* parent);
+    /// Takes over @p panes, from top to bottom, and @p log. @p inner, somewhere in the panes, scrolls by itself.
+    Panes(const QVector<QWidget*>& panes, QScrollArea& inner, AvrdudeMessage& log, QWidget* parent);
 
     /// The least size at which nothing is scrolled and the log has most of its height.
     [[nodiscard]] QSize sizeHint() const override;
@@ -24,10 +24,6 @@ public:
     [[nodiscard]] int neededHeight() const;
 
     bool eventFilter(QObject* object, QEvent* event) override;
-
-signals:
-    /// The panes have begun to scroll, or ended: what scrolls in them had better not.
-    void scrolling(bool isScrolling);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -38,9 +34,8 @@ private:
 
     QScrollArea* m_area;
     QWidget* m_panes;
+    QScrollArea& m_inner;
     AvrdudeMessage& m_log;
     const int m_logHeight; ///< pixels, in a window as it opens
     int m_opened = 0; ///< the height of these in pixels when the window opened
-    int m_needed = 0; ///< that at which nothing is scrolled
-    bool m_isScrolling = false;
 };

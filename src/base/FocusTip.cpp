@@ -52,14 +52,14 @@ void FocusTip::show()
     }
     if (!m_tip) {
         m_tip = new QLabel(&m_owner, Qt::ToolTip);
-        m_tip->setPalette(QToolTip::palette());
         m_tip->setAutoFillBackground(true);
         m_tip->setBackgroundRole(QPalette::ToolTipBase);
         m_tip->setForegroundRole(QPalette::ToolTipText);
-        m_tip->setFont(QToolTip::font());
         m_tip->setFrameShape(QFrame::Box);
         m_tip->setMargin(2);
     }
+    m_tip->setPalette(QToolTip::palette());
+    m_tip->setFont(QToolTip::font());
     m_tip->setWordWrap(false);
     m_tip->setText(m_focused->toolTip());
     const QRect screen = m_owner.screen()->availableGeometry();

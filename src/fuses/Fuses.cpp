@@ -57,7 +57,6 @@ void Fuses::rebuild()
 {
     m_bytes->rebuild();
     m_scrollArea->verticalScrollBar()->setValue(0);
-    showWhole(m_isWhole);
     showLegend();
     const QString leftOut = FuseRequests::leftOut(m_settings.fusesBytes);
     if (!leftOut.isEmpty())
@@ -67,12 +66,6 @@ void Fuses::rebuild()
 void Fuses::refresh()
 {
     m_bytes->refresh();
-}
-
-void Fuses::showWhole(bool isWhole)
-{
-    m_isWhole = isWhole;
-    m_scrollArea->setMinimumHeight(isWhole ? m_scrollArea->widget()->minimumSizeHint().height() : 0);
 }
 
 void Fuses::onClickDefault()

@@ -31,9 +31,8 @@ public:
     /// Takes every byte's value over into its bits and lets the editors show both.
     void refresh();
 
-    /// Gives the editors all the height that they want, so that they scroll with the window, or has them scroll by
-    /// themselves, which they do at first.
-    void showWhole(bool isWhole);
+    /// Where the editors scroll.
+    [[nodiscard]] QScrollArea& scrollArea() const { return *m_scrollArea; }
 
     /// Says whether anything is known of a chip of this kind.
     void showLegend();
@@ -51,6 +50,5 @@ private:
     BytesModel* m_bytesModel;
     FusesTextView* m_legend;
     QScrollArea* m_scrollArea;
-    bool m_isWhole = false;
     FusesBytes* m_bytes;
 };

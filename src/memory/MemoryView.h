@@ -11,12 +11,12 @@ class MemoryView : public QWidget
     Q_OBJECT
 
 public:
-    [[nodiscard]] PathField* writePath() const { return m_writeRow.path; }
-    [[nodiscard]] QPushButton* writeButton() const { return m_writeRow.action; }
-    [[nodiscard]] QPushButton* writeVerifyButton() const { return m_writeRow.verify; }
     /// Opens the dialog for the file to write, as its button does, which gets the focus.
     void browseForWriting() const;
 
+    [[nodiscard]] PathField* writePath() const { return m_writeRow.path; }
+    [[nodiscard]] QPushButton* writeButton() const { return m_writeRow.action; }
+    [[nodiscard]] QPushButton* writeVerifyButton() const { return m_writeRow.verify; }
     [[nodiscard]] PathField* readPath() const { return m_readRow.path; }
     [[nodiscard]] QPushButton* readButton() const { return m_readRow.action; }
     [[nodiscard]] QPushButton* readVerifyButton() const { return m_readRow.verify; }
