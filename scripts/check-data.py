@@ -8,6 +8,8 @@ import re
 import subprocess
 import sys
 
+from devices import PAGE, filled
+
 top = pathlib.Path(__file__).resolve().parent.parent
 faults = []
 
@@ -41,9 +43,9 @@ def avrdude_table(option):
     return table
 
 
-def devices(title=''):
-    """A section of the list of devices, or what stands above the first."""
-    text = (top / 'docs/devices.md').read_text()
+def devices(title='', page='devices'):
+    """A section of the list of devices or of another page, or what stands above the first."""
+    text = (top / f'docs/{page}.md').read_text()
     return (text.split('\n## ' + title, 1)[1] if title else text).split('\n## ')[0]
 
 
@@ -151,7 +153,7 @@ for name, found in sorted(ships.items()):
 meanings, words = load('mcu/meanings')['fields'], load('mcu/meanings')['words']
 rules = [(re.compile(pattern), replacement) for pattern, replacement in words['rules']]
 check(set(meanings) <= seen, 'fields of no part:', *sorted(set(meanings) - seen))
-alike = devices('Settings that read alike')
+alike = devices('Settings that read alike', 'data-decisions')
 for field, settings in meanings.items():
     name = field.split(' ')[0]
     check(words['fields'].get(name), field, 'has no words')
@@ -228,6 +230,13 @@ counts = f'avrdude 7.1 knows {known} of the microcontrollers and {older} of the 
 check(counts in newer, 'docs/devices.md does not say:', counts)
 counts = f'descriptions of {len(ships)} microcontrollers (`data/mcu`) and entries for {len(programmers)} programmers'
 check(counts in devices(), 'docs/devices.md does not say:', counts)
+newest = len(ships) - known, len(programmers) - older - len(more)
+for page, words in (
+        ('README.md', f'{len(ships)} microcontrollers'),
+        ('README.md', '{} of the microcontrollers and {} of the programmers'.format(*newest)),
+        ('docs/guide.md', f'{newest[0]} of the {len(ships)} microcontrollers and {newest[1]} of the {len(programmers)}')):
+    check(words in ' '.join((top / page).read_text().split()), page, 'does not say:', words)
+check(PAGE.read_text() == filled(PAGE.read_text()), 'docs/devices.md lacks names: run scripts/devices.py')
 
 print('\n'.join(faults) or f'data: {len(ships)} microcontrollers and {len(programmers)} programmers are in order')
 sys.exit(bool(faults))
