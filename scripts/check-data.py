@@ -9,6 +9,7 @@ import subprocess
 import sys
 
 from devices import PAGE, filled
+from meanings import FIELDS, WORDS, meaning
 
 top = pathlib.Path(__file__).resolve().parent.parent
 faults = []
@@ -150,13 +151,11 @@ for name, found in sorted(ships.items()):
     accepted = (known or [found['id']]) + [name.lower()] * (version > (7, 1))
     check(found['id'] in accepted, name, 'is called', known, 'by avrdude')
 
-meanings, words = load('mcu/meanings')['fields'], load('mcu/meanings')['words']
-rules = [(re.compile(pattern), replacement) for pattern, replacement in words['rules']]
-check(set(meanings) <= seen, 'fields of no part:', *sorted(set(meanings) - seen))
+check(set(FIELDS) <= seen, 'fields of no part:', *sorted(set(FIELDS) - seen))
 alike = devices('Settings that read alike', 'data-decisions')
-for field, settings in meanings.items():
+for field, settings in FIELDS.items():
     name = field.split(' ')[0]
-    check(words['fields'].get(name), field, 'has no words')
+    check(WORDS['fields'].get(name), field, 'has no words')
     texts = []
     for setting, symbol in settings.items():
         if isinstance(symbol, int):  # bytes: the end of a section from that of the flash, or of each block from its start
@@ -164,11 +163,7 @@ for field, settings in meanings.items():
                   'is beyond the flash')
             texts.append(symbol)
             continue
-        text = words['symbols'].get(f'{name}:{symbol}', words['symbols'].get(symbol))
-        if text is None:
-            text = symbol
-            for pattern, replacement in rules:
-                text = pattern.sub(replacement, text)
+        text = meaning(name, symbol)
         check(re.fullmatch('[^_]+', text) and text not in ('reserved', symbol), field, symbol, 'has no words but', text)
         texts.append(text)
     check((len(set(texts)) < len(texts)) == (f'`{field}`' in alike), field, 'has settings that read alike, or has none')

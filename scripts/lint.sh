@@ -9,7 +9,8 @@ need_packages "${build_packages[@]}" clang-format clang-tidy cmark-gfm git pytho
     g++-mingw-w64-x86-64-posix pkgconf
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
-lupdate -silent src translations/toolkit.cpp -ts "$scratch/texts.ts"
+scripts/meanings.py >"$scratch/meanings.cpp"
+lupdate -silent src translations/toolkit.cpp "$scratch/meanings.cpp" -ts "$scratch/texts.ts"
 scripts/check-translations.py "$scratch/texts.ts" translations/*.ts
 # Each language is told of where people choose a program: by its name, and in it.
 for file in translations/*.ts; do

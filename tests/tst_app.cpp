@@ -79,7 +79,7 @@ private slots:
         BoxAnswerer boxes;
         for (const auto& [content, reason, kept, language] :
              {std::tuple(m_full.chopped(4), "unterminated object", "save.damaged-1.json", "English"),
-              {QByteArray("[1]"), "no JSON object", "save.damaged-2.json", "English"}}) {
+              {QByteArray("[1]"), "not a JSON object", "save.damaged-2.json", "English"}}) {
             folder.write(file, content);
             QCOMPARE(Startup::language(), QString(language));
             KorvelApp window;

@@ -125,6 +125,28 @@ private slots:
         QVERIFY(low->fusesBit()[0]->toolTip().endsWith(m_factoryClock) && !low->fusesBit()[5]->font().bold());
     }
 
+    void meaningsInAnotherLanguage()
+    {
+        struct : QTranslator {
+            QString translate(const char* /*context*/, const char* source, const char* /*comment*/,
+                              int /*number*/) const override
+            {
+                return QHash<QString, QString> {
+                    {"Clock source and start-up time", "Takt"},
+                    {"start-up %1 clocks, after a reset %2 clocks + %3 ms", "%3 ms + %2 / %1"},
+                }
+                    .value(source);
+            }
+            [[nodiscard]] bool isEmpty() const override { return false; }
+        } translator;
+        QCoreApplication::installTranslator(&translator);
+        Bench bench;
+        Fuses fuses(bench.avrdude, nullptr);
+        loadMega328P(bench, fuses);
+        QCOMPARE(fuses.findChild<FusesByteView*>()->fusesBit()[0]->toolTip(),
+                 QString("Takt\n    SUT1..0 CKSEL3..0 = 100010: internal oscillator 8 MHz; 65 ms + 14 / 6"));
+    }
+
     void meaningsWithoutAMouse()
     {
         Bench bench;
@@ -238,8 +260,9 @@ private slots:
         tab.buttons->readButton()->click();
         QTRY_VERIFY(QFile::exists("lock.hex"));
         tab.folder.write("go", "");
-        QCOMPARE(tab.click(tab.buttons->readButton()), // again, and nothing that was read is lost
-                 QString("FUSES: Fuse bytes read successfully.\nNot read: Name of lfuse"));
+        QCOMPARE(
+            tab.click(tab.buttons->readButton()), // again, and nothing that was read is lost
+            QString("FUSES: Fuse bytes read successfully.\nNot read (the old values are still shown): Name of lfuse"));
         QCOMPARE(tab.requests(), QStringList {"-Ulfuse:r:lfuse.hex:r -Ulock:r:lock.hex:r"});
         QCOMPARE(shownFuses(tab.tab), QString("6205")); // 0D without bit 3, which is locked
     }
@@ -250,7 +273,7 @@ private slots:
             Tab tab;
             tab.folder.write("script", script);
             QCOMPARE(tab.click(tab.buttons->readButton()).section('|', 0, 0),
-                     QString("FUSES: Not read: Name of lfuse, Name of lock"));
+                     QString("FUSES: Not read (the old values are still shown): Name of lfuse, Name of lock"));
             QCOMPARE(shownFuses(tab.tab), QString("62E7"));
         }
     }
@@ -317,9 +340,8 @@ private slots:
         const QString asked =
             "FUSES, by default No: High Fuse: The reset pin becomes an ordinary pin: an ISP or TPI programmer will no "
             "longer be able to reach the chip. The way back: a high-voltage programmer.\nLock Bits: A programmer will "
-            "no "
-            "longer be able to read or "
-            "write the chip. The way back: erase all of it. + Do you want to write the fuse bytes all the same?";
+            "no longer be able to read the chip or write to it. The way back: Erase all. + Do you want to write the "
+            "fuse bytes all the same?";
         const QString written = "Information: Fuse bytes written successfully.";
         const auto press = [&] { return bench.click(buttons->writeButton()).section("|-U", 0, 0); };
         QCOMPARE(press(), asked);

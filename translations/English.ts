@@ -500,22 +500,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 bytes (%2 words)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 bytes (%2 words), from byte address %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 clocks</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 clocks + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 clocks, after a reset %2 clocks + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, if the reset pin is an ordinary pin or the reset input</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Boot lock bits of the application section</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Boot lock bits of the application table section</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Boot lock bits of the boot section</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Boot row at a chip erase</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Brown-out detector</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Brown-out detector in power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Brown-out detector in sleep</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Brown-out detector while active</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Brown-out level</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Calibration of the internal oscillator</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Clock failure detection</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Clock output</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Clock source</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Clock source and start-up time</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Clock source at the start</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Closed part of the watchdog window</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Compatibility with AT90S4414 and AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Compatibility with AT90S4434 and AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Compatibility with ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Compatibility with ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Current sink of the USB voltage regulator</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Debugging over the reset pin (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Deep under-voltage recovery after a reset</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Division of the clock at the start</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM at a chip erase</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>End of the application code section, in blocks</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>End of the application code section, where the data section begins</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>End of the boot section</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>End of the boot section, in blocks</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Flash check (CRC) at the start: a failing one keeps the program from starting</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>For tests in the factory</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Frequency of the internal oscillator</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Frequency of the ultra-low-power oscillator</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Internal capacitors at the crystal pins</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>JTAG interface</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>JTAG user identification</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Level of PSC outputs A that a reset forces</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Level of PSC outputs B that a reset forces</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Level of PSC outputs that a reset forces</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Lock bits</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Method of the flash check at the start</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Monitor of the processor</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Monitor of the watchdog</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>On-chip debugging</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Oscillator option</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Output A of the timer TCD0 after a reset</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Output A of the timer TCD0 on its pin after a reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Output B of the timer TCD0 after a reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Output B of the timer TCD0 on its pin after a reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Output C of the timer TCD0 after a reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Output C of the timer TCD0 on its pin after a reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Output D of the timer TCD0 after a reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Output D of the timer TCD0 on its pin after a reset</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL from the crystal oscillator</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL from the crystal oscillator, divided by %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL from the external clock</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL from the external clock, divided by %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL from the internal oscillator %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL from the internal oscillator %1 MHz, divided by %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>PSC outputs in a reset</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>PSC0 outputs in a reset</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>PSC1 outputs in a reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>PSC2 outputs %1 and %2 in a reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>PSC2 outputs in a reset</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Pins of the timer&apos;s %1 kHz crystal</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Reset and UPDI pin</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Reset pin</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Sampling of the brown-out detector</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Serial programming (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Size of the boot section</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Special behaviour of the PSC inputs in a reset</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Start of the boot section by the pin HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Start of the program after a reset</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Start-up time</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Supply of the multi-voltage pins</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Time-out after power-on that blocks writing</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>UPDI pin</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, and the reset input on another pin</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Watchdog settings</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Watchdog timeout</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Writing of the flash by the program (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>a voltage of their own</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>after %1 bytes</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>always on</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>as delivered</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>as ordinary pins</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>as the program sets it</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>at address %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>at the boot section</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>at the end of the flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>boot and application code sections</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>boot section</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>brown-out detector on</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>capacitors with %1 kHz crystals and external RC</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>ceramic resonator</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>ceramic resonator %1 to %2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>ceramic resonator from %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>ceramic resonator or external clock</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>crystal or ceramic resonator</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>crystal or ceramic resonator, high frequency</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>crystal or ceramic resonator, low frequency</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>crystal or ceramic resonator, medium frequency</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>crystal oscillator</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>crystal oscillator %1 to %2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>crystal oscillator from %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>divided by %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>erased too</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>external RC oscillator</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>external RC oscillator %1 to %2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>external RC oscillator up to %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>external clock</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>fast rising power</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>forced to a level</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>full swing, which crystals above %1 MHz need</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>full-swing oscillator %1 to %2 MHz (supply above %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>high</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>internal %1 kHz oscillator</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>internal capacitors</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>internal high-frequency oscillator</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>internal oscillator</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>internal oscillator %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>internal oscillator %1 MHz divided by %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>internal oscillator %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>internal ultra-low-power oscillator %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>kept</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>kept, but not if the chip is locked</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>kept, even if the chip is locked</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>locked</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>locked for writing</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>locked for writing and reading</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>long</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>long start-up</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>low</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>low-frequency crystal (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>no program can write it</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>no program can write it, and none in the application section can read it</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>no program can write it, and none in the boot section can read it</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>no program in the application section can read it</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>no program in the boot section can read it</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>no reset input</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>no restriction</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>not divided</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>not possible</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>off in operation, %1 V while the chip is erased</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>on its pin</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>on, and waking up waits until it is ready</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>on, but off in the deep sleep modes</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>open</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>open to the program</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>ordinary pin</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>ordinary pin, as an input only</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>other ones</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>possible</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>reserved</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>reset input</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>sampled</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>short</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>short start-up</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>slowly rising power</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>small swing, which saves power</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>start-up %1 clock, after a reset %2 clocks</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>start-up %1 clocks</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>start-up %1 clocks + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>start-up %1 clocks, after a reset %2 clocks</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>start-up %1 clocks, after a reset %2 clocks + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>that of the chip</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>the internal oscillator needs it</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>the whole flash is boot section</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>those of the main crystal</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>transceiver oscillator</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>very short start-up</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>watchdog oscillator %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>when the pin is low at the end of a reset</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>whole flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>with internal capacitors</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>without effect while BOOTEND is %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>without effect while BOOTSIZE is %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>without internal capacitors</translation>
     </message>
 </context>
 <context>
@@ -551,12 +1311,12 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>Fuse bytes read successfully.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Not read: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Do you want to write the fuse bytes all the same?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Not read (the old values are still shown): %1</translation>
     </message>
 </context>
 <context>
@@ -615,8 +1375,8 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>JSON FILE ERROR</translation>
     </message>
     <message>
-        <source>no JSON object</source>
-        <translation>no JSON object</translation>
+        <source>not a JSON object</source>
+        <translation>not a JSON object</translation>
     </message>
 </context>
 <context>

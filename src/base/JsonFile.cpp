@@ -66,7 +66,7 @@ QString JsonFile::reason() const
 {
     if (state == State::ParseError)
         return error;
-    return state == State::Parsed ? QCoreApplication::translate("JsonFile", "no JSON object") : faultText();
+    return state == State::Parsed ? QCoreApplication::translate("JsonFile", "not a JSON object") : faultText();
 }
 
 bool writeFile(const QString& path, const QByteArray& content)

@@ -130,13 +130,38 @@ constexpr std::array<Warning, 12> lockOuts = {{
                        "The way back: a high-voltage programmer.")},
     {"^lb:(prog_ver_disabled|rwlock)",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "A programmer will no longer be able to read or write the chip.\n"
-                       "The way back: erase all of it.")},
+                       "A programmer will no longer be able to read the chip or write to it.\n"
+                       "The way back: Erase all.")},
     {"^lb:(prog_disabled|wlock)",
      QT_TRANSLATE_NOOP("FuseMeanings",
-                       "A programmer will no longer be able to write the chip.\n"
-                       "The way back: erase all of it.")},
+                       "A programmer will no longer be able to write to the chip.\n"
+                       "The way back: Erase all.")},
 }};
+
+/// @p text, which the files beside the descriptions say, in the user's language. Between semicolons stand phrases; each
+/// is translated with its numbers where that language puts them, or stays English.
+QString translated(const QString& text)
+{
+    static const QRegularExpression number(QStringLiteral("(?<![\\w.-])(0x[0-9a-f]+|\\d+(\\.\\d+)?K?)(?!\\w)"));
+    const QString separator = QStringLiteral("; ");
+    QStringList phrases = text.split(separator);
+    for (QString& phrase : phrases) {
+        QStringList numbers;
+        QString source;
+        int end = 0;
+        for (auto matches = number.globalMatch(phrase); matches.hasNext();) {
+            const auto match = matches.next();
+            numbers += match.captured();
+            source += phrase.mid(end, match.capturedStart() - end) + QLatin1Char('%') + QString::number(numbers.size());
+            end = match.capturedEnd();
+        }
+        source += phrase.mid(end);
+        phrase = QCoreApplication::translate("FuseMeanings", source.toUtf8());
+        for (const QString& one : qAsConst(numbers))
+            phrase = phrase.arg(one);
+    }
+    return phrases.join(separator);
+}
 
 /// The warning for @p setting, a field's name, a colon and the symbol; empty for most.
 QString warningFor(const QString& setting)
@@ -289,7 +314,8 @@ QString FuseMeanings::textOf(const Field& field, const FuseByte& byte) const
         return field.symbols.isEmpty() ? text
                                        : text + QStringLiteral(": ") + meaningOf(field.name, symbolOf(field, value));
     };
-    QStringList lines {field.text, namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
+    QStringList lines {translated(field.text),
+                       namesOf(byte, bits) + QStringLiteral(" = ") + setting(byte.currentValue)};
     if ((changed(byte) & bits) != 0) {
         lines += QCoreApplication::translate("FuseMeanings", "Factory setting") + QStringLiteral(" = ")
             + setting(factoryValue(byte));
@@ -305,10 +331,10 @@ QString FuseMeanings::meaningOf(const QString& field, QString symbol) const
     const QJsonValue ofField = m_words.value(field + QLatin1Char(':') + symbol);
     const QJsonValue words = ofField.isString() ? ofField : m_words.value(symbol);
     if (words.isString())
-        return words.toString();
+        return translated(words.toString());
     for (const auto& [pattern, replacement] : m_rules)
         symbol.replace(pattern, replacement);
-    return symbol;
+    return translated(symbol);
 }
 
 QString FuseMeanings::sectionSymbol(int bytes) const

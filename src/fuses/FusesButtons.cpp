@@ -95,7 +95,7 @@ void FusesButtons::readFuseBytesMcu()
     if (unread.isEmpty() || unread.size() < texts.size())
         told += tr("Fuse bytes read successfully.");
     if (!unread.isEmpty())
-        told += tr("Not read: %1").arg(unread.join(QLatin1String(", ")));
+        told += tr("Not read (the old values are still shown): %1").arg(unread.join(QLatin1String(", ")));
     Box::tell(&m_view, QStringLiteral("FUSES"), told.join(QLatin1Char('\n')),
               FuseRequests::remark(settings.fusesBytes));
 }
