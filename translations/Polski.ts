@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Fusebity układu mogą wymagać zegara, którego nie ma, albo zamieniać wyprowadzenie RESET w zwykły pin.</translation>
+        <translation>Fusebity układu mogą wymagać zegara, którego nie ma, albo zamieniać pin RESET w zwykły pin.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Jeśli stało się to po programowaniu: sprawdź styki i zasilanie oraz spróbuj mniejszej szybkości.</translation>
+        <translation>Jeśli stało się to po użyciu „Programuj”: sprawdź styki i zasilanie oraz spróbuj mniejszej szybkości.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Fusebity układu mogą przypisywać wyprowadzeniu UPDI inną funkcję: układ można odzyskać programatorem z wysokonapięciowym UPDI.</translation>
+        <translation>Fusebity układu mogą przypisywać pinowi UPDI inną funkcję: układ można odzyskać programatorem z wysokonapięciowym UPDI.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
-        <translation>Układ skasowano i nic nie zapisano: jego pamięć FLASH jest pusta.</translation>
+        <translation>Układ skasowano i nic nie zaprogramowano: jego pamięć FLASH jest pusta.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
@@ -449,19 +449,19 @@ Czy mimo to kontynuować?</translation>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
-        <translation>To ustawienie jest zastrzeżone: układ może przestać odpowiadać.
+        <translation>To ustawienie jest zarezerwowane: układ może przestać odpowiadać.
 Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Wyprowadzenie RESET stanie się zwykłym pinem: programator ISP lub TPI straci dostęp do układu.
+        <translation>Pin RESET stanie się zwykłym pinem: programator ISP lub TPI straci dostęp do układu.
 Jak odzyskać układ: programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Wyprowadzenie RESET przejmie debugger: programator ISP straci dostęp do układu.
+        <translation>Pin RESET przejmie debugger: programator ISP straci dostęp do układu.
 Jak odzyskać układ: debuggerem z debugWIRE albo programatorem wysokonapięciowym.</translation>
     </message>
     <message>
@@ -479,14 +479,14 @@ Jak odzyskać układ: przez ISP (w przypadku ATxmega przez PDI) albo programator
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Wyprowadzenie UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
+        <translation>Pin UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
 Jak odzyskać układ: programatorem z wysokonapięciowym UPDI.</translation>
     </message>
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Bez swojego kwarcu układ nie będzie odpowiadał, a z nim tylko przy szybkości poniżej 8 kHz (1 kHz z CKDIV8).
-Jak odzyskać układ: podłącz kwarc 32,768 kHz albo podaj sygnał zegarowy na wejście zegarowe układu, a potem wybierz mniejszą szybkość; możesz też użyć programatora wysokonapięciowego.</translation>
+Jak odzyskać układ: podłącz kwarc 32.768 kHz albo podaj sygnał zegarowy na wejście zegarowe układu, a potem wybierz mniejszą szybkość; możesz też użyć programatora wysokonapięciowego.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -497,26 +497,786 @@ Jak odzyskać układ: wybierz mniejszą szybkość.</translation>
     <message>
         <source>Without this clock on its pins the chip will not answer.
 The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
-        <translation>Bez tego sygnału zegarowego na wyprowadzeniach układ nie będzie odpowiadał.
+        <translation>Bez tego sygnału zegarowego na pinach układ nie będzie odpowiadał.
 Jak odzyskać układ: podaj sygnał zegarowy na jego wejście zegarowe (kwarc pomoże tylko wtedy, gdy ustawienie go wymienia) albo użyj programatora wysokonapięciowego.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Programator nie będzie już mógł odczytywać ani programować układu.
-Jak odzyskać układ: skasuj cały układ.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Programator nie będzie już mógł programować układu.
-Jak odzyskać układ: skasuj cały układ.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
-        <translation>Wyprowadzenie UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
-Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, który podaje na wyprowadzenie RESET napięcie nieco wyższe od zasilania. 12 V zniszczy to wyprowadzenie.</translation>
+        <translation>Pin UPDI otrzyma inną funkcję: zwykły programator UPDI straci dostęp do układu.
+Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, który podaje na pin RESET napięcie nieco wyższe od zasilania. 12 V zniszczy ten pin.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Programator nie będzie już mógł odczytywać ani programować układu.
+Jak odzyskać układ: „Skasuj układ”.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Programator nie będzie już mógł programować układu.
+Jak odzyskać układ: „Skasuj układ”.</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 B (słowa: %2)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 B (słowa: %2), od adresu bajtowego %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 cykli zegara</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 cykli zegara + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 cykli zegara, po resecie %2 cykli + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, jeśli pin RESET jest zwykłym pinem lub wejściem RESET</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Lockbity (BLB) sekcji aplikacji</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Lockbity (BLB) sekcji tabeli aplikacji</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Lockbity (BLB) sekcji boot</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Pamięć BOOTROW przy kasowaniu układu</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Detektor brown-out</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Detektor brown-out w trybie power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Detektor brown-out w uśpieniu</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Detektor brown-out podczas pracy</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Próg brown-out</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Kalibracja oscylatora wewnętrznego</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Kontrola (CRC) sekcji boot przy starcie: jeśli wykryje błąd, program nie ruszy</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Wykrywanie awarii zegara</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Wyjście zegara</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Źródło zegara</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Źródło zegara i czas rozruchu</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Źródło zegara przy starcie</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Zamknięta część okna watchdoga</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Zgodność z AT90S4414 i AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Zgodność z AT90S4434 i AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Zgodność z ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Zgodność z ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Odbieranie prądu (sink) przez regulator napięcia USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Debugowanie przez pin RESET (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Wychodzenie z głębokiego spadku napięcia (DUVR) po resecie</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Podział zegara przy starcie</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>Pamięć EEPROM przy kasowaniu układu</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Koniec sekcji kodu aplikacji, w blokach</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Koniec sekcji kodu aplikacji, gdzie zaczyna się sekcja danych</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Koniec sekcji boot</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Koniec sekcji boot, w blokach</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Kontrola (CRC) pamięci flash przy starcie: jeśli wykryje błąd, program nie ruszy</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Do testów w fabryce</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Częstotliwość oscylatora wewnętrznego</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Częstotliwość oscylatora o ultraniskim poborze mocy</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Wewnętrzne kondensatory na pinach kwarcu</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Interfejs JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Identyfikator użytkownika JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Stan wyjść PSC A wymuszany przez reset</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Stan wyjść PSC B wymuszany przez reset</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Stan wyjść PSC wymuszany przez reset</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Lockbity</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Metoda kontroli pamięci flash przy starcie</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Nadzór nad procesorem</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Nadzór nad watchdogiem</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Debugowanie w układzie (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Opcja oscylatora</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Wyjście A timera TCD0 po resecie</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Wyjście A timera TCD0 na jego pinie po resecie</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Wyjście B timera TCD0 po resecie</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Wyjście B timera TCD0 na jego pinie po resecie</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Wyjście C timera TCD0 po resecie</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Wyjście C timera TCD0 na jego pinie po resecie</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Wyjście D timera TCD0 po resecie</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Wyjście D timera TCD0 na jego pinie po resecie</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL z oscylatora kwarcowego</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL z oscylatora kwarcowego, podział przez %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL z zegara zewnętrznego</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL z zegara zewnętrznego, podział przez %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL z oscylatora wewnętrznego %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL z oscylatora wewnętrznego %1 MHz, podział przez %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Wyjścia PSC podczas resetu</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Wyjścia PSC0 podczas resetu</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Wyjścia PSC1 podczas resetu</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Wyjścia %1 i %2 PSC2 podczas resetu</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Wyjścia PSC2 podczas resetu</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Piny kwarcu %1 kHz timera</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Pin RESET i UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Pin RESET</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Próbkowanie detektora brown-out</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Programowanie szeregowe (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Rozmiar sekcji boot</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Specjalne zachowanie wejść PSC podczas resetu</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Start sekcji boot pinem HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Start programu po resecie</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Czas rozruchu</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Zasilanie pinów wielonapięciowych (MVIO)</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Czas po włączeniu zasilania, w którym zapis jest zablokowany</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Pin UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, a wejście RESET na innym pinie</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Ustawienia watchdoga</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Limit czasu watchdoga</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Zapis pamięci flash przez program (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>własne napięcie</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>po %1 B</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>zawsze wł.</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>fabrycznie</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>jak zwykłe piny</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>zależnie od programu</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>pod adresem %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>w sekcji boot</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>na końcu pamięci flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>sekcje boot i kodu aplikacji</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>sekcja boot</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>z detektorem brown-out</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>wewnętrzne kondensatory przy kwarcach %1 kHz i zewnętrznym RC</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>rezonator ceramiczny</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>rezonator ceramiczny %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>rezonator ceramiczny %1–%2 MHz (CKOPT %3: także kwarc, od %4 MHz)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>rezonator ceramiczny od %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>rezonator ceramiczny lub zegar zewnętrzny</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>kwarc lub rezonator ceramiczny</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>kwarc lub rezonator ceramiczny %1–%2 MHz (CKOPT %3: od %4 MHz)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>kwarc lub rezonator ceramiczny, wysoka częstotliwość</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>kwarc lub rezonator ceramiczny, niska częstotliwość</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>kwarc lub rezonator ceramiczny, średnia częstotliwość</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>oscylator kwarcowy</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>oscylator kwarcowy %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>oscylator kwarcowy od %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>przez %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>także ulega skasowaniu</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>zewnętrzny oscylator RC</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>zewnętrzny oscylator RC %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>zewnętrzny oscylator RC do %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>zegar zewnętrzny</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>szybko narastające zasilanie</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>z wymuszonym stanem</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>pełna amplituda, potrzebna dla kwarców powyżej %1 MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>oscylator o pełnej amplitudzie %1–%2 MHz (zasilanie powyżej %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>stan wysoki</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>oscylator wewnętrzny %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>wewnętrzne kondensatory</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>oscylator wewnętrzny wysokiej częstotliwości</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>oscylator wewnętrzny</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>oscylator wewnętrzny %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>oscylator wewnętrzny %1 MHz, podział przez %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>oscylator wewnętrzny %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>oscylator wewnętrzny o ultraniskim poborze mocy %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>nie ulega skasowaniu</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>nie ulega skasowaniu, chyba że układ jest zablokowany</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>nie ulega skasowaniu, nawet gdy układ jest zablokowany</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>blokada</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>blokada programowania</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>blokada programowania i odczytu</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>czas długi</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>długi rozruch</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>stan niski</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>kwarc niskiej częstotliwości (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>żaden program nie może zapisywać tej sekcji</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>żaden program nie może zapisywać tej sekcji, a żaden z sekcji aplikacji nie może jej odczytywać</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>żaden program nie może zapisywać tej sekcji, a żaden z sekcji boot nie może jej odczytywać</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>żaden program z sekcji aplikacji nie może odczytywać tej sekcji</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>żaden program z sekcji boot nie może odczytywać tej sekcji</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>bez wejścia RESET</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>bez ograniczeń</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>bez podziału</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>niemożliwe</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>wył.</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>wył. podczas pracy, %1 V podczas kasowania układu</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>wł.</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>na swoim pinie</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>wł., wybudzanie czeka na gotowość detektora</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>wł., ale wył. w trybach głębokiego uśpienia</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>bez blokady</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>program może zmieniać</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>zwykły pin</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>zwykły pin, tylko jako wejście</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>inne</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>możliwe</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>zarezerwowane</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>wejście RESET</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>próbkowanie</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>czas krótki</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>krótki rozruch</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>wolno narastające zasilanie</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>mała amplituda, która oszczędza energię</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>rozruch: %1 cykl, po resecie %2 cykli</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>rozruch: %1 cykli</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>rozruch: %1 cykli + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>rozruch: %1 cykli, po resecie %2 cykli</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>rozruch: %1 cykli, po resecie %2 cykli + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>napięcie układu</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>wymaga tego oscylator wewnętrzny</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>cała pamięć flash to sekcja boot</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>te, co kwarc główny</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>oscylator transceivera</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>bardzo krótki rozruch</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>oscylator watchdoga %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>gdy pin jest w stanie niskim na końcu resetu</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>cała pamięć flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>z wewnętrznymi kondensatorami</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>bez znaczenia, dopóki BOOTEND wynosi %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>bez znaczenia, dopóki BOOTSIZE wynosi %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>bez wewnętrznych kondensatorów</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1294,7 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, k
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Przywrócono domyślne wartości bajtów fuse.</translation>
+        <translation>W oknie ustawiono wartości fabryczne. Układ pozostał bez zmian.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1312,12 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, k
         <translation>Odczytano bajty fuse.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Nie odczytano: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Czy mimo to zaprogramować bajty fuse?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Nie odczytano (nadal pokazane są stare wartości): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1336,7 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, k
     </message>
     <message>
         <source>Default</source>
-        <translation>Domyślne</translation>
+        <translation>Fabryczne</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1376,7 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, k
         <translation>BŁĄD W PLIKU JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>to nie jest obiekt JSON</translation>
     </message>
 </context>
@@ -644,7 +1404,7 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI dla tej rodziny, k
     </message>
     <message>
         <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
-        <translation>Korvel nie może zapisywać w folderze %1: wybrane ustawienia nie zostaną zachowane.</translation>
+        <translation>Korvel nie może zapisywać w katalogu %1: wybrane ustawienia nie zostaną zachowane.</translation>
     </message>
 </context>
 <context>
@@ -784,7 +1544,7 @@ Układ jest pusty albo chroniony przed odczytem (ustawione lockbity).</translati
     </message>
     <message>
         <source>The serial number cannot be written.</source>
-        <translation>Nie można zapisać numeru seryjnego.</translation>
+        <translation>Nie można zaprogramować numeru seryjnego.</translation>
     </message>
 </context>
 <context>
@@ -878,7 +1638,7 @@ Zweryfikowano fusebity.</translation>
     </message>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
-        <translation>Polecenie z profilu dla tej pamięci nie zapisuje w niej pliku, więc nie zostanie wykonane:</translation>
+        <translation>Polecenie z profilu dla tej pamięci nie programuje jej z pliku, więc nie zostanie wykonane:</translation>
     </message>
     <message>
         <source>No board is written with this profile.</source>
@@ -919,7 +1679,7 @@ Zweryfikowano fusebity.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bajty fuse ustawiono na wartości domyślne z noty katalogowej.</translation>
+W oknie ustawiono wartości fabryczne. Układ pozostał bez zmian.</translation>
     </message>
 </context>
 <context>
@@ -1333,7 +2093,7 @@ Usunąć mimo to?</translation>
     </message>
     <message>
         <source>The argument -e would erase the chip before the number is written.</source>
-        <translation>Argument -e skasowałby układ przed zapisaniem numeru.</translation>
+        <translation>Argument -e skasowałby układ przed zaprogramowaniem numeru.</translation>
     </message>
     <message>
         <source>The number %1 takes more than &quot;bytes&quot;: %2.</source>
