@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Yazma işleminden sonra olduysa: bağlantıları ve beslemeyi denetleyin, daha düşük bir hız deneyin.</translation>
+        <translation>“Yaz” düğmesinden sonra olduysa: kontakları ve beslemeyi denetleyin, daha düşük bir hız deneyin.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -295,7 +295,7 @@
     </message>
     <message>
         <source>Reading would replace this file:</source>
-        <translation>Okunan veriler bu dosyanın üzerine yazılacak:</translation>
+        <translation>Okuma yapılırsa bu dosyanın üzerine yazılır:</translation>
     </message>
     <message>
         <source>It is larger than what is read: move it away first.</source>
@@ -486,7 +486,7 @@ Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı.</translati
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Kristali olmadan çip yanıt vermeyecek, kristaliyle de yalnızca 8 kHz&apos;ten (CKDIV8 ile 1 kHz&apos;ten) düşük bir hızda yanıt verecek.
-Kurtarmak için: 32,768 kHz&apos;lik bir kristal bağlayın ya da çipin saat bacağına bir saat sinyali verin, ardından daha düşük bir hız seçin; veya yüksek gerilimli bir programlayıcı kullanın.</translation>
+Kurtarmak için: 32.768 kHz&apos;lik bir kristal bağlayın ya da çipin saat bacağına bir saat sinyali verin, ardından daha düşük bir hız seçin; veya yüksek gerilimli bir programlayıcı kullanın.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -501,22 +501,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 Kurtarmak için: çipin saat bacağına bir saat sinyali verin (kristal yalnızca ayarda adı geçiyorsa işe yarar) veya yüksek gerilimli bir programlayıcı kullanın.</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Programlayıcı artık çipi okuyamayacak ve çipe yazamayacak.
-Kurtarmak için: tümünü silin.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Programlayıcı artık çipe yazamayacak.
-Kurtarmak için: tümünü silin.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>UPDI bacağı başka bir işlev alacak: sıradan bir UPDI programlayıcısı artık çipe erişemeyecek.
 Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset bacağına besleme geriliminden biraz fazlasını veren bir programlayıcı. 12 V bu bacağı bozar.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Programlayıcı artık çipi okuyamayacak ve çipe yazamayacak.
+Kurtarmak için: “Tümünü sil”.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Programlayıcı artık çipe yazamayacak.
+Kurtarmak için: “Tümünü sil”.</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 bayt (%2 sözcük)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 bayt (%2 sözcük), başlangıç bayt adresi %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 saat çevrimi</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 saat çevrimi + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 saat çevrimi, reset sonrası %2 çevrim + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, reset bacağı sıradan bacak ya da reset girişi ise</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Uygulama bölümünün kilit bitleri (BLB)</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Uygulama tablosu bölümünün kilit bitleri (BLB)</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Boot bölümünün kilit bitleri (BLB)</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Çip silinirken BOOTROW belleği</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Brown-out algılayıcısı</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Power-down kipinde brown-out algılayıcısı</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Uyku kipinde brown-out algılayıcısı</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Çalışırken brown-out algılayıcısı</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Brown-out eşiği</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Dahili osilatörün kalibrasyonu</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Başlangıçta boot bölümünün denetimi (CRC): başarısız olursa program başlamaz</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Saat arızası algılama</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Saat çıkışı</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Saat kaynağı</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Saat kaynağı ve başlatma süresi</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Başlangıçtaki saat kaynağı</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Watchdog penceresinin yasak bölümü</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>AT90S4414 ve AT90S8515 uyumluluğu</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>AT90S4434 ve AT90S8535 uyumluluğu</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>ATmega103 uyumluluğu</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>ATmega161 uyumluluğu</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>USB gerilim regülatörünün akım çekmesi (sink)</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Reset bacağı üzerinden hata ayıklama (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Reset sonrası derin gerilim düşüşünden toparlanma (DUVR)</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Başlangıçta saatin bölünmesi</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>Çip silinirken EEPROM</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Uygulama kodu bölümünün sonu, blok olarak</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Uygulama kodu bölümünün sonu, veri bölümünün başladığı yer</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Boot bölümünün sonu</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Boot bölümünün sonu, blok olarak</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Başlangıçta flash denetimi (CRC): başarısız olursa program başlamaz</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Fabrikadaki testler için</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Dahili osilatörün frekansı</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Ultra düşük güçlü osilatörün frekansı</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Kristal bacaklarındaki dahili kondansatörler</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>JTAG arayüzü</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>JTAG kullanıcı kimliği</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Resetin PSC A çıkışlarını zorladığı seviye</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Resetin PSC B çıkışlarını zorladığı seviye</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Resetin PSC çıkışlarını zorladığı seviye</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Kilit bitleri</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Başlangıçtaki flash denetiminin yöntemi</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>İşlemcinin izlenmesi</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Watchdog izlemesi</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Çip üzerinde hata ayıklama (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Osilatör seçeneği</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının A çıkışı</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının A çıkışının bacağa bağlanması</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının B çıkışı</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının B çıkışının bacağa bağlanması</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının C çıkışı</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının C çıkışının bacağa bağlanması</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının D çıkışı</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Reset sonrası TCD0 zamanlayıcısının D çıkışının bacağa bağlanması</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>kristal osilatörden PLL</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>kristal osilatörden PLL, %1 ile bölünmüş</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>harici saatten PLL</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>harici saatten PLL, %1 ile bölünmüş</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>%1 MHz dahili osilatörden PLL</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>%1 MHz dahili osilatörden PLL, %2 ile bölünmüş</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Reset sırasında PSC çıkışları</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Reset sırasında PSC0 çıkışları</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Reset sırasında PSC1 çıkışları</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Reset sırasında PSC2 çıkışları %1 ve %2</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Reset sırasında PSC2 çıkışları</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Zamanlayıcının %1 kHz kristalinin bacakları</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Reset ve UPDI bacağı</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Reset bacağı</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Brown-out algılayıcısının örneklemesi</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Seri programlama (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Boot bölümünün boyutu</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Reset sırasında PSC girişlerinin özel davranışı</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>HWB bacağıyla boot bölümünün başlatılması</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Reset sonrası programın başlangıcı</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Başlatma süresi</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Çok gerilimli bacakların (MVIO) beslemesi</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Besleme verildikten sonra yazmayı engelleyen bekleme süresi</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>UPDI bacağı</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, reset girişi başka bir bacakta</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Watchdog ayarları</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Watchdog zaman aşımı</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Programın flash belleğe yazması (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>kendi gerilimi</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>%1 bayttan sonra</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>her zaman açık</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>fabrika ayarında</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>sıradan bacak olarak</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>programın ayarladığı gibi</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>%1 adresinde</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>boot bölümünde</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>flash belleğin sonunda</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>boot ve uygulama kodu bölümleri</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>boot bölümü</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>brown-out algılayıcısı açık</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>%1 kHz kristallerde ve harici RC ile dahili kondansatörler</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>seramik rezonatör</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>seramik rezonatör %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>seramik rezonatör %1–%2 MHz (CKOPT %3 ise kristal de olur, %4 MHz ve üzeri)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>seramik rezonatör %1 MHz ve üzeri</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>seramik rezonatör veya harici saat</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>kristal veya seramik rezonatör</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>kristal veya seramik rezonatör %1–%2 MHz (CKOPT %3 ise %4 MHz ve üzeri)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>kristal veya seramik rezonatör, yüksek frekans</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>kristal veya seramik rezonatör, düşük frekans</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>kristal veya seramik rezonatör, orta frekans</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>kristal osilatör</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>kristal osilatör %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>kristal osilatör %1 MHz ve üzeri</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>%1 ile bölünür</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>o da silinir</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>harici RC osilatörü</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>harici RC osilatörü %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>harici RC osilatörü en çok %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>harici saat</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>hızlı yükselen besleme</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>bir seviyeye zorlanır</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>tam salınım, %1 MHz üzerindeki kristaller için gerekir</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>tam salınımlı osilatör %1–%2 MHz (besleme %3 V üzerinde)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>yüksek</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>dahili %1 kHz osilatör</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>dahili kondansatörler</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>dahili yüksek frekanslı osilatör</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>dahili osilatör</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>dahili osilatör %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>dahili osilatör %1 MHz, %2 ile bölünmüş</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>dahili osilatör %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>dahili ultra düşük güçlü osilatör %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>korunur</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>korunur, ama çip kilitliyse korunmaz</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>çip kilitli olsa bile korunur</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>kilitli</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>yazma kilitli</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>yazma ve okuma kilitli</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>uzun</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>uzun başlatma</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>düşük</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>düşük frekanslı kristal (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>hiçbir program bu bölüme yazamaz</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>hiçbir program bu bölüme yazamaz, uygulama bölümündekiler de onu okuyamaz</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>hiçbir program bu bölüme yazamaz, boot bölümündekiler de onu okuyamaz</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>uygulama bölümündeki hiçbir program bu bölümü okuyamaz</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>boot bölümündeki hiçbir program bu bölümü okuyamaz</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>reset girişi yok</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>kısıtlama yok</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>bölünmez</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>mümkün değil</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>kapalı</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>çalışırken kapalı, çip silinirken %1 V</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>açık</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>kendi bacağında</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>açık, uyanırken hazır olması beklenir</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>açık, ama derin uyku kiplerinde kapalı</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>kilitsiz</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>program değiştirebilir</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>sıradan bacak</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>sıradan bacak, yalnızca giriş olarak</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>başka bacaklar</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>mümkün</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>ayrılmış</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>reset girişi</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>örneklemeli</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>kısa</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>kısa başlatma</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>yavaş yükselen besleme</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>küçük salınım, güç tasarrufu sağlar</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>başlatma: %1 çevrim, reset sonrası %2 çevrim</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>başlatma: %1 çevrim</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>başlatma: %1 çevrim + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>başlatma: %1 çevrim, reset sonrası %2 çevrim</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>başlatma: %1 çevrim, reset sonrası %2 çevrim + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>çipin gerilimi</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>dahili osilatör bunu gerektirir</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>flash belleğin tümü boot bölümüdür</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>ana kristalin bacakları</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>alıcı-verici osilatörü</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>çok kısa başlatma</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>watchdog osilatörü %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>reset biterken bacak düşük seviyedeyse</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>flash belleğin tümü</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>dahili kondansatörlerle</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>BOOTEND %1 iken etkisizdir</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>BOOTSIZE %1 iken etkisizdir</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>dahili kondansatörsüz</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1294,7 @@ Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset baca�
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Fuse baytları varsayılan değerlere ayarlandı.</translation>
+        <translation>Pencereye fabrika değerleri yerleştirildi. Çip değişmedi.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1312,12 @@ Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset baca�
         <translation>Fuse baytları başarıyla okundu.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Okunamayan: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Fuse baytları yine de yazılsın mı?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Okunamadı (eski değerler gösterilmeye devam ediyor): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1336,7 @@ Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset baca�
     </message>
     <message>
         <source>Default</source>
-        <translation>Varsayılan</translation>
+        <translation>Fabrika</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1376,7 @@ Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset baca�
         <translation>JSON DOSYASI HATALI</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>JSON nesnesi değil</translation>
     </message>
 </context>
@@ -695,7 +1455,7 @@ Kurtarmak için: bu aile için yüksek gerilimli UPDI desteği olan, reset baca�
     </message>
     <message>
         <source>Reading would replace this file:</source>
-        <translation>Okunan veriler bu dosyanın üzerine yazılacak:</translation>
+        <translation>Okuma yapılırsa bu dosyanın üzerine yazılır:</translation>
     </message>
     <message>
         <source>%1 bytes of data</source>
@@ -874,7 +1634,7 @@ Fuse bitleri başarıyla doğrulandı.</translation>
     </message>
     <message>
         <source>profile changed since it was loaded</source>
-        <translation>yüklenen profil değişti</translation>
+        <translation>profil sonradan değişti</translation>
     </message>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
@@ -919,7 +1679,7 @@ Fuse bitleri başarıyla doğrulandı.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Fuse baytları veri sayfasındaki varsayılan değerlere ayarlandı.</translation>
+Pencereye fabrika değerleri yerleştirildi. Çip değişmedi.</translation>
     </message>
 </context>
 <context>
@@ -1268,7 +2028,7 @@ Yine de silinsin mi?</translation>
     <name>QWidgetTextControl</name>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation>&amp;Bağlantı adresini kopyala</translation>
+        <translation>&amp;Web bağlantısı adresini kopyala</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +2185,7 @@ Open download page?</source>
     </message>
     <message>
         <source>Could not open the link.</source>
-        <translation>Bağlantı açılamadı.</translation>
+        <translation>Web bağlantısı açılamadı.</translation>
     </message>
 </context>
 </TS>
