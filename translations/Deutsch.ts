@@ -1,7 +1,8 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Begriffe: Fuse-Bit, Fuse-Byte und Lock-Bit bleiben, wie es unter Elektronikern üblich ist; Kalibrierbyte; Tempo für
-     die Geschwindigkeit des Programmers, Takt nur für den des Chips; der Programmer bleibt ebenfalls. -->
+     die Geschwindigkeit des Programmers, Takt nur für den des Chips; der Programmer bleibt ebenfalls; Boot-Bereich,
+     Applikationsbereich; Anlauf; ab Werk, Werkswert, Werkseinstellung; Dezimalpunkte wie im Datenblatt. -->
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -486,7 +487,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Ohne seinen Quarz antwortet der Chip danach nicht mehr, mit ihm nur noch bei einem Tempo unter 8 kHz (mit CKDIV8 unter 1 kHz).
-Der Weg zurück: einen Quarz mit 32,768 kHz anschließen oder einen Takt an den Takteingang anlegen, dann ein niedrigeres Tempo wählen; oder einen Hochvolt-Programmer benutzen.</translation>
+Der Weg zurück: einen Quarz mit 32.768 kHz anschließen oder einen Takt an den Takteingang anlegen, dann ein niedrigeres Tempo wählen; oder einen Hochvolt-Programmer benutzen.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -501,22 +502,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 Der Weg zurück: einen Takt an den Takteingang anlegen (ein Quarz hilft nur, wenn die Einstellung einen nennt) oder einen Hochvolt-Programmer benutzen.</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Ein Programmer kann den Chip danach nicht mehr lesen oder beschreiben.
-Der Weg zurück: alles löschen.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Ein Programmer kann den Chip danach nicht mehr beschreiben.
-Der Weg zurück: alles löschen.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Der UPDI-Pin bekommt eine andere Aufgabe: Ein gewöhnlicher UPDI-Programmer erreicht den Chip danach nicht mehr.
 Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den Reset-Pin etwas mehr als die Versorgungsspannung anlegt. 12 V zerstören diesen Pin.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Ein Programmer kann den Chip danach weder lesen noch beschreiben.
+Der Weg zurück: „Alles löschen“.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Ein Programmer kann den Chip danach nicht mehr beschreiben.
+Der Weg zurück: „Alles löschen“.</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 Bytes (%2 Wörter)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 Bytes (%2 Wörter), ab Byte-Adresse %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 Takte</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 Takte + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 Takte, nach einem Reset %2 Takte + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, wenn der Reset-Pin ein gewöhnlicher Pin oder der Reset-Eingang ist</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Boot-Lock-Bits des Applikationsbereichs</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Boot-Lock-Bits des Applikationstabellen-Bereichs</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Boot-Lock-Bits des Boot-Bereichs</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>BOOTROW beim Löschen des Chips</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Brown-out-Detektor</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Brown-out-Detektor im Power-down-Modus</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Brown-out-Detektor im Schlafmodus</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Brown-out-Detektor im Betrieb</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Brown-out-Schwelle</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Kalibrierung des internen Oszillators</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Prüfung (CRC) des Boot-Bereichs beim Start: Schlägt sie fehl, startet das Programm nicht</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Erkennung von Taktausfällen</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Taktausgabe</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Taktquelle</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Taktquelle und Anlaufzeit</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Taktquelle beim Start</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Geschlossener Teil des Watchdog-Fensters</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Kompatibilität mit AT90S4414 und AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Kompatibilität mit AT90S4434 und AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Kompatibilität mit ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Kompatibilität mit ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Stromsenke des USB-Spannungsreglers</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Debuggen über den Reset-Pin (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Erholung aus tiefer Unterspannung (DUVR) nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Teilung des Takts beim Start</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM beim Löschen des Chips</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Ende des Applikationscode-Bereichs, in Blöcken</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Ende des Applikationscode-Bereichs, wo der Datenbereich beginnt</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Ende des Boot-Bereichs</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Ende des Boot-Bereichs, in Blöcken</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Prüfung (CRC) des Flash beim Start: Schlägt sie fehl, startet das Programm nicht</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Für Tests im Werk</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Frequenz des internen Oszillators</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Frequenz des Ultra-Low-Power-Oszillators (ULP)</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Interne Kondensatoren an den Quarz-Pins</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>JTAG-Schnittstelle</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>JTAG-Benutzerkennung</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Pegel, auf den ein Reset die PSC-Ausgänge A zwingt</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Pegel, auf den ein Reset die PSC-Ausgänge B zwingt</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Pegel, auf den ein Reset die PSC-Ausgänge zwingt</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Lock-Bits</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Verfahren der Flash-Prüfung beim Start</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Überwachung des Prozessors</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Überwachung des Watchdogs</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Debuggen auf dem Chip (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Oszillatoroption</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Ausgang A des Timers TCD0 nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Ausgang A des Timers TCD0 an seinem Pin nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Ausgang B des Timers TCD0 nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Ausgang B des Timers TCD0 an seinem Pin nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Ausgang C des Timers TCD0 nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Ausgang C des Timers TCD0 an seinem Pin nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Ausgang D des Timers TCD0 nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Ausgang D des Timers TCD0 an seinem Pin nach einem Reset</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL vom Quarzoszillator</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL vom Quarzoszillator, geteilt durch %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL vom externen Takt</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL vom externen Takt, geteilt durch %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL vom internen Oszillator %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL vom internen Oszillator %1 MHz, geteilt durch %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>PSC-Ausgänge bei einem Reset</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>PSC0-Ausgänge bei einem Reset</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>PSC1-Ausgänge bei einem Reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>PSC2-Ausgänge %1 und %2 bei einem Reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>PSC2-Ausgänge bei einem Reset</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Pins des Timer-Quarzes mit %1 kHz</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Reset- und UPDI-Pin</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Reset-Pin</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Abtastung des Brown-out-Detektors</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Serielle Programmierung (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Größe des Boot-Bereichs</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Besonderes Verhalten der PSC-Eingänge bei einem Reset</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Start des Boot-Bereichs durch den Pin HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Start des Programms nach einem Reset</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Anlaufzeit</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Versorgung der Multi-Voltage-Pins (MVIO)</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Wartezeit nach dem Einschalten, in der das Schreiben gesperrt ist</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>UPDI-Pin</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, mit dem Reset-Eingang an einem anderen Pin</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Einstellungen des Watchdogs</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Ablaufzeit des Watchdogs</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Schreiben des Flash durch das Programm (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>eigene Spannung</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>nach %1 Bytes</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>immer an</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>wie ausgeliefert</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>wie gewöhnliche Pins</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>wie vom Programm eingestellt</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>an Adresse %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>am Anfang des Boot-Bereichs</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>am Ende des Flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>Boot- und Applikationscode-Bereich</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>Boot-Bereich</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>mit Brown-out-Detektor</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>Kondensatoren bei Quarzen mit %1 kHz und externem RC-Glied</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>Keramikresonator</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>Keramikresonator %1 bis %2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>Keramikresonator %1 bis %2 MHz (CKOPT %3: auch Quarz, ab %4 MHz)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>Keramikresonator ab %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>Keramikresonator oder externer Takt</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>Quarz oder Keramikresonator</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>Quarz oder Keramikresonator %1 bis %2 MHz (CKOPT %3: ab %4 MHz)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>Quarz oder Keramikresonator, hohe Frequenz</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>Quarz oder Keramikresonator, niedrige Frequenz</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>Quarz oder Keramikresonator, mittlere Frequenz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>Quarzoszillator</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>Quarzoszillator %1 bis %2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>Quarzoszillator ab %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>geteilt durch %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>wird mit gelöscht</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>externer RC-Oszillator</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>externer RC-Oszillator %1 bis %2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>externer RC-Oszillator bis %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>externer Takt</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>schnell steigende Versorgung</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>auf einen Pegel gezwungen</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>voller Hub (Full Swing), den Quarze über %1 MHz brauchen</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>Full-Swing-Oszillator %1 bis %2 MHz (Versorgung über %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>High-Pegel</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>interner Oszillator %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>interne Kondensatoren</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>interner Hochfrequenzoszillator</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>interner Oszillator</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>interner Oszillator %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>interner Oszillator %1 MHz, geteilt durch %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>interner Oszillator %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>interner Ultra-Low-Power-Oszillator (ULP) %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>bleibt erhalten</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>bleibt erhalten, außer wenn der Chip gesperrt ist</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>bleibt erhalten, auch wenn der Chip gesperrt ist</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>Änderung gesperrt</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>Schreiben gesperrt</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>Schreiben und Lesen gesperrt</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>lang</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>langer Anlauf</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>Low-Pegel</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>Niederfrequenzquarz (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>Schreiben durch Programme gesperrt</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>Schreiben durch Programme gesperrt, ebenso Lesen durch Programme im Applikationsbereich</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>Schreiben durch Programme gesperrt, ebenso Lesen durch Programme im Boot-Bereich</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>Lesen durch Programme im Applikationsbereich gesperrt</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>Lesen durch Programme im Boot-Bereich gesperrt</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>kein Reset-Eingang</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>keine Einschränkung</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>nicht geteilt</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>nicht möglich</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>im Betrieb aus, beim Löschen des Chips %1 V</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>am zugehörigen Pin</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>an, und das Aufwachen wartet, bis der Detektor bereit ist</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>an, aber in den tiefen Schlafmodi aus</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>Änderung durch das Programm möglich</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>gewöhnlicher Pin</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>gewöhnlicher Pin, nur als Eingang</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>andere</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>möglich</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>reserviert</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>Reset-Eingang</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>im Abtastbetrieb</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>kurz</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>kurzer Anlauf</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>langsam steigende Versorgung</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>kleiner Hub, der Strom spart</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>Anlauf %1 Takt, nach einem Reset %2 Takte</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>Anlauf %1 Takte</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>Anlauf %1 Takte + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>Anlauf %1 Takte, nach einem Reset %2 Takte</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>Anlauf %1 Takte, nach einem Reset %2 Takte + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>wie der Chip</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>nötig für den internen Oszillator</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>der ganze Flash ist Boot-Bereich</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>die des Hauptquarzes</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>Transceiver-Oszillator</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>sehr kurzer Anlauf</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>Watchdog-Oszillator %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>wenn der Pin am Ende eines Resets auf Low liegt</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>ganzer Flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>mit internen Kondensatoren</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>ohne Wirkung, solange BOOTEND %1 ist</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>ohne Wirkung, solange BOOTSIZE %1 ist</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>ohne interne Kondensatoren</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1295,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Fuse-Bytes auf die Vorgabewerte gesetzt.</translation>
+        <translation>Werkswerte im Fenster eingesetzt. Der Chip ist unverändert.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1313,12 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
         <translation>Fuse-Bytes erfolgreich gelesen.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Nicht gelesen: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Die Fuse-Bytes trotzdem schreiben?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Nicht gelesen (angezeigt sind noch die alten Werte): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1337,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
     </message>
     <message>
         <source>Default</source>
-        <translation>Vorgabe</translation>
+        <translation>Ab Werk</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1377,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
         <translation>FEHLER IN DER JSON-DATEI</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>kein JSON-Objekt</translation>
     </message>
 </context>
@@ -644,7 +1405,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
     </message>
     <message>
         <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
-        <translation>Korvel kann im Ordner %1 nicht schreiben: Was Sie wählen, wird nicht behalten.</translation>
+        <translation>Korvel kann im Ordner %1 nicht schreiben: Was Sie wählen, wird nicht gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -734,7 +1495,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI für diese Familie, der an den
 - Set a lower speed (Port &amp; Speed)</source>
         <translation>Der Programmer hat keinen Mikrocontroller erkannt
 
-- Verbindungen und Versorgung prüfen
+- Verkabelung und Versorgung prüfen
 - Niedrigeres Tempo einstellen (Port &amp; Tempo)</translation>
     </message>
     <message>
@@ -919,7 +1680,7 @@ Fuse-Bits erfolgreich geprüft.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Fuse-Bytes auf die Vorgabewerte des Datenblatts gesetzt.</translation>
+Werkswerte der Fuse-Bytes im Fenster eingesetzt. Der Chip ist unverändert.</translation>
     </message>
 </context>
 <context>
