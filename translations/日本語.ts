@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- 用語：ヒューズビット（fuse bit）、ロックビット（lock bit）、校正バイト（calibration byte）、速度（bit clock）、書込器（programmer）。 -->
+<!-- 用語：ヒューズビット（fuse bit）、ロックビット（lock bit）、校正バイト（calibration byte）、速度（bit clock）、書込器（programmer）、工場出荷値（default、ボタンでは「出荷値」）、低電圧検出器（brown-out detector）、ブート領域（boot section）、水晶振動子（crystal）。名詞は「書込み」「読出し」「読込み」、動詞は「書き込む」「読み出す」。 -->
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
-        <translation>一覧にある、このボードのもう一方の項目を試してください。ブートローダによって速度が異なります。</translation>
+        <translation>一覧にある、このボードのもう一方の項目を試してください。ブートローダによって通信速度が異なります。</translation>
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
@@ -114,7 +114,7 @@
     </message>
     <message>
         <source>%1 is programmed by %2, and this programmer speaks %3.</source>
-        <translation>%1 への書き込みには %2 を使いますが、この書込器が対応するのは %3 です。</translation>
+        <translation>%1 への書込みには %2 を使いますが、この書込器が対応するのは %3 です。</translation>
     </message>
     <message>
         <source>Of the list there fit, among others: %1.</source>
@@ -157,7 +157,7 @@
     <name>Aftermath</name>
     <message>
         <source>Writing the flash failed.</source>
-        <translation>Flash の書き込みに失敗しました。</translation>
+        <translation>Flash の書込みに失敗しました。</translation>
     </message>
     <message>
         <source>Verifying the flash failed.</source>
@@ -165,11 +165,11 @@
     </message>
     <message>
         <source>Reading the flash failed.</source>
-        <translation>Flash の読み出しに失敗しました。</translation>
+        <translation>Flash の読出しに失敗しました。</translation>
     </message>
     <message>
         <source>Writing the EEPROM failed.</source>
-        <translation>EEPROM の書き込みに失敗しました。</translation>
+        <translation>EEPROM の書込みに失敗しました。</translation>
     </message>
     <message>
         <source>Verifying the EEPROM failed.</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Reading the EEPROM failed.</source>
-        <translation>EEPROM の読み出しに失敗しました。</translation>
+        <translation>EEPROM の読出しに失敗しました。</translation>
     </message>
     <message>
         <source>Writing the fuse bytes failed.</source>
-        <translation>ヒューズバイトの書き込みに失敗しました。</translation>
+        <translation>ヒューズバイトの書込みに失敗しました。</translation>
     </message>
     <message>
         <source>Verifying the fuse bytes failed.</source>
@@ -189,11 +189,11 @@
     </message>
     <message>
         <source>Reading the fuse bytes failed.</source>
-        <translation>ヒューズバイトの読み出しに失敗しました。</translation>
+        <translation>ヒューズバイトの読出しに失敗しました。</translation>
     </message>
     <message>
         <source>Reading the calibration byte failed.</source>
-        <translation>校正バイトの読み出しに失敗しました。</translation>
+        <translation>校正バイトの読出しに失敗しました。</translation>
     </message>
     <message>
         <source>Erasing the chip failed.</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
-        <translation>書き込みは始まっていました。チップにはファイルの一部だけが入っている可能性があります。</translation>
+        <translation>書込みは始まっていました。チップにはファイルの一部だけが入っている可能性があります。</translation>
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>書き込みは始まっていました。ヒューズバイトの一部だけが書き込まれている可能性があります。</translation>
+        <translation>書込みは始まっていました。ヒューズバイトの一部だけが書き込まれている可能性があります。</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>フォルダー %1 には何も見つかりません。</translation>
+        <translation>フォルダー %1 にファイルが見つかりません。</translation>
     </message>
     <message>
         <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
@@ -443,7 +443,7 @@ Do you want to go on all the same?</source>
     <name>FuseMeanings</name>
     <message>
         <source>Factory setting</source>
-        <translation>工場出荷時の設定</translation>
+        <translation>工場出荷値</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -500,22 +500,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 元に戻すには：クロックピンにクロックを入力するか（水晶振動子が役立つのは、設定に水晶振動子と示されている場合だけです）、高電圧書込器を使います。</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>書込器はチップの読み出しも書き込みもできなくなります。
-元に戻すには：全消去します。</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>書込器はチップに書き込めなくなります。
-元に戻すには：全消去します。</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>UPDI ピンの用途が変わり、通常の UPDI 書込器はチップにアクセスできなくなります。
 元に戻すには：このファミリーの高電圧 UPDI に対応し、リセットピンに電源電圧より少しだけ高い電圧をかける書込器を使います。12 V をかけるとリセットピンが壊れます。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>書込器でチップの読出しも書込みもできなくなります。
+元に戻すには：「全消去」を使います。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>書込器でチップに書き込めなくなります。
+元に戻すには：「全消去」を使います。</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 バイト（%2 ワード）</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 バイト（%2 ワード）、開始バイトアドレス %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 クロック</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 クロック + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 クロック、リセット後はさらに %2 クロック + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms（リセットピンが通常のピンまたはリセット入力の場合のみ）</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>アプリケーション領域のブートロックビット（BLB）</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>アプリケーションテーブル領域のブートロックビット（BLB）</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>ブート領域のブートロックビット（BLB）</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>チップ消去時のブート行（BOOTROW）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>低電圧検出器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>パワーダウン時の低電圧検出器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>スリープ時の低電圧検出器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>動作時の低電圧検出器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>低電圧検出レベル（BOD）</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>内蔵発振器の校正値</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>起動時のブート領域の CRC 検査：不合格ならプログラムは起動しません</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>クロック障害検出</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>クロック出力</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>クロック源</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>クロック源と起動時間</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>起動時のクロック源</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>ウォッチドッグウィンドウのクリア禁止期間</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>AT90S4414・AT90S8515 互換モード</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>AT90S4434・AT90S8535 互換モード</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>ATmega103 互換モード</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>ATmega161 互換モード</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>USB 電圧レギュレータの電流シンク</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>リセットピンによるデバッグ（debugWIRE）</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>リセット後の深い低電圧状態からの回復</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>起動時のクロック分周</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>チップ消去時の EEPROM</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>アプリケーションコード領域の終わり（ブロック単位）</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>アプリケーションコード領域の終わり（以降はデータ領域）</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>ブート領域の終わり</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>ブート領域の終わり（ブロック単位）</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>起動時の Flash の CRC 検査：不合格ならプログラムは起動しません</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>工場での試験用</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>内蔵発振器の周波数</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>超低消費電力発振器の周波数</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>水晶振動子ピンの内蔵コンデンサ</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>JTAG インターフェース</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>JTAG ユーザー ID</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>リセット時に強制する PSC 出力 A のレベル</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>リセット時に強制する PSC 出力 B のレベル</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>リセット時に強制する PSC 出力のレベル</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>ロックビット</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>起動時の Flash の検査方式</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>プロセッサの監視</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>ウォッチドッグの監視</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>オンチップデバッグ（OCD）</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>発振器オプション</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 A</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 A のピン接続</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 B</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 B のピン接続</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 C</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 C のピン接続</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 D</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>リセット後のタイマ TCD0 の出力 D のピン接続</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL（入力：水晶振動子）</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL（入力：水晶振動子）、%1 分周</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL（入力：外部クロック）</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL（入力：外部クロック）、%1 分周</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL（入力：内蔵発振器 %1 MHz）</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL（入力：内蔵発振器 %1 MHz）、%2 分周</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>リセット時の PSC 出力</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>リセット時の PSC0 出力</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>リセット時の PSC1 出力</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>リセット時の PSC2 出力 %1 と %2</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>リセット時の PSC2 出力</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>タイマの %1 kHz 水晶振動子のピン</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>リセット/UPDI ピン</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>リセットピン</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>低電圧検出器（BOD）のサンプリング周波数</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>シリアル書込み（ISP）</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>ブート領域の大きさ</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>リセット時の PSC 入力の特殊動作</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>HWB ピンによるブート領域の起動</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>リセット後のプログラム開始位置</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>起動時間</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>多電圧ピン（MVIO）の電源</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>電源投入後の書込み禁止時間</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>UPDI ピン</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI、リセット入力は別のピン</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>ウォッチドッグ</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>ウォッチドッグの設定</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>ウォッチドッグのタイムアウト</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>プログラムによる Flash への書込み（SPM）</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>専用の電源</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>%1 バイトの後</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>常に有効</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>工場出荷値</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>通常のピンとして動作</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>プログラムで設定</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>アドレス %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>ブート領域の先頭</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>Flash の末尾</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>ブート領域とアプリケーションコード領域</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>ブート領域</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>低電圧検出器（BOD）有効</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>%1 kHz 水晶振動子や外部 RC では内蔵コンデンサを使用</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>セラミック振動子</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>セラミック振動子 %1～%2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>セラミック振動子 %1～%2 MHz（CKOPT が %3 なら水晶振動子も可、%4 MHz 以上）</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>セラミック振動子 %1 MHz 以上</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>セラミック振動子または外部クロック</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>水晶振動子またはセラミック振動子</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>水晶振動子またはセラミック振動子 %1～%2 MHz（CKOPT が %3 なら %4 MHz 以上）</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>水晶振動子またはセラミック振動子（高周波数）</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>水晶振動子またはセラミック振動子（低周波数）</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>水晶振動子またはセラミック振動子（中周波数）</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>水晶振動子</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>水晶振動子 %1～%2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>水晶振動子 %1 MHz 以上</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>%1 分周</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>一緒に消去</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>外部 RC 発振器</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>外部 RC 発振器 %1～%2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>外部 RC 発振器 %1 MHz 以下</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>外部クロック</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>電源の立ち上がりが速い</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>一定のレベルに強制</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>フルスイング、%1 MHz を超える水晶振動子に必要</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>フルスイング水晶振動子 %1～%2 MHz（電源電圧 %3 V 超）</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>内蔵 %1 kHz 発振器</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>内蔵コンデンサ使用</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>内蔵高周波発振器</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>内蔵発振器</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>内蔵発振器 %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>内蔵発振器 %1 MHz、%2 分周</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>内蔵発振器 %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>内蔵超低消費電力発振器 %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>保持、ただしチップがロックされていれば消去</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>チップがロックされていても保持</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>書込み禁止</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>書込みと読出しを禁止</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>長い</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>起動時間が長い</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>低周波水晶振動子（%1 kHz）</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>どのプログラムもこの領域に書き込めない</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>どのプログラムもこの領域に書き込めず、アプリケーション領域のプログラムはこの領域を読み出せない</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>どのプログラムもこの領域に書き込めず、ブート領域のプログラムはこの領域を読み出せない</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>アプリケーション領域のプログラムはこの領域を読み出せない</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>ブート領域のプログラムはこの領域を読み出せない</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>リセット入力なし</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>制限なし</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>分周なし</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>不可</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>動作時は無効、チップ消去中は %1 V</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>ピンに出力</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>有効、復帰時は準備完了まで待つ</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>有効、ただし深いスリープでは無効</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>ロックなし</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>プログラムで変更可</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>通常のピン</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>通常のピン（入力専用）</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>別のピン</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>可</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>予約済み</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>リセット入力</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>サンプリング動作</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>短い</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>起動時間が短い</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>電源の立ち上がりが遅い</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>小振幅、省電力</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>起動 %1 クロック、リセット後はさらに %2 クロック</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>起動 %1 クロック</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>起動 %1 クロック + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>起動 %1 クロック、リセット後はさらに %2 クロック</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>起動 %1 クロック、リセット後はさらに %2 クロック + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>チップと共通の電源</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>内蔵発振器ではこちらが必要</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>Flash 全体がブート領域</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>主水晶振動子のピン</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>トランシーバの発振器</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>起動時間がごく短い</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>ウォッチドッグ発振器 %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>リセット終了時にピンが Low なら起動</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>Flash 全体</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>内蔵コンデンサ使用</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>BOOTEND が %1 の間は効果なし</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>BOOTSIZE が %1 の間は効果なし</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>内蔵コンデンサ不使用</translation>
     </message>
 </context>
 <context>
@@ -533,7 +1293,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>ヒューズバイトを既定値に設定しました。</translation>
+        <translation>画面に工場出荷値を設定しました。チップは変わっていません。</translation>
     </message>
 </context>
 <context>
@@ -551,12 +1311,12 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>ヒューズバイトを読み出しました。</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>読み出せなかったもの：%1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>それでもヒューズバイトを書き込みますか？</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>読み出していないもの（以前の値を表示しています）：%1</translation>
     </message>
 </context>
 <context>
@@ -575,7 +1335,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>Default</source>
-        <translation>既定値</translation>
+        <translation>出荷値</translation>
     </message>
 </context>
 <context>
@@ -615,7 +1375,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>JSON ファイルエラー</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>JSON オブジェクトではありません</translation>
     </message>
 </context>
@@ -740,7 +1500,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>内容を読み出せませんでした
-チップが空か、読み出し保護されています（ロックビットが設定済み）。</translation>
+チップが空か、読出し保護されています（ロックビットが設定済み）。</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
@@ -873,7 +1633,7 @@ Fuse bits verify successfully.</source>
     </message>
     <message>
         <source>profile changed since it was loaded</source>
-        <translation>プロファイル読込み後に変更あり</translation>
+        <translation>読込み後に設定変更あり</translation>
     </message>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
@@ -885,7 +1645,7 @@ Fuse bits verify successfully.</source>
     </message>
     <message>
         <source>With this profile no box tells of a board that is good.</source>
-        <translation>このプロファイルでは、基板への書き込みが成功してもダイアログを表示しません。</translation>
+        <translation>このプロファイルでは、基板への書込みが成功してもダイアログを表示しません。</translation>
     </message>
     <message>
         <source>number %1</source>
@@ -918,7 +1678,7 @@ Fuse bits verify successfully.</source>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>。
-ヒューズバイトをデータシートの既定値に設定しました。</translation>
+画面に工場出荷値を設定しました。チップは変わっていません。</translation>
     </message>
 </context>
 <context>
@@ -1073,7 +1833,7 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>&apos;%1&apos; is write protected.
 Do you want to delete it anyway?</source>
-        <translation>「%1」は書き込み禁止です。
+        <translation>「%1」は書込み禁止です。
 それでも削除しますか？</translation>
     </message>
     <message>
@@ -1282,11 +2042,11 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Writing</source>
-        <translation>書き込み中</translation>
+        <translation>書込み中</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation>読み出し中</translation>
+        <translation>読出し中</translation>
     </message>
     <message>
         <source>Verifying</source>
@@ -1347,7 +2107,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>フォルダー %1 には何も見つかりません。</translation>
+        <translation>フォルダー %1 にファイルが見つかりません。</translation>
     </message>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
@@ -1355,7 +2115,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Until you choose a speed, that of the settings is used: %1</source>
-        <translation>速度を選択するまでは、設定の速度を使用します: %1</translation>
+        <translation>速度を選択するまでは、設定の速度を使用します：%1</translation>
     </message>
 </context>
 <context>
