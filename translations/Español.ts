@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Puede que los fusibles del chip den otra función al pin UPDI: un programador con UPDI de alto voltaje lo recupera.</translation>
+        <translation>Puede que los fusibles del chip den otra función al pin UPDI: un programador con UPDI de alta tensión lo recupera.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
@@ -449,44 +449,44 @@ Do you want to go on all the same?</source>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
-        <translation>Este ajuste está reservado: puede que el chip ya no responda.
-Para recuperarlo: un programador de alto voltaje.</translation>
+        <translation>Este ajuste está reservado: puede que el chip deje de responder.
+Para recuperarlo: un programador de alta tensión.</translation>
     </message>
     <message>
         <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>El pin de reset pasa a ser un pin normal: un programador ISP o TPI ya no podrá acceder al chip.
-Para recuperarlo: un programador de alto voltaje.</translation>
+        <translation>El pin de reset pasará a ser un pin normal: un programador ISP o TPI ya no podrá acceder al chip.
+Para recuperarlo: un programador de alta tensión.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>El pin de reset pasa a ser del depurador: un programador ISP ya no podrá acceder al chip.
-Para recuperarlo: un depurador con debugWIRE o un programador de alto voltaje.</translation>
+        <translation>El pin de reset pasará a ser del depurador: un programador ISP ya no podrá acceder al chip.
+Para recuperarlo: un depurador con debugWIRE o un programador de alta tensión.</translation>
     </message>
     <message>
         <source>An ISP programmer will no longer be able to reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
         <translation>Un programador ISP ya no podrá acceder al chip.
-Para recuperarlo: JTAG, si el chip lo tiene, o un programador de alto voltaje.</translation>
+Para recuperarlo: JTAG, si el chip lo tiene, o un programador de alta tensión.</translation>
     </message>
     <message>
         <source>A JTAG programmer will no longer be able to reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
         <translation>Un programador JTAG ya no podrá acceder al chip.
-Para recuperarlo: ISP (PDI en un ATxmega) o un programador de alto voltaje.</translation>
+Para recuperarlo: ISP (PDI en un ATxmega) o un programador de alta tensión.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
-Para recuperarlo: un programador con UPDI de alto voltaje.</translation>
+        <translation>El pin UPDI pasará a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
+Para recuperarlo: un programador con UPDI de alta tensión.</translation>
     </message>
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Sin su cristal el chip no responderá, y con él solo a una velocidad menor que 8 kHz (1 kHz con CKDIV8).
-Para recuperarlo: conecte un cristal de 32,768 kHz o aplique una señal de reloj a su pin de reloj, y luego elija una velocidad menor; o use un programador de alto voltaje.</translation>
+Para recuperarlo: conecte un cristal de 32.768 kHz o aplique una señal de reloj a su pin de reloj, y luego elija una velocidad menor; o use un programador de alta tensión.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -498,25 +498,785 @@ Para recuperarlo: elija una velocidad menor.</translation>
         <source>Without this clock on its pins the chip will not answer.
 The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
         <translation>Sin este reloj en sus pines el chip no responderá.
-Para recuperarlo: aplique una señal de reloj a su pin de reloj (un cristal solo sirve si el ajuste menciona uno), o use un programador de alto voltaje.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programador ya no podrá leer ni grabar el chip.
-Para recuperarlo: bórrelo todo.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programador ya no podrá grabar el chip.
-Para recuperarlo: bórrelo todo.</translation>
+Para recuperarlo: aplique una señal de reloj a su pin de reloj (un cristal solo sirve si el ajuste menciona uno), o use un programador de alta tensión.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
-        <translation>El pin UPDI pasa a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
-Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que aplica al pin de reset una tensión algo mayor que la de alimentación. 12 V destruyen ese pin.</translation>
+        <translation>El pin UPDI pasará a tener otra función: un programador UPDI normal ya no podrá acceder al chip.
+Para recuperarlo: un programador con UPDI de alta tensión para esta familia, que aplica al pin de reset una tensión algo mayor que la de alimentación. 12 V destruyen ese pin.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Un programador ya no podrá leer el chip ni grabarlo.
+Para recuperarlo: «Borrar todo».</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Un programador ya no podrá grabar el chip.
+Para recuperarlo: «Borrar todo».</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 bytes (%2 palabras)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 bytes (%2 palabras), desde la dirección de byte %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 ciclos de reloj</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 ciclos de reloj + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 ciclos de reloj, tras un reset %2 ciclos + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, si el pin de reset es un pin normal o la entrada de reset</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Bits de bloqueo (BLB) de la sección de aplicación</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Bits de bloqueo (BLB) de la sección de tabla de la aplicación</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Bits de bloqueo (BLB) de la sección boot</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Memoria BOOTROW al borrar el chip</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Detector de brown-out</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Detector de brown-out en el modo power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Detector de brown-out en reposo</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Detector de brown-out en funcionamiento</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Nivel de brown-out</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Calibración del oscilador interno</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Comprobación (CRC) de la sección boot al arrancar: si falla, el programa no arranca</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Detección de fallo del reloj</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Salida de reloj</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Fuente de reloj</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Fuente de reloj y tiempo de arranque</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Fuente de reloj al arrancar</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Parte cerrada de la ventana del watchdog</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Compatibilidad con AT90S4414 y AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Compatibilidad con AT90S4434 y AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Compatibilidad con ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Compatibilidad con ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Absorción de corriente (sink) del regulador de tensión USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Depuración por el pin de reset (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Recuperación de subtensión profunda (DUVR) tras un reset</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>División del reloj al arrancar</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM al borrar el chip</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Final de la sección de código de aplicación, en bloques</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Final de la sección de código de aplicación, donde empieza la sección de datos</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Final de la sección boot</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Final de la sección boot, en bloques</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Comprobación (CRC) de la flash al arrancar: si falla, el programa no arranca</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Para pruebas en fábrica</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Frecuencia del oscilador interno</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Frecuencia del oscilador de ultrabajo consumo</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Condensadores internos en los pines del cristal</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Interfaz JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Identificación de usuario JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Nivel que un reset fuerza en las salidas A del PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Nivel que un reset fuerza en las salidas B del PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Nivel que un reset fuerza en las salidas del PSC</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Bits de bloqueo</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Método de comprobación de la flash al arrancar</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Supervisión del procesador</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Supervisión del watchdog</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Depuración en el chip (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Opción del oscilador</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Salida A del temporizador TCD0 tras un reset</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Salida A del temporizador TCD0 en su pin tras un reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Salida B del temporizador TCD0 tras un reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Salida B del temporizador TCD0 en su pin tras un reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Salida C del temporizador TCD0 tras un reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Salida C del temporizador TCD0 en su pin tras un reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Salida D del temporizador TCD0 tras un reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Salida D del temporizador TCD0 en su pin tras un reset</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL a partir del oscilador de cristal</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL a partir del oscilador de cristal, dividido entre %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL a partir del reloj externo</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL a partir del reloj externo, dividido entre %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL a partir del oscilador interno de %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL a partir del oscilador interno de %1 MHz, dividido entre %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Salidas del PSC durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Salidas del PSC0 durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Salidas del PSC1 durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Salidas %1 y %2 del PSC2 durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Salidas del PSC2 durante un reset</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Pines del cristal de %1 kHz del temporizador</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Pin de reset y UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Pin de reset</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Muestreo del detector de brown-out</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Programación en serie (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Tamaño de la sección boot</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Comportamiento especial de las entradas del PSC durante un reset</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Inicio de la sección boot con el pin HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Inicio del programa tras un reset</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Tiempo de arranque</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Alimentación de los pines multitensión (MVIO)</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Espera tras el encendido que impide grabar</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Pin UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, y la entrada de reset en otro pin</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Ajustes del watchdog</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Tiempo límite del watchdog</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Grabación de la flash por el programa (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>una tensión propia</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>tras %1 bytes</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>sí, siempre</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>de fábrica</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>como pines normales</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>según lo configure el programa</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>en la dirección %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>en la sección boot</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>al final de la flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>secciones boot y de código de aplicación</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>sección boot</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>con detector de brown-out</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>condensadores internos con cristales de %1 kHz y con RC externo</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>resonador cerámico</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>resonador cerámico de %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>resonador cerámico de %1 a %2 MHz (con CKOPT %3: también cristal, %4 MHz o más)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>resonador cerámico desde %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>resonador cerámico o reloj externo</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>cristal o resonador cerámico</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>cristal o resonador cerámico de %1 a %2 MHz (con CKOPT %3: %4 MHz o más)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>cristal o resonador cerámico, alta frecuencia</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>cristal o resonador cerámico, baja frecuencia</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>cristal o resonador cerámico, frecuencia media</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>oscilador de cristal</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>oscilador de cristal de %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>oscilador de cristal desde %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>entre %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>se borra también</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>oscilador RC externo</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>oscilador RC externo de %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>oscilador RC externo hasta %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>reloj externo</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>alimentación de subida rápida</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>con nivel forzado</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>amplitud completa, necesaria para cristales de más de %1 MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>oscilador de amplitud completa de %1 a %2 MHz (alimentación superior a %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>nivel alto</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>oscilador interno de %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>condensadores internos</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>oscilador interno de alta frecuencia</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>oscilador interno</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>oscilador interno de %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>oscilador interno de %1 MHz dividido entre %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>oscilador interno de %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>oscilador interno de ultrabajo consumo de %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>se conserva</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>se conserva, pero no si el chip está bloqueado</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>se conserva, aunque el chip esté bloqueado</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>con bloqueo</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>grabación bloqueada</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>grabación y lectura bloqueadas</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>tiempo largo</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>arranque largo</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>nivel bajo</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>cristal de baja frecuencia (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>ningún programa puede grabar esta sección</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>ningún programa puede grabar esta sección, y ninguno de la sección de aplicación puede leerla</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>ningún programa puede grabar esta sección, y ninguno de la sección boot puede leerla</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>ningún programa de la sección de aplicación puede leer esta sección</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>ningún programa de la sección boot puede leer esta sección</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>sin entrada de reset</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>sin restricciones</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>sin división</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>no posible</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>sin efecto en funcionamiento, %1 V mientras se borra el chip</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>en su pin</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>sí, y al despertar se espera a que esté listo</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>sí, salvo en los modos de reposo profundo</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>sin bloqueo</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>el programa puede hacer cambios</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>pin normal</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>pin normal, solo como entrada</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>otros</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>posible</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>valor reservado</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>entrada de reset</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>por muestreo</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>tiempo corto</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>arranque corto</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>alimentación de subida lenta</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>amplitud reducida, que ahorra energía</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>arranque: %1 ciclo, tras un reset %2 ciclos</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>arranque: %1 ciclos</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>arranque: %1 ciclos + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>arranque: %1 ciclos, tras un reset %2 ciclos</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>arranque: %1 ciclos, tras un reset %2 ciclos + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>la tensión del chip</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>el oscilador interno lo requiere</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>toda la flash es sección boot</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>los del cristal principal</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>oscilador del transceptor</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>arranque muy corto</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>oscilador del watchdog de %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>si el pin está a nivel bajo al final de un reset</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>toda la flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>con condensadores internos</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>sin efecto mientras BOOTEND sea %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>sin efecto mientras BOOTSIZE sea %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>sin condensadores internos</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1294,7 @@ Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Bytes de fusibles restablecidos a los valores de fábrica.</translation>
+        <translation>Valores de fábrica puestos en la ventana. El chip no ha cambiado.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1312,12 @@ Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que
         <translation>Bytes de fusibles leídos correctamente.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>No leídos: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>¿Desea grabar los bytes de fusibles de todos modos?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>No leídos (se siguen mostrando los valores anteriores): %1</translation>
     </message>
 </context>
 <context>
@@ -598,7 +1358,7 @@ Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que
     <name>FusesTextView</name>
     <message>
         <source>not read from the chip</source>
-        <translation>no leídos del chip</translation>
+        <translation>chip no leído</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1376,7 @@ Para recuperarlo: un programador con UPDI de alto voltaje para esta familia, que
         <translation>ERROR EN EL ARCHIVO JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>no es un objeto JSON</translation>
     </message>
 </context>
@@ -919,7 +1679,7 @@ Fusibles verificados correctamente.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bytes de fusibles restablecidos a los valores de fábrica de la hoja de datos.</translation>
+Valores de fábrica puestos en la ventana. El chip no ha cambiado.</translation>
     </message>
 </context>
 <context>
