@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Se foi depois de gravar: verifique os contatos e a alimentação, e tente uma velocidade menor.</translation>
+        <translation>Se foi depois de “Gravar”: verifique os contatos e a alimentação, e tente uma velocidade menor.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -449,7 +449,7 @@ Deseja continuar mesmo assim?</translation>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
-        <translation>Este ajuste é reservado: o chip talvez não responda mais.
+        <translation>Este ajuste é reservado: o chip poderá não responder mais.
 Para recuperá-lo: um gravador de alta tensão.</translation>
     </message>
     <message>
@@ -486,7 +486,7 @@ Para recuperá-lo: um gravador com UPDI de alta tensão.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Sem o seu cristal o chip não responderá e, com ele, só a uma velocidade abaixo de 8 kHz (1 kHz com CKDIV8).
-Para recuperá-lo: conecte um cristal de 32,768 kHz, ou aplique um clock ao pino de clock do chip, e escolha uma velocidade menor; ou use um gravador de alta tensão.</translation>
+Para recuperá-lo: conecte um cristal de 32.768 kHz, ou aplique um clock ao pino de clock do chip, e escolha uma velocidade menor; ou use um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -501,22 +501,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 Para recuperá-lo: aplique um clock ao pino de clock do chip (um cristal só ajuda se o ajuste mencionar um) ou use um gravador de alta tensão.</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Um gravador não conseguirá mais ler nem gravar o chip.
-Para recuperá-lo: apague tudo.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Um gravador não conseguirá mais gravar o chip.
-Para recuperá-lo: apague tudo.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>O pino UPDI passará a ter outra função: um gravador UPDI comum não conseguirá mais acessar o chip.
 Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que aplica ao pino de reset uma tensão um pouco acima da alimentação. 12 V destroem esse pino.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Um gravador não conseguirá mais ler nem gravar o chip.
+Para recuperá-lo: “Apagar tudo”.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Um gravador não conseguirá mais gravar o chip.
+Para recuperá-lo: “Apagar tudo”.</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 bytes (%2 palavras)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 bytes (%2 palavras), a partir do endereço de byte %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 ciclos de clock</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 ciclos de clock + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 ciclos de clock, após um reset %2 ciclos + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, se o pino de reset for um pino comum ou a entrada de reset</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Lock bits (BLB) da seção de aplicação</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Lock bits (BLB) da seção de tabela da aplicação</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Lock bits (BLB) da seção de boot</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Memória BOOTROW ao apagar o chip</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Detector de brown-out</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Detector de brown-out no modo power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Detector de brown-out em repouso</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Detector de brown-out em operação</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Nível de brown-out</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Calibração do oscilador interno</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Verificação (CRC) da seção de boot na partida: se falhar, o programa não inicia</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Detecção de falha do clock</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Saída de clock</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Fonte de clock</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Fonte de clock e tempo de partida</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Fonte de clock na partida</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Parte fechada da janela do watchdog</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Compatibilidade com AT90S4414 e AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Compatibilidade com AT90S4434 e AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Compatibilidade com ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Compatibilidade com ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Absorção de corrente (sink) do regulador de tensão USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Depuração pelo pino de reset (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Recuperação de subtensão profunda (DUVR) após um reset</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Divisão do clock na partida</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM ao apagar o chip</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Fim da seção de código da aplicação, em blocos</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Fim da seção de código da aplicação, onde começa a seção de dados</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Fim da seção de boot</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Fim da seção de boot, em blocos</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Verificação (CRC) da flash na partida: se falhar, o programa não inicia</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Para testes na fábrica</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Frequência do oscilador interno</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Frequência do oscilador de ultrabaixo consumo</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Capacitores internos nos pinos do cristal</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Interface JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Identificação de usuário JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Nível que um reset força nas saídas A do PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Nível que um reset força nas saídas B do PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Nível que um reset força nas saídas do PSC</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Lock bits</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Método de verificação da flash na partida</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Monitoramento do processador</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Monitoramento do watchdog</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Depuração no chip (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Opção do oscilador</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Saída A do timer TCD0 após um reset</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Saída A do timer TCD0 no seu pino após um reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Saída B do timer TCD0 após um reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Saída B do timer TCD0 no seu pino após um reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Saída C do timer TCD0 após um reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Saída C do timer TCD0 no seu pino após um reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Saída D do timer TCD0 após um reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Saída D do timer TCD0 no seu pino após um reset</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL a partir do oscilador a cristal</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL a partir do oscilador a cristal, dividido por %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL a partir do clock externo</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL a partir do clock externo, dividido por %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL a partir do oscilador interno de %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL a partir do oscilador interno de %1 MHz, dividido por %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Saídas do PSC durante um reset</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Saídas do PSC0 durante um reset</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Saídas do PSC1 durante um reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Saídas %1 e %2 do PSC2 durante um reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Saídas do PSC2 durante um reset</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Pinos do cristal de %1 kHz do timer</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Pino de reset e UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Pino de reset</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Amostragem do detector de brown-out</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Gravação serial (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Tamanho da seção de boot</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Comportamento especial das entradas do PSC durante um reset</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Início da seção de boot pelo pino HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Início do programa após um reset</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Tempo de partida</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Alimentação dos pinos multitensão (MVIO)</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Espera após a energização que impede gravar</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Pino UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, e a entrada de reset em outro pino</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Ajustes do watchdog</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Tempo limite do watchdog</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Gravação da flash pelo programa (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>uma tensão própria</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>após %1 bytes</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>sim, sempre</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>de fábrica</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>como pinos comuns</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>conforme o programa definir</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>no endereço %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>na seção de boot</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>no fim da flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>seções de boot e de código da aplicação</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>seção de boot</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>com detector de brown-out</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>capacitores internos com cristais de %1 kHz e com RC externo</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>ressonador cerâmico</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>ressonador cerâmico de %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>ressonador cerâmico de %1 a %2 MHz (com CKOPT %3: cristal também, %4 MHz ou mais)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>ressonador cerâmico a partir de %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>ressonador cerâmico ou clock externo</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>cristal ou ressonador cerâmico</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>cristal ou ressonador cerâmico de %1 a %2 MHz (com CKOPT %3: %4 MHz ou mais)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>cristal ou ressonador cerâmico, alta frequência</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>cristal ou ressonador cerâmico, baixa frequência</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>cristal ou ressonador cerâmico, média frequência</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>oscilador a cristal</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>oscilador a cristal de %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>oscilador a cristal a partir de %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>por %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>apaga-se também</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>oscilador RC externo</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>oscilador RC externo de %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>oscilador RC externo até %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>clock externo</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>alimentação de subida rápida</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>com nível forçado</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>amplitude total, necessária para cristais acima de %1 MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>oscilador de amplitude total de %1 a %2 MHz (alimentação acima de %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>nível alto</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>oscilador interno de %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>capacitores internos</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>oscilador interno de alta frequência</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>oscilador interno</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>oscilador interno de %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>oscilador interno de %1 MHz dividido por %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>oscilador interno de %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>oscilador interno de ultrabaixo consumo de %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>permanece</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>permanece, mas não se o chip estiver bloqueado</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>permanece, mesmo se o chip estiver bloqueado</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>com bloqueio</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>gravação bloqueada</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>gravação e leitura bloqueadas</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>tempo longo</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>partida longa</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>nível baixo</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>cristal de baixa frequência (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>nenhum programa pode gravar esta seção</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>nenhum programa pode gravar esta seção, e nenhum da seção de aplicação pode lê-la</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>nenhum programa pode gravar esta seção, e nenhum da seção de boot pode lê-la</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>nenhum programa da seção de aplicação pode ler esta seção</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>nenhum programa da seção de boot pode ler esta seção</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>sem entrada de reset</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>sem restrições</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>sem divisão</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>não possível</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>não</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>sem efeito em operação, %1 V enquanto o chip é apagado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>sim</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>no seu pino</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>sim, e ao despertar espera-se até ficar pronto</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>sim, exceto nos modos de repouso profundo</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>sem bloqueio</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>o programa pode fazer alterações</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>pino comum</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>pino comum, só como entrada</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>outros</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>possível</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>valor reservado</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>entrada de reset</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>por amostragem</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>tempo curto</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>partida curta</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>alimentação de subida lenta</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>amplitude reduzida, que poupa energia</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>partida: %1 ciclo, após um reset %2 ciclos</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>partida: %1 ciclos</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>partida: %1 ciclos + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>partida: %1 ciclos, após um reset %2 ciclos</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>partida: %1 ciclos, após um reset %2 ciclos + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>a tensão do chip</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>o oscilador interno exige isso</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>toda a flash é seção de boot</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>os do cristal principal</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>oscilador do transceptor</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>partida muito curta</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>oscilador do watchdog de %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>se o pino estiver em nível baixo no fim de um reset</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>toda a flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>com capacitores internos</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>sem efeito enquanto BOOTEND for %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>sem efeito enquanto BOOTSIZE for %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>sem capacitores internos</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1294,7 @@ Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que 
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Bytes de fuse restaurados para os valores padrão.</translation>
+        <translation>Valores de fábrica colocados na janela. O chip não mudou.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1312,12 @@ Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que 
         <translation>Bytes de fuse lidos com sucesso.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Não lidos: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Deseja gravar os bytes de fuse mesmo assim?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Não lidos (os valores anteriores continuam exibidos): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1336,7 @@ Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que 
     </message>
     <message>
         <source>Default</source>
-        <translation>Padrão</translation>
+        <translation>De fábrica</translation>
     </message>
 </context>
 <context>
@@ -598,7 +1358,7 @@ Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que 
     <name>FusesTextView</name>
     <message>
         <source>not read from the chip</source>
-        <translation>não lidos do chip</translation>
+        <translation>chip não lido</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1376,7 @@ Para recuperá-lo: um gravador com UPDI de alta tensão para esta família, que 
         <translation>ERRO NO ARQUIVO JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>não é um objeto JSON</translation>
     </message>
 </context>
@@ -919,7 +1679,7 @@ Fuse bits verificados com sucesso.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Bytes de fuse definidos com os valores padrão do datasheet.</translation>
+Valores de fábrica colocados na janela. O chip não mudou.</translation>
     </message>
 </context>
 <context>
@@ -1069,7 +1829,7 @@ Verifique o nome da pasta.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete &apos;%1&apos;?</source>
-        <translation>Excluir mesmo “%1”?</translation>
+        <translation>Deseja realmente excluir “%1”?</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is write protected.
