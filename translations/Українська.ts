@@ -1,7 +1,8 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Терміни: фʼюз-біти та фʼюз-байти, як заведено казати; біти захисту (lock bits), калібрувальний байт, швидкість
-     (bit clock); МК - мікроконтролер. -->
+     (bit clock); МК - мікроконтролер; детектор зниженого живлення BOD, сторожовий таймер (watchdog), секція
+     завантажувача (boot section), кварц, запуск (start-up), увімкнено та вимкнено. -->
 <TS version="2.1" language="uk_UA" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -83,7 +84,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Якщо це сталося після запису: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
+        <translation>Після «Записати»: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -95,7 +96,7 @@
     </message>
     <message>
         <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
-        <translation>МК заблоковано: «Стерти все» зніме захист, але знищить його вміст.</translation>
+        <translation>МК захищено: «Стерти все» зніме захист, але знищить його вміст.</translation>
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
@@ -135,7 +136,7 @@
     </message>
     <message>
         <source>Unplug the programmer and plug it in again, and close other programs that may use it.</source>
-        <translation>Відʼєднайте програматор, підʼєднайте його знову і закрийте інші програми, які можуть ним користуватися.</translation>
+        <translation>Відключіть програматор, підключіть його знову і закрийте інші програми, які можуть ним користуватися.</translation>
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
@@ -147,11 +148,11 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Можливо, фʼюз-біти МК надають виводу UPDI іншу функцію: відновити МК можна програматором із високовольтним UPDI.</translation>
+        <translation>Можливо, фʼюз-біти МК надають виводу UPDI іншу функцію: повернути доступ можна програматором із високовольтним UPDI.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
-        <translation>Можливо, МК заблоковано: з цим програматором захист не зніме жодна версія avrdude, а з SerialUPDI чи Atmel-ICE його зніме «Стерти все».</translation>
+        <translation>Можливо, МК захищено: з цим програматором захист не зніме жодна версія avrdude, а з SerialUPDI чи Atmel-ICE його зніме «Стерти все».</translation>
     </message>
 </context>
 <context>
@@ -206,7 +207,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may hold a part of the file.</source>
-        <translation>Запис уже почався: МК може містити частину файлу.</translation>
+        <translation>Запис уже почався: МК може містити лише частину файлу.</translation>
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
@@ -450,73 +451,833 @@ Do you want to go on all the same?</source>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Це налаштування зарезервоване: МК може більше не відповідати.
-Як відновити: високовольтним програматором.</translation>
+Як повернути доступ: високовольтним програматором.</translation>
     </message>
     <message>
         <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
 The way back: a high-voltage programmer.</source>
         <translation>Вивід скидання стане звичайним: програматор ISP або TPI втратить доступ до МК.
-Як відновити: високовольтним програматором.</translation>
+Як повернути доступ: високовольтним програматором.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
         <translation>Вивід скидання перейде до налагоджувача: програматор ISP втратить доступ до МК.
-Як відновити: налагоджувачем із debugWIRE або високовольтним програматором.</translation>
+Як повернути доступ: налагоджувачем із debugWIRE або високовольтним програматором.</translation>
     </message>
     <message>
         <source>An ISP programmer will no longer be able to reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
         <translation>Програматор ISP втратить доступ до МК.
-Як відновити: через JTAG, якщо він є в МК, або високовольтним програматором.</translation>
+Як повернути доступ: через JTAG, якщо він є в МК, або високовольтним програматором.</translation>
     </message>
     <message>
         <source>A JTAG programmer will no longer be able to reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
         <translation>Програматор JTAG втратить доступ до МК.
-Як відновити: через ISP (для ATxmega через PDI) або високовольтним програматором.</translation>
+Як повернути доступ: через ISP (для ATxmega через PDI) або високовольтним програматором.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
         <translation>Вивід UPDI отримає інше призначення: звичайний програматор UPDI втратить доступ до МК.
-Як відновити: програматором із високовольтним UPDI.</translation>
+Як повернути доступ: програматором із високовольтним UPDI.</translation>
     </message>
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Без свого кварцу МК не відповідатиме, а з ним відповідатиме лише на швидкості, нижчій за 8 kHz (1 kHz із CKDIV8).
-Як відновити: підключіть кварц на 32,768 kHz або подайте тактовий сигнал на тактовий вхід МК, а тоді виберіть меншу швидкість; або скористайтеся високовольтним програматором.</translation>
+Як повернути доступ: підключіть кварц на 32.768 kHz або подайте тактовий сигнал на тактовий вхід МК, а тоді виберіть меншу швидкість; або скористайтеся високовольтним програматором.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
         <translation>Такий повільний МК відповідатиме лише на швидкості, нижчій за чверть його тактової частоти.
-Як відновити: виберіть меншу швидкість.</translation>
+Як повернути доступ: виберіть меншу швидкість.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip will not answer.
 The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
         <translation>Без цього тактового сигналу на виводах МК не відповідатиме.
-Як відновити: подайте тактовий сигнал на тактовий вхід МК (кварц допоможе, лише якщо його названо в налаштуванні) або скористайтеся високовольтним програматором.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Програматор більше не зможе ні зчитувати МК, ні записувати в нього.
-Як відновити: зітріть усе.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Програматор більше не зможе записувати в МК.
-Як відновити: зітріть усе.</translation>
+Як повернути доступ: подайте тактовий сигнал на тактовий вхід МК (кварц допоможе, лише якщо його названо в налаштуванні) або скористайтеся високовольтним програматором.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Вивід UPDI отримає інше призначення: звичайний програматор UPDI втратить доступ до МК.
-Як відновити: програматором із високовольтним UPDI для цього сімейства, який подає на вивід скидання напругу, трохи вищу за напругу живлення. 12 V спалять цей вивід.</translation>
+Як повернути доступ: програматором із високовольтним UPDI для цього сімейства, який подає на вивід скидання напругу, трохи вищу за напругу живлення. 12 V спалять цей вивід.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Програматор більше не зможе ні зчитати вміст МК, ні записати в нього.
+Як повернути доступ: «Стерти все».</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Програматор більше не зможе записувати в МК.
+Як повернути доступ: «Стерти все».</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 Б (слів: %2)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 Б (слів: %2), з байтової адреси %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 тактів</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 тактів + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 тактів, після скидання ще %2 тактів + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, якщо вивід скидання — звичайний вивід або вхід скидання</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Біти захисту BLB секції застосунку</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Біти захисту BLB секції таблиць застосунку</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Біти захисту BLB секції завантажувача</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Boot Row під час стирання МК</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Детектор зниженого живлення BOD</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Детектор зниженого живлення BOD у режимі Power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Детектор зниженого живлення BOD у режимах сну</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Детектор зниженого живлення BOD в активному режимі</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Поріг детектора зниженого живлення BOD</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Калібрування внутрішнього генератора</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Перевірка секції завантажувача (CRC) під час запуску: якщо її не пройдено, програма не запуститься</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Виявлення збою тактового сигналу</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Вихід тактового сигналу</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Джерело тактування</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Джерело тактування та час запуску</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Джерело тактування під час запуску</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Закрита частина вікна сторожового таймера</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Сумісність з AT90S4414 і AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Сумісність з AT90S4434 і AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Сумісність з ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Сумісність з ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Приймання втічного струму стабілізатором напруги USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Налагодження через вивід скидання (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Відновлення за глибокого зниження напруги (DUVR) після скидання</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Дільник тактової частоти під час запуску</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM під час стирання МК</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Кінець секції коду застосунку, у блоках</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Кінець секції коду застосунку, за ним починається секція даних</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Кінець секції завантажувача</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Кінець секції завантажувача, у блоках</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Перевірка FLASH (CRC) під час запуску: якщо її не пройдено, програма не запуститься</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Для заводських випробувань</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Частота внутрішнього генератора</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Частота генератора з наднизьким споживанням</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Внутрішні конденсатори на виводах кварцу</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Інтерфейс JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Ідентифікатор користувача JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Примусовий стан виходів A модулів PSC під час скидання</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Примусовий стан виходів B модулів PSC під час скидання</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Примусовий стан виходів PSC під час скидання</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Біти захисту</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Метод перевірки FLASH під час запуску</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Монітор процесора</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Монітор сторожового таймера</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Внутрішньосхемне налагодження (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Режим генератора</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Вихід A таймера TCD0 після скидання</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Вихід A таймера TCD0 на своєму виводі після скидання</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Вихід B таймера TCD0 після скидання</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Вихід B таймера TCD0 на своєму виводі після скидання</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Вихід C таймера TCD0 після скидання</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Вихід C таймера TCD0 на своєму виводі після скидання</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Вихід D таймера TCD0 після скидання</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Вихід D таймера TCD0 на своєму виводі після скидання</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL від кварцового генератора</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL від кварцового генератора, поділ на %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL від зовнішнього тактового сигналу</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL від зовнішнього тактового сигналу, поділ на %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL від внутрішнього генератора %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL від внутрішнього генератора %1 MHz, поділ на %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Виходи PSC під час скидання</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Виходи PSC0 під час скидання</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Виходи PSC1 під час скидання</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Виходи %1 і %2 модуля PSC2 під час скидання</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Виходи PSC2 під час скидання</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Виводи для кварцу таймера %1 kHz</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Вивід скидання та UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Вивід скидання</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Частота періодичного опитування детектора BOD</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Послідовне програмування (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Розмір секції завантажувача</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Особлива поведінка входів PSC під час скидання</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Запуск секції завантажувача за виводом HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Початок програми після скидання</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Час запуску</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Живлення виводів MVIO</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Затримка після ввімкнення живлення, що блокує запис</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Вивід UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, вхід скидання на іншому виводі</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Налаштування сторожового таймера</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Тайм-аут сторожового таймера</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Запис FLASH програмою МК (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>окрема напруга</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>через %1 Б від початку памʼяті</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>завжди ввімкнено</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>як із заводу</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>як звичайні виводи</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>як задасть програма</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>з адреси %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>з початку секції завантажувача</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>у кінці FLASH</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>секції завантажувача та коду застосунку</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>секція завантажувача</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>BOD увімкнено</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>для кварцу %1 kHz і зовнішнього RC-кола — внутрішні конденсатори</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>керамічний резонатор</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>керамічний резонатор %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>керамічний резонатор %1–%2 MHz (якщо CKOPT = %3, то й кварц, від %4 MHz)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>керамічний резонатор від %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>керамічний резонатор або зовнішній тактовий сигнал</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>кварц або керамічний резонатор</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>кварц або керамічний резонатор %1–%2 MHz (якщо CKOPT = %3, то від %4 MHz)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>кварц або керамічний резонатор, висока частота</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>кварц або керамічний резонатор, низька частота</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>кварц або керамічний резонатор, середня частота</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>кварцовий генератор</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>кварцовий генератор %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>кварцовий генератор від %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>поділ на %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>теж стирається</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>зовнішнє RC-коло</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>зовнішнє RC-коло %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>зовнішнє RC-коло до %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>зовнішній тактовий сигнал</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>швидке наростання живлення</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>примусово заданий рівень</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>повний розмах, потрібен для кварців понад %1 MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>кварцовий генератор із повним розмахом %1–%2 MHz (живлення понад %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>високий рівень</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>внутрішній генератор %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>внутрішні конденсатори</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>внутрішній високочастотний генератор</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>внутрішній генератор</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>внутрішній генератор %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>внутрішній генератор %1 MHz із поділом на %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>внутрішній генератор %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>внутрішній генератор %1 kHz із наднизьким споживанням</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>зберігається</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>зберігається, якщо МК не захищено</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>зберігається, навіть якщо МК захищено</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>змінити не можна</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>запис заборонено</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>запис і зчитування заборонено</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>тривалий запуск</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>тривалий запуск</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>низький рівень</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>низькочастотний кварц (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>запис заборонено будь-якій програмі МК</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>запис заборонено будь-якій програмі МК, зчитування — програмі в секції застосунку</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>запис заборонено будь-якій програмі МК, зчитування — програмі в секції завантажувача</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>зчитування заборонено програмі в секції застосунку</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>зчитування заборонено програмі в секції завантажувача</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>без входу скидання</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>без обмежень</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>без поділу</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>заборонено</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>вимкнено</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>вимкнено під час роботи, %1 V під час стирання МК</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>увімкнено</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>на своєму виводі</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>увімкнено, пробудження чекає готовності BOD</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>увімкнено, але вимкнено в режимах глибокого сну</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>без захисту</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>програма може змінити</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>звичайний вивід</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>звичайний вивід, лише вхід</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>інші виводи</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>дозволено</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>зарезервовано</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>вхід скидання</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>періодичне опитування</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>короткий запуск</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>короткий запуск</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>повільне наростання живлення</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>малий розмах, заощаджує енергію</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>запуск %1 такт, після скидання ще %2 тактів</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>запуск %1 тактів</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>запуск %1 тактів + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>запуск %1 тактів, після скидання ще %2 тактів</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>запуск %1 тактів, після скидання ще %2 тактів + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>напруга живлення МК</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>потрібно для внутрішнього генератора</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>уся FLASH — секція завантажувача</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>виводи основного кварцу</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>генератор приймача-передавача</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>дуже короткий запуск</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>генератор сторожового таймера %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>якщо наприкінці скидання на виводі низький рівень</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>уся FLASH</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>із внутрішніми конденсаторами</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>не діє, поки BOOTEND = %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>не діє, поки BOOTSIZE = %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>без внутрішніх конденсаторів</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Сторожовий таймер</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1295,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Фʼюз-байтам надано типові значення.</translation>
+        <translation>У вікні виставлено заводські значення фʼюз-байтів. Сам МК не змінено.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1313,12 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>Фʼюз-байти успішно зчитано.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Не зчитано: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Усе одно записати фʼюз-байти?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Не зчитано (показано попередні значення): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1337,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>Default</source>
-        <translation>Типові</translation>
+        <translation>Заводські</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1377,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>ПОМИЛКА У ФАЙЛІ JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>не обʼєкт JSON</translation>
     </message>
 </context>
@@ -632,7 +1393,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>The file is kept as %1.</source>
-        <translation>Файл залишено як %1.</translation>
+        <translation>Файл збережено під назвою %1.</translation>
     </message>
     <message>
         <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
@@ -818,8 +1579,8 @@ Do you want to overwrite it?</source>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash успішно записано.
-Flash успішно перевірено.
+        <translation>FLASH успішно записано.
+FLASH успішно перевірено.
 </translation>
     </message>
     <message>
@@ -919,7 +1680,7 @@ Fuse bits verify successfully.</source>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Фʼюз-байтам надано типові значення з даташиту.</translation>
+У вікні виставлено заводські значення фʼюз-байтів. Сам МК не змінено.</translation>
     </message>
 </context>
 <context>
