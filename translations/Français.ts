@@ -1,7 +1,8 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Termes : fusibles et octets de fusibles (fuse bits), bits de verrouillage (lock bits), octet de calibration, vitesse
-     (bit clock). -->
+     (bit clock), section de boot, section d'application, brown-out, watchdog et reset tels quels; d'usine (factory);
+     oui et non pour on et off, qui vont à tous les genres; point décimal comme dans les fiches techniques. -->
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -23,7 +24,7 @@
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>Le programmateur est-il branché ? Essayez un autre câble et un autre port USB.</translation>
+        <translation>Le programmateur est-il branché&#xa0;? Essayez un autre câble et une autre prise USB.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
@@ -83,7 +84,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Si cela se produit après « Écrire » : vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
+        <translation>Si cela se produit après «&#xa0;Écrire&#xa0;»&#xa0;: vérifiez les contacts et l&apos;alimentation, et essayez une vitesse plus basse.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -95,7 +96,7 @@
     </message>
     <message>
         <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
-        <translation>La puce est verrouillée : « Tout effacer » la déverrouille, mais son contenu est perdu.</translation>
+        <translation>La puce est verrouillée&#xa0;: «&#xa0;Tout effacer&#xa0;» la déverrouille, mais son contenu est perdu.</translation>
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
@@ -123,7 +124,7 @@
     </message>
     <message>
         <source>avrdude is in the system&apos;s packages: %1</source>
-        <translation>avrdude est disponible dans les paquets du système : %1</translation>
+        <translation>avrdude est disponible dans les paquets du système&#xa0;: %1</translation>
     </message>
     <message>
         <source>Korvel looks for %1. Another program, or a whole path, may stand in save.json, as &quot;avrdude&quot;.</source>
@@ -139,11 +140,11 @@
     </message>
     <message>
         <source>Folders that are searched for it: %1</source>
-        <translation>Dossiers où il est cherché : %1</translation>
+        <translation>Dossiers où il est cherché&#xa0;: %1</translation>
     </message>
     <message>
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
-        <translation>La vitesse de ce programmateur est fixe&#xa0;: l&apos;horloge de la puce doit dépasser %1, et celle d&apos;une puce neuve est le plus souvent de 1 MHz.</translation>
+        <translation>La vitesse de ce programmateur est fixe&#xa0;: l&apos;horloge de la puce doit dépasser %1, et celle d&apos;une puce neuve est le plus souvent de 1&#xa0;MHz.</translation>
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
@@ -214,11 +215,11 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>L&apos;écriture avait commencé : la puce n&apos;a peut-être qu&apos;une partie des octets de fusibles.</translation>
+        <translation>L&apos;écriture avait commencé&#xa0;: la puce n&apos;a peut-être qu&apos;une partie des octets de fusibles.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
-        <translation>L&apos;effacement avait commencé : la puce est peut-être vide.</translation>
+        <translation>L&apos;effacement avait commencé&#xa0;: la puce est peut-être vide.</translation>
     </message>
 </context>
 <context>
@@ -237,7 +238,7 @@
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>Rien trouvé dans le dossier %1.</translation>
+        <translation>Aucun fichier dans le dossier %1.</translation>
     </message>
     <message>
         <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
@@ -384,7 +385,7 @@
     <name>FileCheck</name>
     <message>
         <source>The file has %1 bytes, the memory only %2.</source>
-        <translation>Le fichier a %1 octets, la mémoire seulement %2.</translation>
+        <translation>Le fichier fait %1 octets, la mémoire seulement %2.</translation>
     </message>
     <message>
         <source>The chip would be erased for nothing.
@@ -486,7 +487,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension.</translatio
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Sans son quartz, la puce ne répondra pas&#xa0;; avec lui, elle ne répondra qu&apos;à une vitesse inférieure à 8&#xa0;kHz (1&#xa0;kHz avec CKDIV8).
-Pour la récupérer&#xa0;: branchez un quartz de 32,768&#xa0;kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse&#xa0;; ou utilisez un programmateur haute tension.</translation>
+Pour la récupérer&#xa0;: branchez un quartz de 32.768&#xa0;kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse&#xa0;; ou utilisez un programmateur haute tension.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -501,22 +502,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 Pour la récupérer&#xa0;: appliquez un signal d&apos;horloge à sa broche d&apos;horloge (un quartz ne convient que si le réglage en mentionne un), ou utilisez un programmateur haute tension.</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programmateur ne pourra plus ni lire la puce ni y écrire.
-Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programmateur ne pourra plus écrire dans la puce.
-Pour la récupérer&#xa0;: effacez-la entièrement.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>La broche UPDI reçoit une autre fonction&#xa0;: un programmateur UPDI ordinaire ne pourra plus accéder à la puce.
-Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset une tension légèrement supérieure à celle de l&apos;alimentation. 12 V détruisent cette broche.</translation>
+Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette famille, qui applique à la broche de reset une tension légèrement supérieure à celle de l&apos;alimentation. 12&#xa0;V détruisent cette broche.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Un programmateur ne pourra plus ni lire la puce ni y écrire.
+Pour la récupérer&#xa0;: «&#xa0;Tout effacer&#xa0;».</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Un programmateur ne pourra plus écrire dans la puce.
+Pour la récupérer&#xa0;: «&#xa0;Tout effacer&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 octets (%2 mots)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 octets (%2 mots), à partir de l&apos;adresse %3 (en octets)</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 cycles</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 cycles + %2&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 cycles, après un reset %2 cycles + %3&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1&#xa0;ms, si la broche de reset est une broche ordinaire ou l&apos;entrée de reset</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Bits de verrouillage (boot) de la section d&apos;application</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Bits de verrouillage (boot) de la section de table d&apos;application</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Bits de verrouillage (boot) de la section de boot</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>BOOTROW lors de l&apos;effacement de la puce</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Détecteur de brown-out</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Détecteur de brown-out en mode power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Détecteur de brown-out en veille</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Détecteur de brown-out en fonctionnement</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Seuil de brown-out</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Calibration de l&apos;oscillateur interne</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Contrôle (CRC) de la section de boot au démarrage&#xa0;: s&apos;il échoue, le programme ne démarre pas</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Détection des pannes d&apos;horloge</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Sortie de l&apos;horloge</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Source d&apos;horloge</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Source d&apos;horloge et temps de démarrage</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Source d&apos;horloge au démarrage</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Partie fermée de la fenêtre du watchdog</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Compatibilité avec AT90S4414 et AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Compatibilité avec AT90S4434 et AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Compatibilité avec ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Compatibilité avec ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Puits de courant du régulateur de tension USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Débogage par la broche de reset (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Récupération après sous-tension profonde (DUVR), après un reset</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Division de l&apos;horloge au démarrage</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM lors de l&apos;effacement de la puce</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Fin de la section de code d&apos;application, en blocs</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Fin de la section de code d&apos;application, où commence la section de données</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Fin de la section de boot</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Fin de la section de boot, en blocs</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Contrôle (CRC) de la flash au démarrage&#xa0;: s&apos;il échoue, le programme ne démarre pas</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Pour les tests en usine</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Fréquence de l&apos;oscillateur interne</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Fréquence de l&apos;oscillateur à très basse consommation (ULP)</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Condensateurs internes aux broches du quartz</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Interface JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Identification utilisateur JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Niveau qu&apos;un reset impose aux sorties A des PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Niveau qu&apos;un reset impose aux sorties B des PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Niveau qu&apos;un reset impose aux sorties PSC</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Bits de verrouillage</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Méthode du contrôle de la flash au démarrage</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Surveillance du processeur</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Surveillance du watchdog</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Débogage sur la puce (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Option de l&apos;oscillateur</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Sortie A du timer TCD0 après un reset</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Sortie A du timer TCD0 sur sa broche après un reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Sortie B du timer TCD0 après un reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Sortie B du timer TCD0 sur sa broche après un reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Sortie C du timer TCD0 après un reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Sortie C du timer TCD0 sur sa broche après un reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Sortie D du timer TCD0 après un reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Sortie D du timer TCD0 sur sa broche après un reset</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL pilotée par l&apos;oscillateur à quartz</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL pilotée par l&apos;oscillateur à quartz, divisée par %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL pilotée par l&apos;horloge externe</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL pilotée par l&apos;horloge externe, divisée par %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL pilotée par l&apos;oscillateur interne %1&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL pilotée par l&apos;oscillateur interne %1&#xa0;MHz, divisée par %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Sorties PSC pendant un reset</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Sorties PSC0 pendant un reset</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Sorties PSC1 pendant un reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Sorties %1 et %2 du PSC2 pendant un reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Sorties PSC2 pendant un reset</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Broches du quartz %1&#xa0;kHz du timer</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Broche de reset et UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Broche de reset</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Échantillonnage du détecteur de brown-out</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Programmation série (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Taille de la section de boot</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Comportement particulier des entrées PSC pendant un reset</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Démarrage de la section de boot par la broche HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Démarrage du programme après un reset</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Temps de démarrage</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Alimentation des broches multitension (MVIO)</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Délai après la mise sous tension pendant lequel l&apos;écriture est bloquée</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Broche UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, avec l&apos;entrée de reset sur une autre broche</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Réglages du watchdog</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Délai du watchdog</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Écriture de la flash par le programme (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>tension séparée</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>après %1 octets</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>toujours en marche</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>comme à la livraison</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>comme broches ordinaires</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>au choix du programme</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>à l&apos;adresse %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>au début de la section de boot</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>à la fin de la flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>section de boot et section de code d&apos;application</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>section de boot</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>avec détecteur de brown-out</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>condensateurs avec un quartz %1&#xa0;kHz ou un RC externe</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>résonateur céramique</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>résonateur céramique %1 à %2&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>résonateur céramique %1 à %2&#xa0;MHz (CKOPT %3&#xa0;: quartz aussi, dès %4&#xa0;MHz)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>résonateur céramique dès %1&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>résonateur céramique ou horloge externe</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>quartz ou résonateur céramique</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>quartz ou résonateur céramique %1 à %2&#xa0;MHz (CKOPT %3&#xa0;: dès %4&#xa0;MHz)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>quartz ou résonateur céramique, haute fréquence</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>quartz ou résonateur céramique, basse fréquence</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>quartz ou résonateur céramique, moyenne fréquence</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>oscillateur à quartz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>oscillateur à quartz %1 à %2&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>oscillateur à quartz dès %1&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>division par %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>contenu effacé aussi</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>oscillateur RC externe</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>oscillateur RC externe %1 à %2&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>oscillateur RC externe jusqu&apos;à %1&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>horloge externe</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>alimentation à montée rapide</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>à un niveau imposé</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>pleine amplitude (full swing), nécessaire aux quartz de plus de %1&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>oscillateur full swing %1 à %2&#xa0;MHz (alim. au-dessus de %3&#xa0;V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>état haut</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>oscillateur interne %1&#xa0;kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>condensateurs internes</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>oscillateur interne haute fréquence</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>oscillateur interne</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>oscillateur interne %1&#xa0;MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>oscillateur interne %1&#xa0;MHz, divisé par %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>oscillateur interne %1&#xa0;kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>oscillateur interne à très basse consommation (ULP) %1&#xa0;kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>contenu conservé</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>contenu conservé, sauf si la puce est verrouillée</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>contenu conservé, même si la puce est verrouillée</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>modification bloquée</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>écriture bloquée</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>écriture et lecture bloquées</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>démarrage long</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>démarrage long</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>état bas</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>quartz basse fréquence (%1&#xa0;kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>écriture bloquée pour tout programme</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>écriture bloquée pour tout programme, lecture bloquée pour ceux de la section d&apos;application</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>écriture bloquée pour tout programme, lecture bloquée pour ceux de la section de boot</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>lecture bloquée pour les programmes de la section d&apos;application</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>lecture bloquée pour les programmes de la section de boot</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>pas d&apos;entrée de reset</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>aucune restriction</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>sans division</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>impossible</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>aucun seuil en fonctionnement, %1&#xa0;V pendant l&apos;effacement de la puce</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>sur sa broche</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>oui, et le réveil attend que le détecteur soit prêt</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>oui, sauf dans les modes de veille profonde</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>sans verrouillage</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>modification possible par le programme</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>broche ordinaire</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>broche ordinaire, en entrée seulement</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>d&apos;autres broches</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>possible</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>valeur réservée</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>entrée de reset</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>par échantillonnage</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>démarrage court</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>démarrage court</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>alimentation à montée lente</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>petite amplitude, qui économise l&apos;énergie</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>démarrage %1 cycle, après un reset %2 cycles</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>démarrage %1 cycles</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>démarrage %1 cycles + %2&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>démarrage %1 cycles, après un reset %2 cycles</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>démarrage %1 cycles, après un reset %2 cycles + %3&#xa0;ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>celle de la puce</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>nécessaire à l&apos;oscillateur interne</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>toute la flash est section de boot</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>celles du quartz principal</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>oscillateur du transceiver</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>démarrage très court</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>oscillateur du watchdog %1&#xa0;kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>si la broche est à l&apos;état bas à la fin d&apos;un reset</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>toute la flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>avec condensateurs internes</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>sans effet tant que BOOTEND vaut %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>sans effet tant que BOOTSIZE vaut %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>sans condensateurs internes</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1295,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Octets de fusibles remis aux valeurs d&apos;origine.</translation>
+        <translation>Valeurs d&apos;usine mises dans la fenêtre. La puce n&apos;a pas changé.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1313,12 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
         <translation>Octets de fusibles lus.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Non lus&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Voulez-vous écrire les octets de fusibles quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Non lus (les anciennes valeurs restent affichées)&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1337,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
     </message>
     <message>
         <source>Default</source>
-        <translation>D&apos;origine</translation>
+        <translation>D&apos;usine</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1377,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
         <translation>ERREUR DANS LE FICHIER JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>ce n&apos;est pas un objet JSON</translation>
     </message>
 </context>
@@ -644,7 +1405,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
     </message>
     <message>
         <source>Korvel cannot write to the folder %1: what you choose is not kept.</source>
-        <translation>Korvel ne peut pas écrire dans le dossier %1 : vos choix ne seront pas conservés.</translation>
+        <translation>Korvel ne peut pas écrire dans le dossier %1&#xa0;: vos choix ne seront pas conservés.</translation>
     </message>
 </context>
 <context>
@@ -734,7 +1495,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension pour cette f
 - Set a lower speed (Port &amp; Speed)</source>
         <translation>Le programmateur n&apos;a pas détecté de microcontrôleur
 
-- Vérifiez les connexions et l&apos;alimentation
+- Vérifiez le câblage et l&apos;alimentation
 - Choisissez une vitesse plus basse (Port &amp; vitesse)</translation>
     </message>
     <message>
@@ -898,7 +1659,7 @@ Fusibles vérifiés.</translation>
     </message>
     <message>
         <source>Board %1: written, %2 s</source>
-        <translation>Carte %1&#xa0;: programmée, %2 s</translation>
+        <translation>Carte %1&#xa0;: programmée, %2&#xa0;s</translation>
     </message>
     <message>
         <source>Board %1: failed: %2</source>
@@ -919,7 +1680,7 @@ Fusibles vérifiés.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Octets de fusibles remis aux valeurs d&apos;origine de la fiche technique.</translation>
+Valeurs d&apos;usine des fusibles mises dans la fenêtre. La puce n&apos;a pas changé.</translation>
     </message>
 </context>
 <context>
@@ -945,15 +1706,15 @@ Octets de fusibles remis aux valeurs d&apos;origine de la fiche technique.</tran
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
-        <translation>Chercher dans :</translation>
+        <translation>Chercher dans&#xa0;:</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation>&amp;Nom du fichier :</translation>
+        <translation>&amp;Nom du fichier&#xa0;:</translation>
     </message>
     <message>
         <source>Files of type:</source>
-        <translation>Type de fichier :</translation>
+        <translation>Type de fichier&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Open</source>
@@ -1049,7 +1810,7 @@ Octets de fusibles remis aux valeurs d&apos;origine de la fiche technique.</tran
     </message>
     <message>
         <source>Show </source>
-        <translation>Afficher : </translation>
+        <translation>Afficher&#xa0;: </translation>
     </message>
     <message>
         <source>%1
@@ -1069,13 +1830,13 @@ Vérifiez le nom du dossier.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete &apos;%1&apos;?</source>
-        <translation>Supprimer vraiment « %1 » ?</translation>
+        <translation>Supprimer vraiment «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is write protected.
 Do you want to delete it anyway?</source>
-        <translation>« %1 » est protégé en écriture.
-Le supprimer quand même ?</translation>
+        <translation>«&#xa0;%1&#xa0;» est protégé en écriture.
+Le supprimer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>Could not delete directory.</source>
@@ -1134,7 +1895,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
-        <translation>Le nom « %1 » ne peut pas être utilisé. Essayez un nom plus court ou sans ponctuation.</translation>
+        <translation>Le nom «&#xa0;%1&#xa0;» ne peut pas être utilisé. Essayez un nom plus court ou sans ponctuation.</translation>
     </message>
 </context>
 <context>
@@ -1329,7 +2090,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>It lies outside the memory, which has %1 bytes.</source>
-        <translation>Il se trouve hors de la mémoire, qui compte %1 octets.</translation>
+        <translation>Il se trouve hors de la mémoire, qui fait %1 octets.</translation>
     </message>
     <message>
         <source>The argument -e would erase the chip before the number is written.</source>
@@ -1348,7 +2109,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>Rien trouvé dans le dossier %1.</translation>
+        <translation>Aucun fichier dans le dossier %1.</translation>
     </message>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
@@ -1356,7 +2117,7 @@ Le supprimer quand même ?</translation>
     </message>
     <message>
         <source>Until you choose a speed, that of the settings is used: %1</source>
-        <translation>Tant que vous ne choisissez pas de vitesse, celle des réglages est utilisée : %1</translation>
+        <translation>Tant que vous ne choisissez pas de vitesse, celle des réglages est utilisée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
