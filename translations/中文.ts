@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- 术语：熔丝位（fuse bit）、锁定位（lock bit）、校准字节（calibration byte）、速度（bit clock），均为国内通用说法。 -->
+<!-- 术语：熔丝位（fuse bit）、锁定位（lock bit）、校准字节（calibration byte）、编程速度（bit clock，标签中简作“速度”）、出厂值（default）、欠压检测器（brown-out detector）、引导区（boot section）、应用区（application section）、晶振（crystal），均为国内通用说法。 -->
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>Try the other entry for the board in the list: boot loaders differ in speed.</source>
-        <translation>请试试列表中该开发板的另一项：不同引导程序的速度不同。</translation>
+        <translation>请试试列表中该开发板的另一项：不同引导程序的通信速度不同。</translation>
     </message>
     <message>
         <source>Is %1 the right port, and the programmer of the kind that is chosen?</source>
@@ -74,7 +74,7 @@
     </message>
     <message>
         <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>速度必须低于芯片时钟频率的四分之一：请尝试更低的速度。</translation>
+        <translation>编程速度必须低于芯片时钟频率的四分之一：请尝试更低的编程速度。</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>“写入”之后：请检查接触和供电，并尝试更低的速度。</translation>
+        <translation>“写入”之后：请检查接触和供电，并尝试更低的编程速度。</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>The speed of this programmer is fixed: the chip&apos;s clock has to be above %1, and a new chip&apos;s is mostly 1 MHz.</source>
-        <translation>此编程器的速度是固定的：芯片的时钟频率必须高于 %1，而新芯片通常为 1 MHz。</translation>
+        <translation>此编程器的编程速度是固定的：芯片的时钟频率必须高于 %1，而新芯片通常为 1 MHz。</translation>
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>在文件夹 %1 中没有找到任何内容。</translation>
+        <translation>文件夹 %1 中没有找到文件。</translation>
     </message>
     <message>
         <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
@@ -290,7 +290,7 @@
     </message>
     <message>
         <source>%1 is no speed: %2 is used.</source>
-        <translation>%1 不是有效的速度：将使用 %2。</translation>
+        <translation>%1 不是有效的编程速度：将使用 %2。</translation>
     </message>
     <message>
         <source>Reading would replace this file:</source>
@@ -443,7 +443,7 @@ Do you want to go on all the same?</source>
     <name>FuseMeanings</name>
     <message>
         <source>Factory setting</source>
-        <translation>出厂设置</translation>
+        <translation>出厂值</translation>
     </message>
     <message>
         <source>This setting is reserved: the chip may no longer answer.
@@ -484,14 +484,14 @@ The way back: a programmer with high-voltage UPDI.</source>
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
-        <translation>不接晶振，芯片将不会应答；接上晶振，也只有在速度低于 8 kHz（启用 CKDIV8 时为 1 kHz）时才会应答。
-恢复方法：接上 32.768 kHz 晶振或向时钟引脚输入时钟信号，并选择更低的速度；或使用高压编程器。</translation>
+        <translation>不接晶振，芯片将不会应答；接上晶振，也只有在编程速度低于 8 kHz（启用 CKDIV8 时为 1 kHz）时才会应答。
+恢复方法：接上 32.768 kHz 晶振或向时钟引脚输入时钟信号，并选择更低的编程速度；或使用高压编程器。</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
-        <translation>时钟这么慢，芯片将只有在速度低于其时钟频率的四分之一时才会应答。
-恢复方法：选择更低的速度。</translation>
+        <translation>时钟这么慢，芯片将只有在编程速度低于其时钟频率的四分之一时才会应答。
+恢复方法：选择更低的编程速度。</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip will not answer.
@@ -500,22 +500,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 恢复方法：向时钟引脚输入时钟信号（仅当该设置注明晶振时，接晶振才有用），或使用高压编程器。</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>编程器将无法再读取或写入芯片。
-恢复方法：全部擦除。</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>编程器将无法再写入芯片。
-恢复方法：全部擦除。</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>UPDI 引脚改作他用：普通 UPDI 编程器将无法再访问芯片。
 恢复方法：使用适用于该系列、支持高压 UPDI 的编程器，它向复位引脚施加的电压仅略高于电源电压。12 V 会烧毁该引脚。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>编程器将无法再读取或写入芯片。
+恢复方法：“全部擦除”。</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>编程器将无法再写入芯片。
+恢复方法：“全部擦除”。</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 字节（%2 字）</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 字节（%2 字），起始字节地址 %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 个时钟周期</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 个时钟周期 + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 个时钟周期，复位后另加 %2 个时钟周期 + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms（仅当复位引脚为普通引脚或复位输入时）</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>应用区的引导锁定位（BLB）</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>应用表区的引导锁定位（BLB）</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>引导区的引导锁定位（BLB）</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>芯片擦除时的引导行（BOOTROW）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>欠压检测器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>掉电模式下的欠压检测器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>休眠模式下的欠压检测器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>工作模式下的欠压检测器（BOD）</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>欠压检测阈值（BOD）</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>内部振荡器的校准值</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>启动时的引导区 CRC 校验：校验不通过则程序不会启动</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>时钟故障检测</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>时钟输出</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>时钟源</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>时钟源和启动时间</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>启动时的时钟源</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>看门狗窗口的禁止清零时段</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>AT90S4414 和 AT90S8515 兼容模式</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>AT90S4434 和 AT90S8535 兼容模式</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>ATmega103 兼容模式</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>ATmega161 兼容模式</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>USB 稳压器的灌电流功能</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>通过复位引脚调试（debugWIRE）</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>复位后的深度欠压恢复</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>启动时的时钟分频</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>芯片擦除时的 EEPROM</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>应用代码区的结束位置（以块为单位）</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>应用代码区的结束位置，其后为数据区</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>引导区的结束位置</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>引导区的结束位置（以块为单位）</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>启动时的 Flash CRC 校验：校验不通过则程序不会启动</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>供工厂测试用</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>内部振荡器的频率</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>超低功耗振荡器的频率</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>晶振引脚的内部电容</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>JTAG 接口</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>JTAG 用户 ID</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>PSC 输出 A 在复位时的强制电平</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>PSC 输出 B 在复位时的强制电平</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>PSC 输出在复位时的强制电平</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>锁定位</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>启动时 Flash 校验的方法</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>处理器监控</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>看门狗监控</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>片上调试（OCD）</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>振荡器选项</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 A</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 A 接到引脚</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 B</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 B 接到引脚</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 C</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 C 接到引脚</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 D</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>复位后定时器 TCD0 的输出 D 接到引脚</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL（输入：晶振）</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL（输入：晶振），%1 分频</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL（输入：外部时钟）</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL（输入：外部时钟），%1 分频</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL（输入：内部振荡器 %1 MHz）</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL（输入：内部振荡器 %1 MHz），%2 分频</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>复位时的 PSC 输出</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>复位时的 PSC0 输出</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>复位时的 PSC1 输出</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>复位时的 PSC2 输出 %1 和 %2</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>复位时的 PSC2 输出</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>定时器 %1 kHz 晶振的引脚</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>复位/UPDI 引脚</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>复位引脚</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>欠压检测器（BOD）的采样频率</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>串行编程（ISP）</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>引导区大小</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>复位时 PSC 输入的特殊行为</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>通过 HWB 引脚启动引导区</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>复位后程序的起始位置</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>启动时间</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>多电压引脚（MVIO）的供电</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>上电后禁止写入的等待时间</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>UPDI 引脚</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI，复位输入在另一引脚上</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>看门狗</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>看门狗设置</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>看门狗超时时间</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>程序写入 Flash（SPM）</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>单独供电</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>%1 字节之后</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>始终开启</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>出厂值</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>作为普通引脚</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>由程序设定</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>地址 %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>引导区起始处</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>Flash 末尾</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>引导区和应用代码区</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>引导区</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>欠压检测器（BOD）开启</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>使用 %1 kHz 晶振或外部 RC 时接入内部电容</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>陶瓷谐振器</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>陶瓷谐振器 %1～%2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>陶瓷谐振器 %1～%2 MHz（CKOPT 为 %3 时：也可用晶振，%4 MHz 及以上）</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>陶瓷谐振器 %1 MHz 及以上</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>陶瓷谐振器或外部时钟</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>晶振或陶瓷谐振器</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>晶振或陶瓷谐振器 %1～%2 MHz（CKOPT 为 %3 时：%4 MHz 及以上）</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>晶振或陶瓷谐振器（高频）</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>晶振或陶瓷谐振器（低频）</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>晶振或陶瓷谐振器（中频）</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>晶振</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>晶振 %1～%2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>晶振 %1 MHz 及以上</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>%1 分频</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>一并擦除</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>外部 RC 振荡器</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>外部 RC 振荡器 %1～%2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>外部 RC 振荡器 %1 MHz 及以下</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>外部时钟</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>电源快速上升</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>强制为固定电平</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>全幅振荡，%1 MHz 以上的晶振需要</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>全幅晶振 %1～%2 MHz（电源电压高于 %3 V）</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>高电平</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>内部 %1 kHz 振荡器</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>使用内部电容</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>内部高频振荡器</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>内部振荡器</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>内部振荡器 %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>内部振荡器 %1 MHz，%2 分频</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>内部振荡器 %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>内部超低功耗振荡器 %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>不擦除</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>不擦除，芯片已锁定时除外</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>不擦除，即使芯片已锁定</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>禁止写入</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>禁止写入和读取</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>长</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>启动时间长</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>低电平</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>低频晶振（%1 kHz）</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>任何程序都不能写入本区</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>任何程序都不能写入本区，应用区的程序也不能读取本区</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>任何程序都不能写入本区，引导区的程序也不能读取本区</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>应用区的程序不能读取本区</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>引导区的程序不能读取本区</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>无复位输入</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>无限制</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>不分频</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>不允许</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>工作时关闭，芯片擦除期间为 %1 V</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开启</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>输出到引脚</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>开启，唤醒时等待其就绪</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>开启，但在深度休眠模式下关闭</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>未锁定</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>程序可更改</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>普通引脚</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>普通引脚，仅可作输入</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>其他引脚</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>允许</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>保留值</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>复位输入</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>定期采样</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>短</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>启动时间短</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>电源缓慢上升</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>小幅振荡，省电</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>启动 %1 个时钟周期，复位后另加 %2 个时钟周期</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>启动 %1 个时钟周期</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>启动 %1 个时钟周期 + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>启动 %1 个时钟周期，复位后另加 %2 个时钟周期</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>启动 %1 个时钟周期，复位后另加 %2 个时钟周期 + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>与芯片共用</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>使用内部振荡器时须选此项</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>整个 Flash 均为引导区</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>主晶振的引脚</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>收发器振荡器</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>启动时间极短</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>看门狗振荡器 %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>复位结束时引脚为低电平则启动</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>整个 Flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>使用内部电容</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>BOOTEND 为 %1 时不起作用</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>BOOTSIZE 为 %1 时不起作用</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>不使用内部电容</translation>
     </message>
 </context>
 <context>
@@ -533,7 +1293,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>熔丝字节已恢复为默认值。</translation>
+        <translation>窗口中已填入出厂值，芯片未改动。</translation>
     </message>
 </context>
 <context>
@@ -551,12 +1311,12 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>熔丝字节读取成功。</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>未读取：%1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>仍要写入熔丝字节吗？</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>未读取（仍显示旧值）：%1</translation>
     </message>
 </context>
 <context>
@@ -575,7 +1335,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>Default</source>
-        <translation>默认值</translation>
+        <translation>出厂值</translation>
     </message>
 </context>
 <context>
@@ -615,7 +1375,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>JSON 文件错误</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>不是 JSON 对象</translation>
     </message>
 </context>
@@ -631,7 +1391,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>The file is kept as %1.</source>
-        <translation>文件已保留为 %1。</translation>
+        <translation>原文件已保留，名为 %1。</translation>
     </message>
     <message>
         <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
@@ -873,7 +1633,7 @@ Fuse bits verify successfully.</source>
     </message>
     <message>
         <source>profile changed since it was loaded</source>
-        <translation>配置文件加载后已更改</translation>
+        <translation>加载后设置已更改</translation>
     </message>
     <message>
         <source>The command that the profile has for this memory does not write a file. It is not run:</source>
@@ -918,7 +1678,7 @@ Fuse bits verify successfully.</source>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>。
-熔丝字节已设为数据手册的默认值。</translation>
+窗口中已填入出厂值，芯片未改动。</translation>
     </message>
 </context>
 <context>
@@ -1347,7 +2107,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Nothing found in the folder %1.</source>
-        <translation>在文件夹 %1 中没有找到任何内容。</translation>
+        <translation>文件夹 %1 中没有找到文件。</translation>
     </message>
     <message>
         <source>avrdude gets further arguments that the programmer&apos;s file does not have: %1</source>
@@ -1355,7 +2115,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Until you choose a speed, that of the settings is used: %1</source>
-        <translation>在您选择速度之前，将使用设置中的速度：%1</translation>
+        <translation>在您选择编程速度之前，将使用设置中的编程速度：%1</translation>
     </message>
 </context>
 <context>
