@@ -1,7 +1,8 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Термины: фьюз-биты и фьюз-байты, как принято говорить; биты защиты (lock bits), калибровочный байт, скорость (bit
-     clock); МК - микроконтроллер. -->
+     clock); МК - микроконтроллер; детектор пониженного питания BOD, сторожевой таймер (watchdog), секция загрузчика
+     (boot section), кварц, запуск (start-up), вкл. и выкл. -->
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -55,7 +56,7 @@
     </message>
     <message>
         <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>По этому адресу никто не принимает соединений: запущена ли там программа и верен ли адрес?</translation>
+        <translation>По этому адресу никто не отвечает: запущена ли там программа и верен ли адрес?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -147,7 +148,7 @@
     </message>
     <message>
         <source>Its fuses may use the UPDI pin for something else: a programmer with high-voltage UPDI brings it back.</source>
-        <translation>Возможно, фьюз-биты МК дали выводу UPDI другое назначение: восстановить доступ можно программатором с высоковольтным UPDI.</translation>
+        <translation>Возможно, фьюз-биты МК дали выводу UPDI другое назначение: вернуть доступ можно программатором с высоковольтным UPDI.</translation>
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
@@ -158,15 +159,15 @@
     <name>Aftermath</name>
     <message>
         <source>Writing the flash failed.</source>
-        <translation>Не удалось записать Flash.</translation>
+        <translation>Не удалось записать FLASH.</translation>
     </message>
     <message>
         <source>Verifying the flash failed.</source>
-        <translation>Проверка Flash завершилась с ошибкой.</translation>
+        <translation>Проверка FLASH завершилась с ошибкой.</translation>
     </message>
     <message>
         <source>Reading the flash failed.</source>
-        <translation>Не удалось считать Flash.</translation>
+        <translation>Не удалось считать FLASH.</translation>
     </message>
     <message>
         <source>Writing the EEPROM failed.</source>
@@ -210,7 +211,7 @@
     </message>
     <message>
         <source>The chip was erased, and nothing was written: its flash is empty.</source>
-        <translation>МК стёрт, и ничего не записано: его Flash пуста.</translation>
+        <translation>МК стёрт, и ничего не записано: его FLASH пуста.</translation>
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
@@ -450,73 +451,833 @@ Do you want to go on all the same?</source>
         <source>This setting is reserved: the chip may no longer answer.
 The way back: a high-voltage programmer.</source>
         <translation>Эта настройка зарезервирована: МК может перестать отвечать.
-Как восстановить: высоковольтным программатором.</translation>
+Как вернуть доступ: высоковольтным программатором.</translation>
     </message>
     <message>
         <source>The reset pin becomes an ordinary pin: an ISP or TPI programmer will no longer be able to reach the chip.
 The way back: a high-voltage programmer.</source>
-        <translation>Вывод сброса становится обычным: программатор ISP или TPI потеряет доступ к МК.
-Как восстановить: высоковольтным программатором.</translation>
+        <translation>Вывод сброса станет обычным: программатор ISP или TPI потеряет доступ к МК.
+Как вернуть доступ: высоковольтным программатором.</translation>
     </message>
     <message>
         <source>The reset pin becomes the debugger&apos;s: an ISP programmer will no longer be able to reach the chip.
 The way back: a debugger with debugWIRE, or a high-voltage programmer.</source>
-        <translation>Вывод сброса переходит к отладчику: программатор ISP потеряет доступ к МК.
-Как восстановить: отладчиком с debugWIRE или высоковольтным программатором.</translation>
+        <translation>Вывод сброса перейдёт к отладчику: программатор ISP потеряет доступ к МК.
+Как вернуть доступ: отладчиком с debugWIRE или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>An ISP programmer will no longer be able to reach the chip.
 The way back: JTAG, if the chip has it, or a high-voltage programmer.</source>
         <translation>Программатор ISP потеряет доступ к МК.
-Как восстановить: через JTAG, если он есть в МК, или высоковольтным программатором.</translation>
+Как вернуть доступ: через JTAG, если он есть в МК, или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>A JTAG programmer will no longer be able to reach the chip.
 The way back: ISP, PDI with an ATxmega, or a high-voltage programmer.</source>
         <translation>Программатор JTAG потеряет доступ к МК.
-Как восстановить: через ISP (для ATxmega через PDI) или высоковольтным программатором.</translation>
+Как вернуть доступ: через ISP (для ATxmega через PDI) или высоковольтным программатором.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI.</source>
-        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
-Как восстановить: программатором с высоковольтным UPDI.</translation>
+        <translation>Вывод UPDI получит другое назначение: обычный программатор UPDI потеряет доступ к МК.
+Как вернуть доступ: программатором с высоковольтным UPDI.</translation>
     </message>
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Без кварца МК не будет отвечать, а с кварцем ответит только на скорости ниже 8 kHz (с CKDIV8 ниже 1 kHz).
-Как восстановить: подключите кварц на 32,768 kHz или подайте тактовый сигнал на тактовый вход, а затем выберите меньшую скорость; либо используйте высоковольтный программатор.</translation>
+Как вернуть доступ: подключите кварц на 32.768 kHz или подайте тактовый сигнал на тактовый вход, а затем выберите меньшую скорость; либо используйте высоковольтный программатор.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
 The way back: choose a lower speed.</source>
         <translation>Такой медленный МК будет отвечать только на скорости ниже четверти его тактовой частоты.
-Как восстановить: выберите меньшую скорость.</translation>
+Как вернуть доступ: выберите меньшую скорость.</translation>
     </message>
     <message>
         <source>Without this clock on its pins the chip will not answer.
 The way back: feed a clock into its clock pin (a crystal helps only where the setting names one), or use a high-voltage programmer.</source>
         <translation>Без этого тактового сигнала на выводах МК не будет отвечать.
-Как восстановить: подайте тактовый сигнал на тактовый вход (кварц поможет, только если он указан в самой настройке) либо используйте высоковольтный программатор.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Программатор больше не сможет ни считывать МК, ни записывать в него.
-Как восстановить: сотрите всё.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Программатор больше не сможет записывать в МК.
-Как восстановить: сотрите всё.</translation>
+Как вернуть доступ: подайте тактовый сигнал на тактовый вход (кварц поможет, только если он указан в самой настройке) либо используйте высоковольтный программатор.</translation>
     </message>
     <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
-        <translation>Вывод UPDI получает другое назначение: обычный программатор UPDI потеряет доступ к МК.
-Как восстановить: программатором с высоковольтным UPDI для этого семейства, который подаёт на вывод сброса напряжение чуть выше напряжения питания. 12 V сожгут этот вывод.</translation>
+        <translation>Вывод UPDI получит другое назначение: обычный программатор UPDI потеряет доступ к МК.
+Как вернуть доступ: программатором с высоковольтным UPDI для этого семейства, который подаёт на вывод сброса напряжение чуть выше напряжения питания. 12 V сожгут этот вывод.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Программатор больше не сможет ни считать содержимое МК, ни записать в него.
+Как вернуть доступ: «Стереть всё».</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Программатор больше не сможет записывать в МК.
+Как вернуть доступ: «Стереть всё».</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 Б (слов: %2)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 Б (слов: %2), с байтового адреса %3</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 тактов</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 тактов + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 тактов, после сброса ещё %2 тактов + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, если вывод сброса — обычный вывод или вход сброса</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Биты защиты BLB секции приложения</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Биты защиты BLB секции таблиц приложения</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Биты защиты BLB секции загрузчика</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>Boot Row при стирании МК</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Детектор пониженного питания BOD</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Детектор пониженного питания BOD в режиме Power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Детектор пониженного питания BOD в режимах сна</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Детектор пониженного питания BOD в активном режиме</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Порог детектора пониженного питания BOD</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Калибровка внутреннего генератора</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Проверка секции загрузчика (CRC) при запуске: если она не пройдена, программа не запустится</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Обнаружение сбоя тактового сигнала</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Выход тактового сигнала</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Источник тактирования</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Источник тактирования и время запуска</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Источник тактирования при запуске</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Закрытая часть окна сторожевого таймера</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Совместимость с AT90S4414 и AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Совместимость с AT90S4434 и AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Совместимость с ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Совместимость с ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Приём втекающего тока стабилизатором напряжения USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Отладка через вывод сброса (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Восстановление при глубоком снижении напряжения (DUVR) после сброса</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Делитель тактовой частоты при запуске</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM при стирании МК</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Конец секции кода приложения, в блоках</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Конец секции кода приложения, за ним начинается секция данных</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Конец секции загрузчика</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Конец секции загрузчика, в блоках</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Проверка FLASH (CRC) при запуске: если она не пройдена, программа не запустится</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Для заводских испытаний</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Частота внутреннего генератора</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Частота генератора со сверхнизким потреблением</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Внутренние конденсаторы на выводах кварца</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Интерфейс JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Пользовательский идентификатор JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Принудительное состояние выходов A модулей PSC при сбросе</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Принудительное состояние выходов B модулей PSC при сбросе</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Принудительное состояние выходов PSC при сбросе</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Биты защиты</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Метод проверки FLASH при запуске</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Монитор процессора</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Монитор сторожевого таймера</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Внутрисхемная отладка (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Режим генератора</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Выход A таймера TCD0 после сброса</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Выход A таймера TCD0 на своём выводе после сброса</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Выход B таймера TCD0 после сброса</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Выход B таймера TCD0 на своём выводе после сброса</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Выход C таймера TCD0 после сброса</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Выход C таймера TCD0 на своём выводе после сброса</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Выход D таймера TCD0 после сброса</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Выход D таймера TCD0 на своём выводе после сброса</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL от кварцевого генератора</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL от кварцевого генератора, деление на %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL от внешнего тактового сигнала</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL от внешнего тактового сигнала, деление на %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL от внутреннего генератора %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL от внутреннего генератора %1 MHz, деление на %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Выходы PSC при сбросе</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Выходы PSC0 при сбросе</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Выходы PSC1 при сбросе</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Выходы %1 и %2 модуля PSC2 при сбросе</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Выходы PSC2 при сбросе</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Выводы для кварца таймера %1 kHz</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Вывод сброса и UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Вывод сброса</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Частота периодического опроса детектора BOD</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Последовательное программирование (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Размер секции загрузчика</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Особое поведение входов PSC при сбросе</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Запуск секции загрузчика по выводу HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Начало программы после сброса</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Время запуска</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Питание выводов MVIO</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Задержка после включения питания, блокирующая запись</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Вывод UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, вход сброса на другом выводе</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Настройки сторожевого таймера</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Тайм-аут сторожевого таймера</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Запись FLASH программой МК (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>отдельное напряжение</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>через %1 Б от начала памяти</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>всегда вкл.</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>как с завода</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>как обычные выводы</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>как задаст программа</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>с адреса %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>с начала секции загрузчика</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>в конце FLASH</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>секции загрузчика и кода приложения</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>секция загрузчика</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>BOD вкл.</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>для кварца %1 kHz и внешней RC-цепи — внутренние конденсаторы</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>керамический резонатор</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>керамический резонатор %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>керамический резонатор %1–%2 MHz (при CKOPT = %3 — также кварц, от %4 MHz)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>керамический резонатор от %1 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>керамический резонатор или внешний тактовый сигнал</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>кварц или керамический резонатор</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>кварц или керамический резонатор %1–%2 MHz (при CKOPT = %3 — от %4 MHz)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>кварц или керамический резонатор, высокая частота</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>кварц или керамический резонатор, низкая частота</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>кварц или керамический резонатор, средняя частота</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>кварцевый генератор</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>кварцевый генератор %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>кварцевый генератор от %1 MHz</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>деление на %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>тоже стирается</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>внешняя RC-цепь</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>внешняя RC-цепь %1–%2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>внешняя RC-цепь до %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>внешний тактовый сигнал</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>быстрое нарастание питания</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>принудительно заданный уровень</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>полный размах, нужен для кварцев выше %1 MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>кварцевый генератор с полным размахом %1–%2 MHz (питание выше %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>высокий уровень</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>внутренний генератор %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>внутренние конденсаторы</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>внутренний высокочастотный генератор</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>внутренний генератор</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>внутренний генератор %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>внутренний генератор %1 MHz с делением на %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>внутренний генератор %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>внутренний генератор %1 kHz со сверхнизким потреблением</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>сохраняется</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>сохраняется, если МК не защищён</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>сохраняется, даже если МК защищён</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>изменить нельзя</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>запись запрещена</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>запись и чтение запрещены</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>долгий запуск</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>долгий запуск</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>низкий уровень</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>низкочастотный кварц (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>запись запрещена любой программе МК</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>запись запрещена любой программе МК, чтение — программе в секции приложения</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>запись запрещена любой программе МК, чтение — программе в секции загрузчика</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>чтение запрещено программе в секции приложения</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>чтение запрещено программе в секции загрузчика</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>без входа сброса</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>без ограничений</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>без деления</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>не допускается</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выкл.</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>выкл. при работе, %1 V при стирании МК</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>вкл.</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>на своём выводе</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>вкл., пробуждение ждёт готовности BOD</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>вкл., но выкл. в режимах глубокого сна</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>без защиты</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>программа может изменить</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>обычный вывод</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>обычный вывод, только вход</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>другие выводы</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>допускается</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>зарезервировано</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>вход сброса</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>периодический опрос</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>короткий запуск</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>короткий запуск</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>медленное нарастание питания</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>малый размах, экономит энергию</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>запуск %1 такт, после сброса ещё %2 тактов</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>запуск %1 тактов</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>запуск %1 тактов + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>запуск %1 тактов, после сброса ещё %2 тактов</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>запуск %1 тактов, после сброса ещё %2 тактов + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>напряжение питания МК</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>требуется для внутреннего генератора</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>вся FLASH — секция загрузчика</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>выводы основного кварца</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>генератор приёмопередатчика</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>очень короткий запуск</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>генератор сторожевого таймера %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>если в конце сброса на выводе низкий уровень</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>вся FLASH</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>с внутренними конденсаторами</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>не действует, пока BOOTEND = %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>не действует, пока BOOTSIZE = %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>без внутренних конденсаторов</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Сторожевой таймер</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1295,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Фьюз-байтам присвоены значения по умолчанию.</translation>
+        <translation>В окне выставлены заводские значения фьюз-байтов. Сам МК не изменён.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1313,12 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>Фьюз-байты успешно считаны.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Не считаны: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Всё равно записать фьюз-байты?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Не считано (показаны прежние значения): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1337,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>Default</source>
-        <translation>По умолчанию</translation>
+        <translation>Заводские</translation>
     </message>
 </context>
 <context>
@@ -616,7 +1377,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
         <translation>ОШИБКА В ФАЙЛЕ JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>не объект JSON</translation>
     </message>
 </context>
@@ -632,7 +1393,7 @@ The way back: a programmer with high-voltage UPDI for this family, which gives t
     </message>
     <message>
         <source>The file is kept as %1.</source>
-        <translation>Файл оставлен как %1.</translation>
+        <translation>Файл сохранён под именем %1.</translation>
     </message>
     <message>
         <source>avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps erased, perhaps half written.</source>
@@ -818,8 +1579,8 @@ Do you want to overwrite it?</source>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash успешно записана.
-Flash успешно проверена.
+        <translation>FLASH успешно записана.
+FLASH успешно проверена.
 </translation>
     </message>
     <message>
@@ -906,7 +1667,7 @@ Fuse bits verify successfully.</source>
     </message>
     <message>
         <source>%1 good, %2 failed</source>
-        <translation>Готово: %1, сбоев: %2</translation>
+        <translation>Годных: %1, сбоев: %2</translation>
     </message>
 </context>
 <context>
@@ -919,7 +1680,7 @@ Fuse bits verify successfully.</source>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Фьюз-байтам присвоены значения по умолчанию из даташита.</translation>
+В окне выставлены заводские значения фьюз-байтов. Сам МК не изменён.</translation>
     </message>
 </context>
 <context>
