@@ -1,7 +1,8 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Termini: fuse, fuse bit e lock bit restano in inglese, come d'uso; byte di calibrazione; velocità (bit clock); clock
-     solo per quello del chip. -->
+     solo per quello del chip; sezione di boot, sezione applicazione; di fabbrica; scheda è il circuito, linguetta quella
+     della finestra, link quello del web; sì e no per on e off, per ogni genere; punto decimale come nei datasheet. -->
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -23,7 +24,7 @@
     </message>
     <message>
         <source>Is the programmer plugged in? Try another cable, and another socket.</source>
-        <translation>Il programmatore è collegato? Provare un altro cavo e un&apos;altra porta USB.</translation>
+        <translation>Il programmatore è collegato? Provare un altro cavo e un&apos;altra presa USB.</translation>
     </message>
     <message>
         <source>On Windows it needs its driver: the guide tells which.</source>
@@ -170,15 +171,15 @@
     </message>
     <message>
         <source>Writing the EEPROM failed.</source>
-        <translation>Scrittura della EEPROM non riuscita.</translation>
+        <translation>Scrittura dell&apos;EEPROM non riuscita.</translation>
     </message>
     <message>
         <source>Verifying the EEPROM failed.</source>
-        <translation>Verifica della EEPROM non riuscita.</translation>
+        <translation>Verifica dell&apos;EEPROM non riuscita.</translation>
     </message>
     <message>
         <source>Reading the EEPROM failed.</source>
-        <translation>Lettura della EEPROM non riuscita.</translation>
+        <translation>Lettura dell&apos;EEPROM non riuscita.</translation>
     </message>
     <message>
         <source>Writing the fuse bytes failed.</source>
@@ -214,7 +215,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>La scrittura era iniziata: il chip potrebbe avere solo alcuni dei byte di fuse.</translation>
+        <translation>La scrittura era iniziata: il chip potrebbe avere solo una parte dei byte dei fuse.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
@@ -486,7 +487,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Senza il suo quarzo il chip non risponderà; con il quarzo risponderà solo a una velocità inferiore a 8 kHz (1 kHz con CKDIV8).
-Per recuperarlo: collegare un quarzo da 32,768 kHz o applicare un clock al suo pin di clock, poi scegliere una velocità minore; oppure usare un programmatore ad alta tensione.</translation>
+Per recuperarlo: collegare un quarzo da 32.768 kHz o applicare un clock al suo pin di clock, poi scegliere una velocità minore; oppure usare un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -501,22 +502,782 @@ The way back: feed a clock into its clock pin (a crystal helps only where the se
 Per recuperarlo: applicare un clock al suo pin di clock (un quarzo serve solo se l&apos;impostazione ne indica uno), o usare un programmatore ad alta tensione.</translation>
     </message>
     <message>
-        <source>A programmer will no longer be able to read or write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programmatore non potrà più né leggere il chip né scriverci.
-Per recuperarlo: cancellare tutto.</translation>
-    </message>
-    <message>
-        <source>A programmer will no longer be able to write the chip.
-The way back: erase all of it.</source>
-        <translation>Un programmatore non potrà più scrivere sul chip.
-Per recuperarlo: cancellare tutto.</translation>
-    </message>
-    <message>
         <source>The UPDI pin gets another purpose: an ordinary UPDI programmer will no longer be able to reach the chip.
 The way back: a programmer with high-voltage UPDI for this family, which gives the reset pin a little more than the supply. 12 V destroy it.</source>
         <translation>Il pin UPDI assume un&apos;altra funzione: un comune programmatore UPDI non potrà più accedere al chip.
 Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia, che applica al pin di reset una tensione poco superiore a quella di alimentazione. 12 V distruggono questo pin.</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to read the chip or write to it.
+The way back: Erase all.</source>
+        <translation>Un programmatore non potrà più né leggere il chip né scriverlo.
+Per recuperarlo: «Cancella tutto».</translation>
+    </message>
+    <message>
+        <source>A programmer will no longer be able to write to the chip.
+The way back: Erase all.</source>
+        <translation>Un programmatore non potrà più scrivere il chip.
+Per recuperarlo: «Cancella tutto».</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words)</source>
+        <translation>%1 byte (%2 parole)</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2 words), from byte address %3</source>
+        <translation>%1 byte (%2 parole), dall&apos;indirizzo %3 (in byte)</translation>
+    </message>
+    <message>
+        <source>%1 clocks</source>
+        <translation>%1 cicli</translation>
+    </message>
+    <message>
+        <source>%1 clocks + %2 ms</source>
+        <translation>%1 cicli + %2 ms</translation>
+    </message>
+    <message>
+        <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>%1 cicli, dopo un reset %2 cicli + %3 ms</translation>
+    </message>
+    <message>
+        <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
+        <translation>%1 ms, se il pin di reset è un pin comune o l&apos;ingresso di reset</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application section</source>
+        <translation>Boot lock bit della sezione applicazione</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the application table section</source>
+        <translation>Boot lock bit della sezione tabella dell&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>Boot lock bits of the boot section</source>
+        <translation>Boot lock bit della sezione di boot</translation>
+    </message>
+    <message>
+        <source>Boot row at a chip erase</source>
+        <translation>BOOTROW alla cancellazione del chip</translation>
+    </message>
+    <message>
+        <source>Brown-out detector</source>
+        <translation>Rilevatore di brown-out</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in power-down</source>
+        <translation>Rilevatore di brown-out in modalità power-down</translation>
+    </message>
+    <message>
+        <source>Brown-out detector in sleep</source>
+        <translation>Rilevatore di brown-out in modalità sleep</translation>
+    </message>
+    <message>
+        <source>Brown-out detector while active</source>
+        <translation>Rilevatore di brown-out in funzionamento</translation>
+    </message>
+    <message>
+        <source>Brown-out level</source>
+        <translation>Soglia di brown-out</translation>
+    </message>
+    <message>
+        <source>Calibration of the internal oscillator</source>
+        <translation>Calibrazione dell&apos;oscillatore interno</translation>
+    </message>
+    <message>
+        <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
+        <translation>Controllo (CRC) della sezione di boot all&apos;avvio: se fallisce, il programma non parte</translation>
+    </message>
+    <message>
+        <source>Clock failure detection</source>
+        <translation>Rilevamento dei guasti del clock</translation>
+    </message>
+    <message>
+        <source>Clock output</source>
+        <translation>Uscita del clock</translation>
+    </message>
+    <message>
+        <source>Clock source</source>
+        <translation>Sorgente di clock</translation>
+    </message>
+    <message>
+        <source>Clock source and start-up time</source>
+        <translation>Sorgente di clock e tempo di avvio</translation>
+    </message>
+    <message>
+        <source>Clock source at the start</source>
+        <translation>Sorgente di clock all&apos;avvio</translation>
+    </message>
+    <message>
+        <source>Closed part of the watchdog window</source>
+        <translation>Parte chiusa della finestra del watchdog</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4414 and AT90S8515</source>
+        <translation>Compatibilità con AT90S4414 e AT90S8515</translation>
+    </message>
+    <message>
+        <source>Compatibility with AT90S4434 and AT90S8535</source>
+        <translation>Compatibilità con AT90S4434 e AT90S8535</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega103</source>
+        <translation>Compatibilità con ATmega103</translation>
+    </message>
+    <message>
+        <source>Compatibility with ATmega161</source>
+        <translation>Compatibilità con ATmega161</translation>
+    </message>
+    <message>
+        <source>Current sink of the USB voltage regulator</source>
+        <translation>Pozzo di corrente (sink) del regolatore di tensione USB</translation>
+    </message>
+    <message>
+        <source>Debugging over the reset pin (debugWIRE)</source>
+        <translation>Debug tramite il pin di reset (debugWIRE)</translation>
+    </message>
+    <message>
+        <source>Deep under-voltage recovery after a reset</source>
+        <translation>Recupero da sottotensione profonda (DUVR) dopo un reset</translation>
+    </message>
+    <message>
+        <source>Division of the clock at the start</source>
+        <translation>Divisione del clock all&apos;avvio</translation>
+    </message>
+    <message>
+        <source>EEPROM at a chip erase</source>
+        <translation>EEPROM alla cancellazione del chip</translation>
+    </message>
+    <message>
+        <source>End of the application code section, in blocks</source>
+        <translation>Fine della sezione codice dell&apos;applicazione, in blocchi</translation>
+    </message>
+    <message>
+        <source>End of the application code section, where the data section begins</source>
+        <translation>Fine della sezione codice dell&apos;applicazione, dove inizia la sezione dati</translation>
+    </message>
+    <message>
+        <source>End of the boot section</source>
+        <translation>Fine della sezione di boot</translation>
+    </message>
+    <message>
+        <source>End of the boot section, in blocks</source>
+        <translation>Fine della sezione di boot, in blocchi</translation>
+    </message>
+    <message>
+        <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
+        <translation>Controllo (CRC) della flash all&apos;avvio: se fallisce, il programma non parte</translation>
+    </message>
+    <message>
+        <source>For tests in the factory</source>
+        <translation>Per i test in fabbrica</translation>
+    </message>
+    <message>
+        <source>Frequency of the internal oscillator</source>
+        <translation>Frequenza dell&apos;oscillatore interno</translation>
+    </message>
+    <message>
+        <source>Frequency of the ultra-low-power oscillator</source>
+        <translation>Frequenza dell&apos;oscillatore a bassissimo consumo (ULP)</translation>
+    </message>
+    <message>
+        <source>Internal capacitors at the crystal pins</source>
+        <translation>Condensatori interni ai pin del quarzo</translation>
+    </message>
+    <message>
+        <source>JTAG interface</source>
+        <translation>Interfaccia JTAG</translation>
+    </message>
+    <message>
+        <source>JTAG user identification</source>
+        <translation>Identificativo utente JTAG</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs A that a reset forces</source>
+        <translation>Livello che un reset impone alle uscite A dei PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs B that a reset forces</source>
+        <translation>Livello che un reset impone alle uscite B dei PSC</translation>
+    </message>
+    <message>
+        <source>Level of PSC outputs that a reset forces</source>
+        <translation>Livello che un reset impone alle uscite PSC</translation>
+    </message>
+    <message>
+        <source>Lock bits</source>
+        <translation>Lock bit</translation>
+    </message>
+    <message>
+        <source>Method of the flash check at the start</source>
+        <translation>Metodo del controllo della flash all&apos;avvio</translation>
+    </message>
+    <message>
+        <source>Monitor of the processor</source>
+        <translation>Sorveglianza del processore</translation>
+    </message>
+    <message>
+        <source>Monitor of the watchdog</source>
+        <translation>Sorveglianza del watchdog</translation>
+    </message>
+    <message>
+        <source>On-chip debugging</source>
+        <translation>Debug sul chip (OCD)</translation>
+    </message>
+    <message>
+        <source>Oscillator option</source>
+        <translation>Opzione dell&apos;oscillatore</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 after a reset</source>
+        <translation>Uscita A del timer TCD0 dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output A of the timer TCD0 on its pin after a reset</source>
+        <translation>Uscita A del timer TCD0 sul suo pin dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 after a reset</source>
+        <translation>Uscita B del timer TCD0 dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output B of the timer TCD0 on its pin after a reset</source>
+        <translation>Uscita B del timer TCD0 sul suo pin dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 after a reset</source>
+        <translation>Uscita C del timer TCD0 dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output C of the timer TCD0 on its pin after a reset</source>
+        <translation>Uscita C del timer TCD0 sul suo pin dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 after a reset</source>
+        <translation>Uscita D del timer TCD0 dopo un reset</translation>
+    </message>
+    <message>
+        <source>Output D of the timer TCD0 on its pin after a reset</source>
+        <translation>Uscita D del timer TCD0 sul suo pin dopo un reset</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator</source>
+        <translation>PLL dall&apos;oscillatore a quarzo</translation>
+    </message>
+    <message>
+        <source>PLL from the crystal oscillator, divided by %1</source>
+        <translation>PLL dall&apos;oscillatore a quarzo, divisione per %1</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock</source>
+        <translation>PLL dal clock esterno</translation>
+    </message>
+    <message>
+        <source>PLL from the external clock, divided by %1</source>
+        <translation>PLL dal clock esterno, divisione per %1</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz</source>
+        <translation>PLL dall&apos;oscillatore interno %1 MHz</translation>
+    </message>
+    <message>
+        <source>PLL from the internal oscillator %1 MHz, divided by %2</source>
+        <translation>PLL dall&apos;oscillatore interno %1 MHz, divisione per %2</translation>
+    </message>
+    <message>
+        <source>PSC outputs in a reset</source>
+        <translation>Uscite PSC durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC0 outputs in a reset</source>
+        <translation>Uscite PSC0 durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC1 outputs in a reset</source>
+        <translation>Uscite PSC1 durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs %1 and %2 in a reset</source>
+        <translation>Uscite %1 e %2 del PSC2 durante un reset</translation>
+    </message>
+    <message>
+        <source>PSC2 outputs in a reset</source>
+        <translation>Uscite PSC2 durante un reset</translation>
+    </message>
+    <message>
+        <source>Pins of the timer&apos;s %1 kHz crystal</source>
+        <translation>Pin del quarzo da %1 kHz del timer</translation>
+    </message>
+    <message>
+        <source>Reset and UPDI pin</source>
+        <translation>Pin di reset e UPDI</translation>
+    </message>
+    <message>
+        <source>Reset pin</source>
+        <translation>Pin di reset</translation>
+    </message>
+    <message>
+        <source>Sampling of the brown-out detector</source>
+        <translation>Campionamento del rilevatore di brown-out</translation>
+    </message>
+    <message>
+        <source>Serial programming (ISP)</source>
+        <translation>Programmazione seriale (ISP)</translation>
+    </message>
+    <message>
+        <source>Size of the boot section</source>
+        <translation>Dimensione della sezione di boot</translation>
+    </message>
+    <message>
+        <source>Special behaviour of the PSC inputs in a reset</source>
+        <translation>Comportamento particolare degli ingressi PSC durante un reset</translation>
+    </message>
+    <message>
+        <source>Start of the boot section by the pin HWB</source>
+        <translation>Avvio della sezione di boot tramite il pin HWB</translation>
+    </message>
+    <message>
+        <source>Start of the program after a reset</source>
+        <translation>Avvio del programma dopo un reset</translation>
+    </message>
+    <message>
+        <source>Start-up time</source>
+        <translation>Tempo di avvio</translation>
+    </message>
+    <message>
+        <source>Supply of the multi-voltage pins</source>
+        <translation>Alimentazione dei pin multitensione (MVIO)</translation>
+    </message>
+    <message>
+        <source>Time-out after power-on that blocks writing</source>
+        <translation>Attesa dopo l&apos;accensione durante la quale la scrittura è bloccata</translation>
+    </message>
+    <message>
+        <source>UPDI pin</source>
+        <translation>Pin UPDI</translation>
+    </message>
+    <message>
+        <source>UPDI, and the reset input on another pin</source>
+        <translation>UPDI, con l&apos;ingresso di reset su un altro pin</translation>
+    </message>
+    <message>
+        <source>Watchdog settings</source>
+        <translation>Impostazioni del watchdog</translation>
+    </message>
+    <message>
+        <source>Watchdog timeout</source>
+        <translation>Timeout del watchdog</translation>
+    </message>
+    <message>
+        <source>Writing of the flash by the program (SPM)</source>
+        <translation>Scrittura della flash da parte del programma (SPM)</translation>
+    </message>
+    <message>
+        <source>a voltage of their own</source>
+        <translation>tensione separata</translation>
+    </message>
+    <message>
+        <source>after %1 bytes</source>
+        <translation>dopo %1 byte</translation>
+    </message>
+    <message>
+        <source>always on</source>
+        <translation>sempre in funzione</translation>
+    </message>
+    <message>
+        <source>as delivered</source>
+        <translation>come alla consegna</translation>
+    </message>
+    <message>
+        <source>as ordinary pins</source>
+        <translation>come pin comuni</translation>
+    </message>
+    <message>
+        <source>as the program sets it</source>
+        <translation>a scelta del programma</translation>
+    </message>
+    <message>
+        <source>at address %1</source>
+        <translation>all&apos;indirizzo %1</translation>
+    </message>
+    <message>
+        <source>at the boot section</source>
+        <translation>all&apos;inizio della sezione di boot</translation>
+    </message>
+    <message>
+        <source>at the end of the flash</source>
+        <translation>alla fine della flash</translation>
+    </message>
+    <message>
+        <source>boot and application code sections</source>
+        <translation>sezione di boot e sezione codice dell&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>boot section</source>
+        <translation>sezione di boot</translation>
+    </message>
+    <message>
+        <source>brown-out detector on</source>
+        <translation>con rilevatore di brown-out</translation>
+    </message>
+    <message>
+        <source>capacitors with %1 kHz crystals and external RC</source>
+        <translation>condensatori con un quarzo da %1 kHz o un RC esterno</translation>
+    </message>
+    <message>
+        <source>ceramic resonator</source>
+        <translation>risonatore ceramico</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz</source>
+        <translation>risonatore ceramico da %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>ceramic resonator %1 to %2 MHz (CKOPT %3: crystal too, %4 MHz and more)</source>
+        <translation>risonatore ceramico da %1 a %2 MHz (CKOPT %3: anche quarzo, da %4 MHz in su)</translation>
+    </message>
+    <message>
+        <source>ceramic resonator from %1 MHz</source>
+        <translation>risonatore ceramico da %1 MHz in su</translation>
+    </message>
+    <message>
+        <source>ceramic resonator or external clock</source>
+        <translation>risonatore ceramico o clock esterno</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator</source>
+        <translation>quarzo o risonatore ceramico</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator %1 to %2 MHz (CKOPT %3: %4 MHz and more)</source>
+        <translation>quarzo o risonatore ceramico da %1 a %2 MHz (CKOPT %3: da %4 MHz in su)</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, high frequency</source>
+        <translation>quarzo o risonatore ceramico, alta frequenza</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, low frequency</source>
+        <translation>quarzo o risonatore ceramico, bassa frequenza</translation>
+    </message>
+    <message>
+        <source>crystal or ceramic resonator, medium frequency</source>
+        <translation>quarzo o risonatore ceramico, media frequenza</translation>
+    </message>
+    <message>
+        <source>crystal oscillator</source>
+        <translation>oscillatore a quarzo</translation>
+    </message>
+    <message>
+        <source>crystal oscillator %1 to %2 MHz</source>
+        <translation>oscillatore a quarzo da %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>crystal oscillator from %1 MHz</source>
+        <translation>oscillatore a quarzo da %1 MHz in su</translation>
+    </message>
+    <message>
+        <source>divided by %1</source>
+        <translation>divisione per %1</translation>
+    </message>
+    <message>
+        <source>erased too</source>
+        <translation>contenuto cancellato</translation>
+    </message>
+    <message>
+        <source>external RC oscillator</source>
+        <translation>oscillatore RC esterno</translation>
+    </message>
+    <message>
+        <source>external RC oscillator %1 to %2 MHz</source>
+        <translation>oscillatore RC esterno da %1 a %2 MHz</translation>
+    </message>
+    <message>
+        <source>external RC oscillator up to %1 MHz</source>
+        <translation>oscillatore RC esterno fino a %1 MHz</translation>
+    </message>
+    <message>
+        <source>external clock</source>
+        <translation>clock esterno</translation>
+    </message>
+    <message>
+        <source>fast rising power</source>
+        <translation>alimentazione a salita rapida</translation>
+    </message>
+    <message>
+        <source>forced to a level</source>
+        <translation>a un livello imposto</translation>
+    </message>
+    <message>
+        <source>full swing, which crystals above %1 MHz need</source>
+        <translation>piena ampiezza (full swing), necessaria ai quarzi oltre %1 MHz</translation>
+    </message>
+    <message>
+        <source>full-swing oscillator %1 to %2 MHz (supply above %3 V)</source>
+        <translation>oscillatore full swing da %1 a %2 MHz (alimentazione oltre %3 V)</translation>
+    </message>
+    <message>
+        <source>high</source>
+        <translation>stato alto</translation>
+    </message>
+    <message>
+        <source>internal %1 kHz oscillator</source>
+        <translation>oscillatore interno %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal capacitors</source>
+        <translation>condensatori interni</translation>
+    </message>
+    <message>
+        <source>internal high-frequency oscillator</source>
+        <translation>oscillatore interno ad alta frequenza</translation>
+    </message>
+    <message>
+        <source>internal oscillator</source>
+        <translation>oscillatore interno</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz</source>
+        <translation>oscillatore interno %1 MHz</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 MHz divided by %2</source>
+        <translation>oscillatore interno %1 MHz, diviso per %2</translation>
+    </message>
+    <message>
+        <source>internal oscillator %1 kHz</source>
+        <translation>oscillatore interno %1 kHz</translation>
+    </message>
+    <message>
+        <source>internal ultra-low-power oscillator %1 kHz</source>
+        <translation>oscillatore interno a bassissimo consumo (ULP) %1 kHz</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>contenuto conservato</translation>
+    </message>
+    <message>
+        <source>kept, but not if the chip is locked</source>
+        <translation>contenuto conservato, salvo se il chip è bloccato</translation>
+    </message>
+    <message>
+        <source>kept, even if the chip is locked</source>
+        <translation>contenuto conservato, anche se il chip è bloccato</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>modifica bloccata</translation>
+    </message>
+    <message>
+        <source>locked for writing</source>
+        <translation>scrittura bloccata</translation>
+    </message>
+    <message>
+        <source>locked for writing and reading</source>
+        <translation>scrittura e lettura bloccate</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>avvio lungo</translation>
+    </message>
+    <message>
+        <source>long start-up</source>
+        <translation>avvio lungo</translation>
+    </message>
+    <message>
+        <source>low</source>
+        <translation>stato basso</translation>
+    </message>
+    <message>
+        <source>low-frequency crystal (%1 kHz)</source>
+        <translation>quarzo a bassa frequenza (%1 kHz)</translation>
+    </message>
+    <message>
+        <source>no program can write it</source>
+        <translation>scrittura bloccata per ogni programma</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the application section can read it</source>
+        <translation>scrittura bloccata per ogni programma, lettura bloccata per quelli nella sezione applicazione</translation>
+    </message>
+    <message>
+        <source>no program can write it, and none in the boot section can read it</source>
+        <translation>scrittura bloccata per ogni programma, lettura bloccata per quelli nella sezione di boot</translation>
+    </message>
+    <message>
+        <source>no program in the application section can read it</source>
+        <translation>lettura bloccata per i programmi nella sezione applicazione</translation>
+    </message>
+    <message>
+        <source>no program in the boot section can read it</source>
+        <translation>lettura bloccata per i programmi nella sezione di boot</translation>
+    </message>
+    <message>
+        <source>no reset input</source>
+        <translation>nessun ingresso di reset</translation>
+    </message>
+    <message>
+        <source>no restriction</source>
+        <translation>nessuna restrizione</translation>
+    </message>
+    <message>
+        <source>not divided</source>
+        <translation>nessuna divisione</translation>
+    </message>
+    <message>
+        <source>not possible</source>
+        <translation>non possibile</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>off in operation, %1 V while the chip is erased</source>
+        <translation>nessuna soglia in funzionamento, %1 V durante la cancellazione del chip</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>sì</translation>
+    </message>
+    <message>
+        <source>on its pin</source>
+        <translation>sul suo pin</translation>
+    </message>
+    <message>
+        <source>on, and waking up waits until it is ready</source>
+        <translation>sì, e il risveglio attende che il rilevatore sia pronto</translation>
+    </message>
+    <message>
+        <source>on, but off in the deep sleep modes</source>
+        <translation>sì, tranne nelle modalità di sleep profondo</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>nessun blocco</translation>
+    </message>
+    <message>
+        <source>open to the program</source>
+        <translation>modifica possibile dal programma</translation>
+    </message>
+    <message>
+        <source>ordinary pin</source>
+        <translation>pin comune</translation>
+    </message>
+    <message>
+        <source>ordinary pin, as an input only</source>
+        <translation>pin comune, solo come ingresso</translation>
+    </message>
+    <message>
+        <source>other ones</source>
+        <translation>altri pin</translation>
+    </message>
+    <message>
+        <source>possible</source>
+        <translation>possibile</translation>
+    </message>
+    <message>
+        <source>reserved</source>
+        <translation>valore riservato</translation>
+    </message>
+    <message>
+        <source>reset input</source>
+        <translation>ingresso di reset</translation>
+    </message>
+    <message>
+        <source>sampled</source>
+        <translation>a campionamento</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>avvio breve</translation>
+    </message>
+    <message>
+        <source>short start-up</source>
+        <translation>avvio breve</translation>
+    </message>
+    <message>
+        <source>slowly rising power</source>
+        <translation>alimentazione a salita lenta</translation>
+    </message>
+    <message>
+        <source>small swing, which saves power</source>
+        <translation>piccola ampiezza, che risparmia energia</translation>
+    </message>
+    <message>
+        <source>start-up %1 clock, after a reset %2 clocks</source>
+        <translation>avvio %1 ciclo, dopo un reset %2 cicli</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks</source>
+        <translation>avvio %1 cicli</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks + %2 ms</source>
+        <translation>avvio %1 cicli + %2 ms</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks</source>
+        <translation>avvio %1 cicli, dopo un reset %2 cicli</translation>
+    </message>
+    <message>
+        <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
+        <translation>avvio %1 cicli, dopo un reset %2 cicli + %3 ms</translation>
+    </message>
+    <message>
+        <source>that of the chip</source>
+        <translation>quella del chip</translation>
+    </message>
+    <message>
+        <source>the internal oscillator needs it</source>
+        <translation>indispensabile per l&apos;oscillatore interno</translation>
+    </message>
+    <message>
+        <source>the whole flash is boot section</source>
+        <translation>tutta la flash è sezione di boot</translation>
+    </message>
+    <message>
+        <source>those of the main crystal</source>
+        <translation>quelli del quarzo principale</translation>
+    </message>
+    <message>
+        <source>transceiver oscillator</source>
+        <translation>oscillatore del transceiver</translation>
+    </message>
+    <message>
+        <source>very short start-up</source>
+        <translation>avvio molto breve</translation>
+    </message>
+    <message>
+        <source>watchdog oscillator %1 kHz</source>
+        <translation>oscillatore del watchdog %1 kHz</translation>
+    </message>
+    <message>
+        <source>when the pin is low at the end of a reset</source>
+        <translation>se il pin è a livello basso alla fine di un reset</translation>
+    </message>
+    <message>
+        <source>whole flash</source>
+        <translation>tutta la flash</translation>
+    </message>
+    <message>
+        <source>with internal capacitors</source>
+        <translation>con condensatori interni</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTEND is %1</source>
+        <translation>senza effetto finché BOOTEND è %1</translation>
+    </message>
+    <message>
+        <source>without effect while BOOTSIZE is %1</source>
+        <translation>senza effetto finché BOOTSIZE è %1</translation>
+    </message>
+    <message>
+        <source>without internal capacitors</source>
+        <translation>senza condensatori interni</translation>
+    </message>
+    <message>
+        <source>Watchdog</source>
+        <translation>Watchdog</translation>
     </message>
 </context>
 <context>
@@ -534,7 +1295,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
     <name>Fuses</name>
     <message>
         <source>Fuse bytes set to default values successfully.</source>
-        <translation>Byte dei fuse riportati ai valori predefiniti.</translation>
+        <translation>Valori di fabbrica inseriti nella finestra. Il chip non è cambiato.</translation>
     </message>
 </context>
 <context>
@@ -552,12 +1313,12 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
         <translation>Byte dei fuse letti correttamente.</translation>
     </message>
     <message>
-        <source>Not read: %1</source>
-        <translation>Non letti: %1</translation>
-    </message>
-    <message>
         <source>Do you want to write the fuse bytes all the same?</source>
         <translation>Scrivere comunque i byte dei fuse?</translation>
+    </message>
+    <message>
+        <source>Not read (the old values are still shown): %1</source>
+        <translation>Non letti (sono ancora mostrati i vecchi valori): %1</translation>
     </message>
 </context>
 <context>
@@ -576,7 +1337,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
     </message>
     <message>
         <source>Default</source>
-        <translation>Predefiniti</translation>
+        <translation>Di fabbrica</translation>
     </message>
 </context>
 <context>
@@ -587,7 +1348,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
     </message>
     <message>
         <source>No fuse bytes are loaded. Choose the microcontroller in the first tab.</source>
-        <translation>Nessun byte dei fuse caricato. Scegliere il microcontrollore nella prima scheda.</translation>
+        <translation>Nessun byte dei fuse caricato. Scegliere il microcontrollore nella prima linguetta.</translation>
     </message>
     <message>
         <source>An ISP programmer does not reach the fuse bytes of this microcontroller.</source>
@@ -616,7 +1377,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
         <translation>ERRORE NEL FILE JSON</translation>
     </message>
     <message>
-        <source>no JSON object</source>
+        <source>not a JSON object</source>
         <translation>non è un oggetto JSON</translation>
     </message>
 </context>
@@ -734,7 +1495,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione per questa famiglia,
 - Set a lower speed (Port &amp; Speed)</source>
         <translation>Il programmatore non ha rilevato il microcontrollore
 
-- Controllare i collegamenti e l&apos;alimentazione
+- Controllare il cablaggio e l&apos;alimentazione
 - Scegliere una velocità minore (Porta &amp; vel.)</translation>
     </message>
     <message>
@@ -757,7 +1518,7 @@ Il chip è vuoto o protetto in lettura (lock bit attivi).</translation>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
-        <translation>Vedere il messaggio nel registro in basso.</translation>
+        <translation>Vedere il messaggio nel log in basso.</translation>
     </message>
     <message>
         <source>UsbAsp not found.</source>
@@ -919,7 +1680,7 @@ Fuse bit verificati correttamente.</translation>
         <source>.
 Fuse bytes set to datasheet default values.</source>
         <translation>.
-Byte dei fuse impostati sui valori predefiniti del datasheet.</translation>
+Valori di fabbrica dei fuse inseriti nella finestra. Il chip non è cambiato.</translation>
     </message>
 </context>
 <context>
@@ -1268,7 +2029,7 @@ Eliminarlo comunque?</translation>
     <name>QWidgetTextControl</name>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation>Copia indirizzo del co&amp;llegamento</translation>
+        <translation>Copia indirizzo del &amp;link</translation>
     </message>
 </context>
 <context>
@@ -1425,7 +2186,7 @@ Aprire la pagina di download?</translation>
     </message>
     <message>
         <source>Could not open the link.</source>
-        <translation>Impossibile aprire il collegamento.</translation>
+        <translation>Impossibile aprire il link.</translation>
     </message>
 </context>
 </TS>
