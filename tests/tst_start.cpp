@@ -102,6 +102,7 @@ private slots:
             window->resize(window->width(), needed - 250);
             window->findChild<QTabWidget*>()->setCurrentIndex(1);
             emit avrdude->partChosen("AVR128DA48");
+            QTRY_VERIFY(inner->minimumSizeHint().height() > needed / 2); // the editors are there
             QTRY_VERIFY(!barOfBytes() && isScrolled(Qt::Vertical));
             for (const int height : {needed, needed + 1}) // at once
                 window->resize(window->width(), height);
