@@ -148,7 +148,7 @@ QString translated(const QString& text)
     for (QString& phrase : phrases) {
         QStringList numbers;
         QString source;
-        int end = 0;
+        decltype(phrase.size()) end = 0;
         for (auto matches = number.globalMatch(phrase); matches.hasNext();) {
             const auto match = matches.next();
             numbers += match.captured();
