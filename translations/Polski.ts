@@ -214,11 +214,11 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>Programowanie było rozpoczęte: układ może mieć tylko część bajtów fuse.</translation>
+        <translation>Programowanie już się zaczęło: być może zaprogramowano tylko część bajtów fuse.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
-        <translation>Kasowanie było rozpoczęte: układ może być pusty.</translation>
+        <translation>Kasowanie już się zaczęło: układ może być pusty.</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Jak odzyskać układ: programatorem z wysokonapięciowym UPDI.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Bez swojego kwarcu układ nie będzie odpowiadał, a z nim tylko przy szybkości poniżej 8 kHz (1 kHz z CKDIV8).
-Jak odzyskać układ: podłącz kwarc 32.768 kHz albo podaj sygnał zegarowy na wejście zegarowe układu, a potem wybierz mniejszą szybkość; możesz też użyć programatora wysokonapięciowego.</translation>
+Jak odzyskać układ: podłącz kwarc 32,768 kHz albo podaj sygnał zegarowy na wejście zegarowe układu, a potem wybierz mniejszą szybkość; możesz też użyć programatora wysokonapięciowego.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -1236,7 +1236,7 @@ Jak odzyskać układ: „Skasuj układ”.</translation>
     </message>
     <message>
         <source>those of the main crystal</source>
-        <translation>te, co kwarc główny</translation>
+        <translation>te same co kwarcu głównego</translation>
     </message>
     <message>
         <source>transceiver oscillator</source>
@@ -1578,8 +1578,8 @@ Czy go zastąpić?</translation>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Zaprogramowano pamięć Flash.
-Zweryfikowano pamięć Flash.
+        <translation>Zaprogramowano pamięć FLASH.
+Zweryfikowano pamięć FLASH.
 </translation>
     </message>
     <message>
