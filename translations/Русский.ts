@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>После «Записать»: проверьте контакты и питание и попробуйте меньшую скорость.</translation>
+        <translation>Если это случилось после «Записать»: проверьте контакты и питание и попробуйте меньшую скорость.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -242,7 +242,7 @@
     </message>
     <message>
         <source>avrdude has read none: most likely the microcontroller has no such byte.</source>
-        <translation>avrdude ничего не считал: скорее всего, в микроконтроллере нет такого байта.</translation>
+        <translation>avrdude ничего не прочитал: скорее всего, в микроконтроллере нет такого байта.</translation>
     </message>
 </context>
 <context>
@@ -487,7 +487,7 @@ The way back: a programmer with high-voltage UPDI.</source>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Без кварца МК не будет отвечать, а с кварцем ответит только на скорости ниже 8 kHz (с CKDIV8 ниже 1 kHz).
-Как вернуть доступ: подключите кварц на 32.768 kHz или подайте тактовый сигнал на тактовый вход, а затем выберите меньшую скорость; либо используйте высоковольтный программатор.</translation>
+Как вернуть доступ: подключите кварц на 32,768 kHz или подайте тактовый сигнал на тактовый вход, а затем выберите меньшую скорость; либо используйте высоковольтный программатор.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
