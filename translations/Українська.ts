@@ -84,7 +84,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>Після «Записати»: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
+        <translation>Якщо це сталося після «Записати»: перевірте контакти й живлення та спробуйте меншу швидкість.</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>The chip is locked: Erase all frees it, and takes what it holds.</source>
-        <translation>МК захищено: «Стерти все» зніме захист, але знищить його вміст.</translation>
+        <translation>МК захищено: «Стерти все» зніме захист, але знищить увесь вміст.</translation>
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
@@ -215,11 +215,11 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>Запис було розпочато: можливо, МК має лише деякі з фʼюз-байтів.</translation>
+        <translation>Запис уже почався: можливо, записано лише деякі фʼюз-байти.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
-        <translation>Стирання було розпочато: можливо, МК порожній.</translation>
+        <translation>Стирання вже почалося: можливо, МК порожній.</translation>
     </message>
 </context>
 <context>
@@ -487,7 +487,7 @@ The way back: a programmer with high-voltage UPDI.</source>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Без свого кварцу МК не відповідатиме, а з ним відповідатиме лише на швидкості, нижчій за 8 kHz (1 kHz із CKDIV8).
-Як повернути доступ: підключіть кварц на 32.768 kHz або подайте тактовий сигнал на тактовий вхід МК, а тоді виберіть меншу швидкість; або скористайтеся високовольтним програматором.</translation>
+Як повернути доступ: підключіть кварц на 32,768 kHz або подайте тактовий сигнал на тактовий вхід МК, а тоді виберіть меншу швидкість; або скористайтеся високовольтним програматором.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -1444,7 +1444,7 @@ The way back: Erase all.</source>
     </message>
     <message>
         <source>The file is empty: the chip is blank or locked, or the disk is full.</source>
-        <translation>Файл порожній: або МК порожній чи захищений від читання, або диск заповнено.</translation>
+        <translation>Файл порожній: або МК порожній чи захищений від зчитування, або диск заповнено.</translation>
     </message>
     <message>
         <source>%1 bytes</source>
@@ -1502,7 +1502,7 @@ The way back: Erase all.</source>
         <source>Could not read contents
 Device is either blank or read-protected (Lock Bits are set).</source>
         <translation>Не вдалося зчитати вміст
-МК порожній або захищений від читання (встановлено біти захисту).</translation>
+МК порожній або захищений від зчитування (встановлено біти захисту).</translation>
     </message>
     <message>
         <source>Wrong microcontroller selected.</source>
