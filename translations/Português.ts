@@ -214,11 +214,11 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>A gravação havia começado: o chip pode ter só alguns dos bytes de fuse.</translation>
+        <translation>A gravação já tinha começado: talvez só alguns dos bytes de fuse tenham sido gravados.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
-        <translation>O apagamento havia começado: o chip pode estar vazio.</translation>
+        <translation>O apagamento já tinha começado: o chip pode estar vazio.</translation>
     </message>
 </context>
 <context>
@@ -486,7 +486,7 @@ Para recuperá-lo: um gravador com UPDI de alta tensão.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Sem o seu cristal o chip não responderá e, com ele, só a uma velocidade abaixo de 8 kHz (1 kHz com CKDIV8).
-Para recuperá-lo: conecte um cristal de 32.768 kHz, ou aplique um clock ao pino de clock do chip, e escolha uma velocidade menor; ou use um gravador de alta tensão.</translation>
+Para recuperá-lo: conecte um cristal de 32,768 kHz, ou aplique um clock ao pino de clock do chip, e escolha uma velocidade menor; ou use um gravador de alta tensão.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -980,7 +980,7 @@ Para recuperá-lo: “Apagar tudo”.</translation>
     </message>
     <message>
         <source>erased too</source>
-        <translation>apaga-se também</translation>
+        <translation>também é apagada</translation>
     </message>
     <message>
         <source>external RC oscillator</source>
@@ -1124,7 +1124,7 @@ Para recuperá-lo: “Apagar tudo”.</translation>
     </message>
     <message>
         <source>not possible</source>
-        <translation>não possível</translation>
+        <translation>impossível</translation>
     </message>
     <message>
         <source>off</source>
@@ -1144,7 +1144,7 @@ Para recuperá-lo: “Apagar tudo”.</translation>
     </message>
     <message>
         <source>on, and waking up waits until it is ready</source>
-        <translation>sim, e ao despertar espera-se até ficar pronto</translation>
+        <translation>sim, e o despertar aguarda o detector ficar pronto</translation>
     </message>
     <message>
         <source>on, but off in the deep sleep modes</source>
@@ -1578,8 +1578,8 @@ Deseja substituí-lo?</translation>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash gravada com sucesso.
-Flash verificada com sucesso.
+        <translation>FLASH gravada com sucesso.
+FLASH verificada com sucesso.
 </translation>
     </message>
     <message>
