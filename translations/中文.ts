@@ -82,7 +82,7 @@
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>
-        <translation>“写入”之后：请检查接触和供电，并尝试更低的编程速度。</translation>
+        <translation>如果这发生在“写入”之后：请检查接触是否良好、供电是否正常，并尝试更低的编程速度。</translation>
     </message>
     <message>
         <source>A chip whose lock bits are set does not show what it holds.</source>
@@ -270,7 +270,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>找不到 avrdude: </translation>
+        <translation>找不到 avrdude：</translation>
     </message>
     <message>
         <source>Programmer not found.</source>
@@ -314,7 +314,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>Korvel 旁边没有 avrdude：将使用 %1。</translation>
+        <translation>Korvel 所在的文件夹中没有 avrdude：将使用 %1。</translation>
     </message>
 </context>
 <context>
@@ -711,11 +711,11 @@ The way back: Erase all.</source>
     </message>
     <message>
         <source>Monitor of the processor</source>
-        <translation>处理器监控</translation>
+        <translation>对处理器的监控</translation>
     </message>
     <message>
         <source>Monitor of the watchdog</source>
-        <translation>看门狗监控</translation>
+        <translation>对看门狗的监控</translation>
     </message>
     <message>
         <source>On-chip debugging</source>
