@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>%1 needs avrdude %2 or newer; the one that is installed does not know it.</source>
-        <translation>%1 には avrdude %2 以降が必要です。インストールされている版は対応していません。</translation>
+        <translation>%1 には avrdude %2 以降が必要です。インストールされているバージョンは対応していません。</translation>
     </message>
     <message>
         <source>The avrdude that is installed does not know %1.</source>
@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>It may be locked: with this programmer no avrdude frees it, with SerialUPDI or Atmel-ICE Erase all does.</source>
-        <translation>チップがロックされている可能性があります。この書込器では、どの版の avrdude でも解除できません。SerialUPDI か Atmel-ICE なら「全消去」で解除できます。</translation>
+        <translation>チップがロックされている可能性があります。この書込器では、どのバージョンの avrdude でも解除できません。SerialUPDI か Atmel-ICE なら「全消去」で解除できます。</translation>
     </message>
 </context>
 <context>
@@ -270,7 +270,7 @@
     <name>Avrdude</name>
     <message>
         <source>avrdude not found</source>
-        <translation>avrdude が見つかりません: </translation>
+        <translation>avrdude が見つかりません：</translation>
     </message>
     <message>
         <source>Programmer not found.</source>
@@ -583,7 +583,7 @@ The way back: Erase all.</source>
     </message>
     <message>
         <source>Check (CRC) of the boot section at the start: a failing one keeps the program from starting</source>
-        <translation>起動時のブート領域の CRC 検査：不合格ならプログラムは起動しません</translation>
+        <translation>起動時のブート領域の CRC 検査：不合格ならプログラムは起動しない</translation>
     </message>
     <message>
         <source>Clock failure detection</source>
@@ -663,7 +663,7 @@ The way back: Erase all.</source>
     </message>
     <message>
         <source>Flash check (CRC) at the start: a failing one keeps the program from starting</source>
-        <translation>起動時の Flash の CRC 検査：不合格ならプログラムは起動しません</translation>
+        <translation>起動時の Flash の CRC 検査：不合格ならプログラムは起動しない</translation>
     </message>
     <message>
         <source>For tests in the factory</source>
