@@ -1,7 +1,7 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Terimler: fuse biti ve fuse baytı yerleşik oldukları için kalır; kilit biti (lock bit), kalibrasyon baytı, hız
-     (bit clock). -->
+     (bit clock), düşük gerilim algılayıcısı (brown-out detector, BOD). -->
 <TS version="2.1" language="tr_TR" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>avrdude, Korvel&apos;in yanında değil: %1 kullanılıyor.</translation>
+        <translation>avrdude, Korvel&apos;in klasöründe değil: %1 kullanılıyor.</translation>
     </message>
 </context>
 <context>
@@ -485,8 +485,8 @@ Kurtarmak için: yüksek gerilimli UPDI destekli bir programlayıcı.</translati
     <message>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
-        <translation>Kristali olmadan çip yanıt vermeyecek, kristaliyle de yalnızca 8 kHz&apos;ten (CKDIV8 ile 1 kHz&apos;ten) düşük bir hızda yanıt verecek.
-Kurtarmak için: 32.768 kHz&apos;lik bir kristal bağlayın ya da çipin saat bacağına bir saat sinyali verin, ardından daha düşük bir hız seçin; veya yüksek gerilimli bir programlayıcı kullanın.</translation>
+        <translation>Kristali olmadan çip yanıt vermeyecek, kristaliyle de yalnızca 8 kHz&apos;den (CKDIV8 ile 1 kHz&apos;den) düşük bir hızda yanıt verecek.
+Kurtarmak için: 32,768 kHz&apos;lik bir kristal bağlayın ya da çipin saat bacağına bir saat sinyali verin, ardından daha düşük bir hız seçin; veya yüksek gerilimli bir programlayıcı kullanın.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
@@ -536,7 +536,7 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>%1 saat çevrimi, reset sonrası %2 çevrim + %3 ms</translation>
+        <translation>%1 saat çevrimi, reset sonrası ayrıca %2 çevrim + %3 ms</translation>
     </message>
     <message>
         <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
@@ -560,23 +560,23 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>Brown-out detector</source>
-        <translation>Brown-out algılayıcısı</translation>
+        <translation>Düşük gerilim algılayıcısı (BOD)</translation>
     </message>
     <message>
         <source>Brown-out detector in power-down</source>
-        <translation>Power-down kipinde brown-out algılayıcısı</translation>
+        <translation>Power-down uyku kipinde düşük gerilim algılayıcısı (BOD)</translation>
     </message>
     <message>
         <source>Brown-out detector in sleep</source>
-        <translation>Uyku kipinde brown-out algılayıcısı</translation>
+        <translation>Uyku kipinde düşük gerilim algılayıcısı (BOD)</translation>
     </message>
     <message>
         <source>Brown-out detector while active</source>
-        <translation>Çalışırken brown-out algılayıcısı</translation>
+        <translation>Çalışırken düşük gerilim algılayıcısı (BOD)</translation>
     </message>
     <message>
         <source>Brown-out level</source>
-        <translation>Brown-out eşiği</translation>
+        <translation>Düşük gerilim algılama eşiği (BOD)</translation>
     </message>
     <message>
         <source>Calibration of the internal oscillator</source>
@@ -716,7 +716,7 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>Monitor of the watchdog</source>
-        <translation>Watchdog izlemesi</translation>
+        <translation>Watchdog&apos;un izlenmesi</translation>
     </message>
     <message>
         <source>On-chip debugging</source>
@@ -816,7 +816,7 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>Sampling of the brown-out detector</source>
-        <translation>Brown-out algılayıcısının örneklemesi</translation>
+        <translation>Düşük gerilim algılayıcısının (BOD) örneklemesi</translation>
     </message>
     <message>
         <source>Serial programming (ISP)</source>
@@ -916,7 +916,7 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>brown-out detector on</source>
-        <translation>brown-out algılayıcısı açık</translation>
+        <translation>düşük gerilim algılayıcısı (BOD) açık</translation>
     </message>
     <message>
         <source>capacitors with %1 kHz crystals and external RC</source>
@@ -1204,7 +1204,7 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>start-up %1 clock, after a reset %2 clocks</source>
-        <translation>başlatma: %1 çevrim, reset sonrası %2 çevrim</translation>
+        <translation>başlatma: %1 çevrim, reset sonrası ayrıca %2 çevrim</translation>
     </message>
     <message>
         <source>start-up %1 clocks</source>
@@ -1216,11 +1216,11 @@ Kurtarmak için: “Tümünü sil”.</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks</source>
-        <translation>başlatma: %1 çevrim, reset sonrası %2 çevrim</translation>
+        <translation>başlatma: %1 çevrim, reset sonrası ayrıca %2 çevrim</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>başlatma: %1 çevrim, reset sonrası %2 çevrim + %3 ms</translation>
+        <translation>başlatma: %1 çevrim, reset sonrası ayrıca %2 çevrim + %3 ms</translation>
     </message>
     <message>
         <source>that of the chip</source>
@@ -1513,7 +1513,7 @@ Device is either blank or read-protected (Lock Bits are set).</source>
     </message>
     <message>
         <source>Invalid file format. Please choose another file.</source>
-        <translation>Geçersiz dosya biçimi. Lütfen başka bir dosya seçin.</translation>
+        <translation>Geçersiz dosya biçimi. Başka bir dosya seçin.</translation>
     </message>
     <message>
         <source>See the message in the dialog box.</source>
