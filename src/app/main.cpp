@@ -1,6 +1,6 @@
 #include "app/KorvelApp.h"
+#include "app/LegibleStyle.h"
 #include "app/Startup.h"
-#include "app/VisibleBoxes.h"
 #include "base/OnWindows.h"
 #include "base/ProductInfo.h"
 #include "base/Toolkit.h"
@@ -19,7 +19,7 @@ int main(int argc, char* argv[])
     Toolkit::useUtf8Names();
     OnWindows::leaveSystemFolder();
     Startup::leaveOutOpenGl();
-    VisibleBoxes::install();
+    LegibleStyle::install();
 
     // Before any widget: the texts that widgets show are translated while they are built.
     auto* translator = new JsonToQtTranslator(&application);

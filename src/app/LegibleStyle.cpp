@@ -1,4 +1,4 @@
-#include "app/VisibleBoxes.h"
+#include "app/LegibleStyle.h"
 
 #include "base/Contrast.h"
 
@@ -6,14 +6,14 @@
 #include <QPainter>
 #include <QStyleOption>
 
-void VisibleBoxes::install()
+void LegibleStyle::install()
 {
     const QString style = QApplication::style()->objectName();
     if (style == QLatin1String("fusion"))
-        QApplication::setStyle(new VisibleBoxes(style));
+        QApplication::setStyle(new LegibleStyle(style));
 }
 
-void VisibleBoxes::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+void LegibleStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -24,4 +24,12 @@ void VisibleBoxes::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     painter->setPen(Contrast::between(ground, text, Contrast::half));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+QRect LegibleStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                   const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    constexpr int lastLetter = 6; // pixels, that are missing at most
+    return control == CC_GroupBox && part == SC_GroupBoxLabel ? rect.adjusted(0, 0, lastLetter, 0) : rect;
 }
