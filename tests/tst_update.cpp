@@ -27,7 +27,7 @@ private slots:
         SocialLinksWidget corner;
         for (QToolButton* button : corner.findChildren<QToolButton*>())
             button->click();
-        const QTemporaryDir folder(QDir::tempPath() + "/a & \"b\" %20 XXXXXX");
+        const QTemporaryDir folder(QDir::tempPath() + "/a & 'b' %20 XXXXXX");
         const QString guide = folder.filePath("guide.html");
         QVERIFY(!AboutView(nullptr, guide).findChildren<QLabel*>().at(2)->text().contains("file:"));
         QVERIFY(QFile(guide).open(QIODevice::WriteOnly));
