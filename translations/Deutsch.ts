@@ -55,8 +55,8 @@
         <translation>Ein anderes Programm, etwa ein serieller Monitor, benutzt den Port %1: Bitte dieses Programm schließen.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Dort nimmt nichts die Verbindung an: Läuft die Gegenstelle, und stimmt die Adresse?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>An %1 nimmt nichts die Verbindung an: Läuft die Gegenstelle, und stimmt die Adresse?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -75,8 +75,8 @@
         <translation>Sitzt der Stecker richtig herum, und hat der Chip Strom?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>Das Tempo muss unter einem Viertel der Taktfrequenz des Chips liegen: ein niedrigeres versuchen.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>Das Tempo muss unter einem Viertel der Taktfrequenz des Chips liegen: ein niedrigeres als %1 versuchen.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

@@ -53,8 +53,8 @@
         <translation>Another program uses the port %1: close it, such as a serial monitor.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Nothing listens there: is it started, and is that the right address?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>Nothing listens at %1: is it started, and is that the right address?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -73,8 +73,8 @@
         <translation>Is the plug the right way round, and does the chip have power?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

@@ -54,8 +54,8 @@
         <translation>Otro programa usa el puerto %1, por ejemplo un monitor serie: ciérrelo.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Ahí no hay nada a la escucha: ¿está iniciado el programa y es correcta la dirección?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>En %1 no hay nada a la escucha: ¿está iniciado el programa y es correcta la dirección?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -74,8 +74,8 @@
         <translation>¿Está el conector en la posición correcta y tiene alimentación el chip?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>La velocidad debe ser menor que un cuarto de la frecuencia de reloj del chip: pruebe una menor.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>La velocidad debe ser menor que un cuarto de la frecuencia de reloj del chip: pruebe una menor que %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

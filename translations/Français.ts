@@ -55,8 +55,8 @@
         <translation>Un autre programme utilise le port %1, par exemple un moniteur série&#xa0;: fermez-le.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Rien n&apos;écoute à cet endroit&#xa0;: le programme est-il lancé, et l&apos;adresse est-elle la bonne&#xa0;?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>Rien n&apos;écoute à l&apos;adresse %1&#xa0;: le programme est-il lancé, et l&apos;adresse est-elle la bonne&#xa0;?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -75,8 +75,8 @@
         <translation>Le connecteur est-il dans le bon sens, et la puce est-elle alimentée&#xa0;?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>La vitesse doit être inférieure au quart de la fréquence d&apos;horloge de la puce&#xa0;: essayez une vitesse plus basse.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>La vitesse doit être inférieure au quart de la fréquence d&apos;horloge de la puce&#xa0;: essayez une vitesse inférieure à %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

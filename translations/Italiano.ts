@@ -55,8 +55,8 @@
         <translation>Un altro programma usa la porta %1, per esempio un monitor seriale: chiuderlo.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Lì non c&apos;è nulla in ascolto: il programma è avviato, e l&apos;indirizzo è giusto?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>Su %1 non c&apos;è nulla in ascolto: il programma è avviato, e l&apos;indirizzo è giusto?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -75,8 +75,8 @@
         <translation>Il connettore è nel verso giusto, e il chip è alimentato?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>La velocità deve essere inferiore a un quarto della frequenza di clock del chip: provarne una minore.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>La velocità deve essere inferiore a un quarto della frequenza di clock del chip: provarne una minore di %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

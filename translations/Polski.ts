@@ -54,8 +54,8 @@
         <translation>Inny program używa portu %1: zamknij go; może to być monitor portu szeregowego.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Nic tam nie nasłuchuje: czy serwer jest uruchomiony i czy adres jest właściwy?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>Nic nie nasłuchuje pod adresem %1: czy serwer jest uruchomiony i czy adres jest właściwy?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -74,8 +74,8 @@
         <translation>Czy wtyczka jest włożona właściwą stroną i czy układ ma zasilanie?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>Szybkość musi być mniejsza niż jedna czwarta częstotliwości zegara układu: spróbuj mniejszej.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>Szybkość musi być mniejsza niż jedna czwarta częstotliwości zegara układu: spróbuj mniejszej niż %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

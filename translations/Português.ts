@@ -54,8 +54,8 @@
         <translation>Outro programa está usando a porta %1: feche-o; pode ser um monitor serial.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Nada responde ali: o servidor foi iniciado e o endereço está certo?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>Nada responde em %1: o servidor foi iniciado e o endereço está certo?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -74,8 +74,8 @@
         <translation>O conector está no sentido certo, e o chip tem alimentação?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>A velocidade deve ficar abaixo de um quarto da frequência do clock do chip: tente uma menor.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>A velocidade deve ficar abaixo de um quarto da frequência do clock do chip: tente uma menor que %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

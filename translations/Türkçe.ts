@@ -54,8 +54,8 @@
         <translation>Başka bir program %1 portunu kullanıyor: onu kapatın; örneğin bir seri monitör olabilir.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Orada dinleyen yok: sunucu başlatıldı mı, adres doğru mu?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>%1 adresinde dinleyen yok: sunucu başlatıldı mı, adres doğru mu?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -74,8 +74,8 @@
         <translation>Konnektör doğru yönde takılı mı, çipin beslemesi var mı?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>Hız, çipin saat frekansının dörtte birinden düşük olmalı: daha düşük bir hız deneyin.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>Hız, çipin saat frekansının dörtte birinden düşük olmalı: %1 değerinden daha düşük bir hız deneyin.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

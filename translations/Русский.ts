@@ -55,8 +55,8 @@
         <translation>Порт %1 занят другой программой, например монитором порта: закройте её.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>По этому адресу никто не отвечает: запущена ли там программа и верен ли адрес?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>По адресу %1 никто не отвечает: запущена ли там программа и верен ли адрес?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -75,8 +75,8 @@
         <translation>Правильной ли стороной вставлен разъём и есть ли питание на МК?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>Скорость должна быть ниже четверти тактовой частоты МК: попробуйте меньшую.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>Скорость должна быть ниже четверти тактовой частоты МК: попробуйте меньшую, чем %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

@@ -55,8 +55,8 @@
         <translation>Порт %1 зайнято іншою програмою, наприклад монітором порту: закрийте її.</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>Там ніхто не відповідає: чи запущено сервер і чи правильна адреса?</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>За адресою %1 ніхто не відповідає: чи запущено сервер і чи правильна адреса?</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -75,8 +75,8 @@
         <translation>Чи правильною стороною вставлено розʼєм і чи є на МК живлення?</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>Швидкість має бути нижчою за чверть тактової частоти МК: спробуйте меншу.</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>Швидкість має бути нижчою за чверть тактової частоти МК: спробуйте меншу за %1.</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

@@ -53,8 +53,8 @@
         <translation>其他程序正在使用端口 %1：请关闭该程序，例如串口监视器。</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>该地址上没有程序在监听：程序启动了吗？地址正确吗？</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>地址 %1 上没有程序在监听：程序启动了吗？地址正确吗？</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -73,8 +73,8 @@
         <translation>插头方向正确吗？芯片有供电吗？</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>编程速度必须低于芯片时钟频率的四分之一：请尝试更低的编程速度。</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>编程速度必须低于芯片时钟频率的四分之一：请尝试低于 %1 的编程速度。</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

@@ -53,8 +53,8 @@
         <translation>別のプログラムがポート %1 を使用しています。シリアルモニタなど、そのプログラムを閉じてください。</translation>
     </message>
     <message>
-        <source>Nothing listens there: is it started, and is that the right address?</source>
-        <translation>そのアドレスでは何も待ち受けていません。起動していますか？アドレスは正しいですか？</translation>
+        <source>Nothing listens at %1: is it started, and is that the right address?</source>
+        <translation>%1 では何も待ち受けていません。起動していますか？アドレスは正しいですか？</translation>
     </message>
     <message>
         <source>Press the board&apos;s reset button just before.</source>
@@ -73,8 +73,8 @@
         <translation>コネクタの向きは正しいですか？チップに電源が供給されていますか？</translation>
     </message>
     <message>
-        <source>The speed has to be below a quarter of the chip&apos;s clock: try a lower one.</source>
-        <translation>速度はチップのクロック周波数の 4 分の 1 より低くする必要があります。より低い速度を試してください。</translation>
+        <source>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</source>
+        <translation>速度はチップのクロック周波数の 4 分の 1 より低くする必要があります。%1 より低い速度を試してください。</translation>
     </message>
     <message>
         <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>

@@ -168,9 +168,10 @@ QStringList portBusy(const Case& of)
                 .arg(Advice::portOf(of.run))};
 }
 
-QStringList portRefused(const Case&)
+QStringList portRefused(const Case& of)
 {
-    return {say(QT_TRANSLATE_NOOP("Advice", "Nothing listens there: is it started, and is that the right address?"))};
+    return {say(QT_TRANSLATE_NOOP("Advice", "Nothing listens at %1: is it started, and is that the right address?"))
+                .arg(Advice::portOf(of.run))};
 }
 
 /// The other entries of the catalogue that speak the same language.
@@ -210,8 +211,10 @@ QString tooFast(const Case& of)
                                      "The speed of this programmer is fixed: the chip's clock has to be above %1, and "
                                      "a new chip's is mostly 1 MHz."))
             .arg(nameFrom(slowest));
-    return say(QT_TRANSLATE_NOOP("Advice", "The speed has to be below a quarter of the chip's clock: try a lower one."))
-        + inBrackets(of.run.settings.speed.section(QStringLiteral(" ("), 0, 0));
+    const QString& speed = of.run.settings.speed;
+    return say(QT_TRANSLATE_NOOP("Advice",
+                                 "The speed has to be below a quarter of the chip's clock: try one below %1."))
+        .arg((speed.isEmpty() ? SettingsRecord().speed : speed).section(QStringLiteral(" ("), 0, 0));
 }
 
 /// A chip with UPDI, which needs no clock, but its pin and an open lock.
