@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSortFilterProxyModel>
 #include <QStylePainter>
 #include <QWheelEvent>
 
@@ -162,7 +163,10 @@ void ListComboBox::makeSearch()
     m_search->setContextMenuPolicy(Qt::NoContextMenu);
     m_search->setAccessibleName(accessibleName());
     m_search->installEventFilter(this);
-    m_completer = new EntryCompleter(model(), this);
+    auto* sorted = new QSortFilterProxyModel(this); // a plain name before those that add to it, for Enter
+    sorted->setSourceModel(model());
+    sorted->sort(0);
+    m_completer = new EntryCompleter(sorted, this);
     m_completer->setCompletionRole(wordsRole);
     m_completer->setFilterMode(Qt::MatchContains);
     m_completer->setMaxVisibleItems(maxVisibleItems());
