@@ -487,7 +487,7 @@ Der Weg zurück: ein Programmer mit Hochvolt-UPDI.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Ohne seinen Quarz antwortet der Chip danach nicht mehr, mit ihm nur noch bei einem Tempo unter 8 kHz (mit CKDIV8 unter 1 kHz).
-Der Weg zurück: einen Quarz mit 32.768 kHz anschließen oder einen Takt an den Takteingang anlegen, dann ein niedrigeres Tempo wählen; oder einen Hochvolt-Programmer benutzen.</translation>
+Der Weg zurück: einen Quarz mit 32,768 kHz anschließen oder einen Takt an den Takteingang anlegen, dann ein niedrigeres Tempo wählen; oder einen Hochvolt-Programmer benutzen.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.

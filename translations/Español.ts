@@ -486,7 +486,7 @@ Para recuperarlo: un programador con UPDI de alta tensión.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Sin su cristal el chip no responderá, y con él solo a una velocidad menor que 8 kHz (1 kHz con CKDIV8).
-Para recuperarlo: conecte un cristal de 32.768 kHz o aplique una señal de reloj a su pin de reloj, y luego elija una velocidad menor; o use un programador de alta tensión.</translation>
+Para recuperarlo: conecte un cristal de 32,768 kHz o aplique una señal de reloj a su pin de reloj, y luego elija una velocidad menor; o use un programador de alta tensión.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.

@@ -487,7 +487,7 @@ Pour la récupérer&#xa0;: un programmateur avec UPDI haute tension.</translatio
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Sans son quartz, la puce ne répondra pas&#xa0;; avec lui, elle ne répondra qu&apos;à une vitesse inférieure à 8&#xa0;kHz (1&#xa0;kHz avec CKDIV8).
-Pour la récupérer&#xa0;: branchez un quartz de 32.768&#xa0;kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse&#xa0;; ou utilisez un programmateur haute tension.</translation>
+Pour la récupérer&#xa0;: branchez un quartz de 32,768&#xa0;kHz ou appliquez un signal d&apos;horloge à sa broche d&apos;horloge, puis choisissez une vitesse plus basse&#xa0;; ou utilisez un programmateur haute tension.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.

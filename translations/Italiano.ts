@@ -487,7 +487,7 @@ Per recuperarlo: un programmatore con UPDI ad alta tensione.</translation>
         <source>Without its crystal the chip will not answer, and with it only at a speed below 8 kHz (1 kHz with CKDIV8).
 The way back: connect a crystal of 32.768 kHz, or feed a clock into its clock pin, and choose a lower speed; or use a high-voltage programmer.</source>
         <translation>Senza il suo quarzo il chip non risponderà; con il quarzo risponderà solo a una velocità inferiore a 8 kHz (1 kHz con CKDIV8).
-Per recuperarlo: collegare un quarzo da 32.768 kHz o applicare un clock al suo pin di clock, poi scegliere una velocità minore; oppure usare un programmatore ad alta tensione.</translation>
+Per recuperarlo: collegare un quarzo da 32,768 kHz o applicare un clock al suo pin di clock, poi scegliere una velocità minore; oppure usare un programmatore ad alta tensione.</translation>
     </message>
     <message>
         <source>So slow a chip will answer only at a speed below a quarter of its clock.
