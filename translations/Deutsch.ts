@@ -215,7 +215,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>Das Schreiben hatte begonnen: Der Chip hat vielleicht nur einige der Fuse-Bytes.</translation>
+        <translation>Das Schreiben hatte begonnen: Vielleicht sind nur einige der Fuse-Bytes geschrieben.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>avrdude liegt nicht neben Korvel: Stattdessen wird %1 benutzt.</translation>
+        <translation>avrdude liegt nicht in Korvels Ordner: Stattdessen wird %1 benutzt.</translation>
     </message>
 </context>
 <context>
@@ -1579,8 +1579,8 @@ Soll es überschrieben werden?</translation>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash erfolgreich geschrieben.
-Flash erfolgreich geprüft.
+        <translation>FLASH erfolgreich geschrieben.
+FLASH erfolgreich geprüft.
 </translation>
     </message>
     <message>

@@ -214,11 +214,11 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>La grabación había comenzado: es posible que el chip tenga solo algunos de los bytes de fusibles.</translation>
+        <translation>La grabación había empezado: puede que solo se hayan grabado algunos de los bytes de fusibles.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
-        <translation>El borrado había comenzado: es posible que el chip esté vacío.</translation>
+        <translation>El borrado había empezado: puede que el chip esté vacío.</translation>
     </message>
 </context>
 <context>
@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>avrdude no está junto a Korvel: en su lugar se usa %1.</translation>
+        <translation>avrdude no está en la carpeta de Korvel: en su lugar se usa %1.</translation>
     </message>
 </context>
 <context>
@@ -1578,8 +1578,8 @@ Do you want to overwrite it?</source>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash grabada correctamente.
-Flash verificada correctamente.
+        <translation>FLASH grabada correctamente.
+FLASH verificada correctamente.
 </translation>
     </message>
     <message>

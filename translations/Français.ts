@@ -215,7 +215,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>L&apos;écriture avait commencé&#xa0;: la puce n&apos;a peut-être qu&apos;une partie des octets de fusibles.</translation>
+        <translation>L&apos;écriture avait commencé&#xa0;: seuls certains octets de fusibles sont peut-être écrits.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>avrdude n&apos;est pas à côté de Korvel&#xa0;: %1 est utilisé à la place.</translation>
+        <translation>avrdude n&apos;est pas dans le dossier de Korvel&#xa0;: %1 est utilisé à la place.</translation>
     </message>
 </context>
 <context>
@@ -1579,8 +1579,8 @@ Voulez-vous le remplacer&#xa0;?</translation>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash écrite.
-Flash vérifiée.
+        <translation>FLASH écrite.
+FLASH vérifiée.
 </translation>
     </message>
     <message>

@@ -215,7 +215,7 @@
     </message>
     <message>
         <source>Writing had begun: the chip may have some of the fuse bytes.</source>
-        <translation>La scrittura era iniziata: il chip potrebbe avere solo una parte dei byte dei fuse.</translation>
+        <translation>La scrittura era iniziata: forse sono stati scritti solo alcuni dei byte dei fuse.</translation>
     </message>
     <message>
         <source>Erasing had begun: the chip may be empty.</source>
@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>avrdude non è accanto a Korvel: viene usato %1.</translation>
+        <translation>avrdude non è nella cartella di Korvel: viene usato %1.</translation>
     </message>
 </context>
 <context>
@@ -1579,8 +1579,8 @@ Sovrascriverlo?</translation>
         <source>Flash write successfully.
 Flash verify successfully.
 </source>
-        <translation>Flash scritta correttamente.
-Flash verificata correttamente.
+        <translation>FLASH scritta correttamente.
+FLASH verificata correttamente.
 </translation>
     </message>
     <message>

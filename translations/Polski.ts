@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>Obok programu Korvel nie ma avrdude. Zamiast niego użyto %1.</translation>
+        <translation>W folderze programu Korvel nie ma avrdude. Zamiast niego użyto %1.</translation>
     </message>
 </context>
 <context>

@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>O avrdude não está ao lado do Korvel: usando %1.</translation>
+        <translation>O avrdude não está na pasta do Korvel: usando %1.</translation>
     </message>
 </context>
 <context>

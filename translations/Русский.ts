@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>Рядом с Korvel нет avrdude. Используется %1.</translation>
+        <translation>В папке Korvel нет avrdude. Используется %1.</translation>
     </message>
 </context>
 <context>

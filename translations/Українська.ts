@@ -316,7 +316,7 @@
     </message>
     <message>
         <source>avrdude is not beside Korvel: %1 is used.</source>
-        <translation>Поруч із Korvel немає avrdude. Натомість використано %1.</translation>
+        <translation>У теці Korvel немає avrdude. Натомість використано %1.</translation>
     </message>
 </context>
 <context>
