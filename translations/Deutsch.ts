@@ -537,7 +537,7 @@ Der Weg zurück: „Alles löschen“.</translation>
     </message>
     <message>
         <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>%1 Takte, nach einem Reset %2 Takte + %3 ms</translation>
+        <translation>%1 Takte, nach einem Reset zusätzlich %2 Takte + %3 ms</translation>
     </message>
     <message>
         <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
@@ -1205,7 +1205,7 @@ Der Weg zurück: „Alles löschen“.</translation>
     </message>
     <message>
         <source>start-up %1 clock, after a reset %2 clocks</source>
-        <translation>Anlauf %1 Takt, nach einem Reset %2 Takte</translation>
+        <translation>Anlauf %1 Takt, nach einem Reset zusätzlich %2 Takte</translation>
     </message>
     <message>
         <source>start-up %1 clocks</source>
@@ -1217,11 +1217,11 @@ Der Weg zurück: „Alles löschen“.</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks</source>
-        <translation>Anlauf %1 Takte, nach einem Reset %2 Takte</translation>
+        <translation>Anlauf %1 Takte, nach einem Reset zusätzlich %2 Takte</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>Anlauf %1 Takte, nach einem Reset %2 Takte + %3 ms</translation>
+        <translation>Anlauf %1 Takte, nach einem Reset zusätzlich %2 Takte + %3 ms</translation>
     </message>
     <message>
         <source>that of the chip</source>

@@ -536,7 +536,7 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>%1 ciclos de reloj, tras un reset %2 ciclos + %3 ms</translation>
+        <translation>%1 ciclos de reloj, y tras un reset otros %2 ciclos + %3 ms</translation>
     </message>
     <message>
         <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
@@ -1124,7 +1124,7 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>not possible</source>
-        <translation>no posible</translation>
+        <translation>imposible</translation>
     </message>
     <message>
         <source>off</source>
@@ -1144,7 +1144,7 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>on, and waking up waits until it is ready</source>
-        <translation>sí, y al despertar se espera a que esté listo</translation>
+        <translation>sí, y al despertar se espera a que el detector esté listo</translation>
     </message>
     <message>
         <source>on, but off in the deep sleep modes</source>
@@ -1204,7 +1204,7 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>start-up %1 clock, after a reset %2 clocks</source>
-        <translation>arranque: %1 ciclo, tras un reset %2 ciclos</translation>
+        <translation>arranque: %1 ciclo, y tras un reset otros %2 ciclos</translation>
     </message>
     <message>
         <source>start-up %1 clocks</source>
@@ -1216,11 +1216,11 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks</source>
-        <translation>arranque: %1 ciclos, tras un reset %2 ciclos</translation>
+        <translation>arranque: %1 ciclos, y tras un reset otros %2 ciclos</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>arranque: %1 ciclos, tras un reset %2 ciclos + %3 ms</translation>
+        <translation>arranque: %1 ciclos, y tras un reset otros %2 ciclos + %3 ms</translation>
     </message>
     <message>
         <source>that of the chip</source>

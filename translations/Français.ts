@@ -537,7 +537,7 @@ Pour la récupérer&#xa0;: «&#xa0;Tout effacer&#xa0;».</translation>
     </message>
     <message>
         <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>%1 cycles, après un reset %2 cycles + %3&#xa0;ms</translation>
+        <translation>%1 cycles, après un reset encore %2 cycles + %3&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
@@ -1205,7 +1205,7 @@ Pour la récupérer&#xa0;: «&#xa0;Tout effacer&#xa0;».</translation>
     </message>
     <message>
         <source>start-up %1 clock, after a reset %2 clocks</source>
-        <translation>démarrage %1 cycle, après un reset %2 cycles</translation>
+        <translation>démarrage %1 cycle, après un reset encore %2 cycles</translation>
     </message>
     <message>
         <source>start-up %1 clocks</source>
@@ -1217,11 +1217,11 @@ Pour la récupérer&#xa0;: «&#xa0;Tout effacer&#xa0;».</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks</source>
-        <translation>démarrage %1 cycles, après un reset %2 cycles</translation>
+        <translation>démarrage %1 cycles, après un reset encore %2 cycles</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>démarrage %1 cycles, après un reset %2 cycles + %3&#xa0;ms</translation>
+        <translation>démarrage %1 cycles, après un reset encore %2 cycles + %3&#xa0;ms</translation>
     </message>
     <message>
         <source>that of the chip</source>

@@ -537,7 +537,7 @@ Per recuperarlo: «Cancella tutto».</translation>
     </message>
     <message>
         <source>%1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>%1 cicli, dopo un reset %2 cicli + %3 ms</translation>
+        <translation>%1 cicli, dopo un reset altri %2 cicli + %3 ms</translation>
     </message>
     <message>
         <source>%1 ms, if the reset pin is an ordinary pin or the reset input</source>
@@ -1205,7 +1205,7 @@ Per recuperarlo: «Cancella tutto».</translation>
     </message>
     <message>
         <source>start-up %1 clock, after a reset %2 clocks</source>
-        <translation>avvio %1 ciclo, dopo un reset %2 cicli</translation>
+        <translation>avvio %1 ciclo, dopo un reset altri %2 cicli</translation>
     </message>
     <message>
         <source>start-up %1 clocks</source>
@@ -1217,11 +1217,11 @@ Per recuperarlo: «Cancella tutto».</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks</source>
-        <translation>avvio %1 cicli, dopo un reset %2 cicli</translation>
+        <translation>avvio %1 cicli, dopo un reset altri %2 cicli</translation>
     </message>
     <message>
         <source>start-up %1 clocks, after a reset %2 clocks + %3 ms</source>
-        <translation>avvio %1 cicli, dopo un reset %2 cicli + %3 ms</translation>
+        <translation>avvio %1 cicli, dopo un reset altri %2 cicli + %3 ms</translation>
     </message>
     <message>
         <source>that of the chip</source>
