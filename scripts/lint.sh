@@ -47,14 +47,15 @@ stale=$(git grep -noE 'korvel[-_][0-9]+(\.[0-9]+)*' -- '*.md' '*.sh' | grep -vE 
 [ -z "$stale" ] || { printf 'of another version than %s:\n%s\n' "$version" "$stale" >&2; exit 1; }
 echo "version: $version of $date everywhere"
 
-mapfile -t sources < <(git ls-files 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' \
+sources_in() { git ls-files --cached --others --exclude-standard "$@"; } # new ones, too
+mapfile -t sources < <(sources_in 'src/*.cpp' 'src/*.h' 'tools/*.cpp' 'tools/*.h' 'tests/*.cpp' 'tests/*.h' \
     'bench/*.cpp' 'fuzz/*.cpp' 'translations/*.cpp')
 clang-format --dry-run --Werror "${sources[@]}"
 echo "clang-format: ${#sources[@]} files are in order"
 
 # clang-tidy wants the generated headers and a record of how each file is compiled.
 build release
-mapfile -t units < <(git ls-files 'src/*.cpp' 'tools/*.cpp')
+mapfile -t units < <(sources_in 'src/*.cpp' 'tools/*.cpp')
 printf '%s\0' "${units[@]}" | xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/release
 echo "clang-tidy: ${#units[@]} files are in order"
 
