@@ -2,7 +2,8 @@
 <!DOCTYPE TS>
 <!-- Begriffe: Fuse-Bit, Fuse-Byte und Lock-Bit bleiben, wie es unter Elektronikern üblich ist; Kalibrierbyte; Tempo für
      die Geschwindigkeit des Programmers, Takt nur für den des Chips; der Programmer bleibt ebenfalls; Boot-Bereich,
-     Applikationsbereich; Anlauf; ab Werk, Werkswert, Werkseinstellung; Dezimalpunkte wie im Datenblatt. -->
+     Applikationsbereich; Anlauf; ab Werk, Werkswert, Werkseinstellung; Dezimalpunkte in Fuse-Bedeutungen wie im
+     Datenblatt, Dezimalkommas in Sätzen. -->
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
