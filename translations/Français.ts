@@ -2,7 +2,8 @@
 <!DOCTYPE TS>
 <!-- Termes : fusibles et octets de fusibles (fuse bits), bits de verrouillage (lock bits), octet de calibration, vitesse
      (bit clock), section de boot, section d'application, brown-out, watchdog et reset tels quels; d'usine (factory);
-     oui et non pour on et off, qui vont à tous les genres; point décimal comme dans les fiches techniques. -->
+     oui et non pour on et off, qui vont à tous les genres; point décimal comme dans les fiches techniques pour le sens
+     des fusibles, virgule dans les phrases. -->
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -377,7 +378,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«&#xa0;Ajouter&#xa0;»&#xa0;: enregistre dans un profil.
+        <translation>«&#xa0;Ajouter&#xa0;»&#xa0;: enregistre les réglages.
 «&#xa0;Retirer&#xa0;»&#xa0;: supprime le profil choisi.</translation>
     </message>
 </context>
@@ -565,15 +566,15 @@ Pour la récupérer&#xa0;: «&#xa0;Tout effacer&#xa0;».</translation>
     </message>
     <message>
         <source>Brown-out detector in power-down</source>
-        <translation>Détecteur de brown-out en mode power-down</translation>
+        <translation>Détecteur de brown-out quand la puce est en mode power-down</translation>
     </message>
     <message>
         <source>Brown-out detector in sleep</source>
-        <translation>Détecteur de brown-out en veille</translation>
+        <translation>Détecteur de brown-out quand la puce est en veille</translation>
     </message>
     <message>
         <source>Brown-out detector while active</source>
-        <translation>Détecteur de brown-out en fonctionnement</translation>
+        <translation>Détecteur de brown-out quand la puce est active</translation>
     </message>
     <message>
         <source>Brown-out level</source>
