@@ -2,7 +2,8 @@
 <!DOCTYPE TS>
 <!-- Termini: fuse, fuse bit e lock bit restano in inglese, come d'uso; byte di calibrazione; velocità (bit clock); clock
      solo per quello del chip; sezione di boot, sezione applicazione; di fabbrica; scheda è il circuito, linguetta quella
-     della finestra, link quello del web; sì e no per on e off, per ogni genere; punto decimale come nei datasheet. -->
+     della finestra, link quello del web; sì e no per on e off, per ogni genere; punto decimale come nei datasheet
+     per i significati dei fuse, virgola nelle frasi. -->
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -377,7 +378,7 @@
     <message>
         <source>&quot;Add&quot; - save current settings as a profile.
 &quot;Remove&quot; - remove selected profile.</source>
-        <translation>«Aggiungi»: salva tutto come profilo.
+        <translation>«Aggiungi»: salva le impostazioni.
 «Rimuovi»: rimuove il profilo scelto.</translation>
     </message>
 </context>
@@ -565,15 +566,15 @@ Per recuperarlo: «Cancella tutto».</translation>
     </message>
     <message>
         <source>Brown-out detector in power-down</source>
-        <translation>Rilevatore di brown-out in modalità power-down</translation>
+        <translation>Rilevatore di brown-out con il chip in modalità power-down</translation>
     </message>
     <message>
         <source>Brown-out detector in sleep</source>
-        <translation>Rilevatore di brown-out in modalità sleep</translation>
+        <translation>Rilevatore di brown-out con il chip in modalità sleep</translation>
     </message>
     <message>
         <source>Brown-out detector while active</source>
-        <translation>Rilevatore di brown-out in funzionamento</translation>
+        <translation>Rilevatore di brown-out con il chip attivo</translation>
     </message>
     <message>
         <source>Brown-out level</source>
