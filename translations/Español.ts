@@ -1,7 +1,8 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <!-- Términos: fusibles y bytes de fusibles (fuse bits), bits de bloqueo (lock bits), byte de calibración, velocidad (bit
-     clock); «grabar» para escribir en el chip. -->
+     clock); «grabar» para escribir en el chip; punto decimal como en las hojas de datos en los significados de los
+     fusibles, coma en las frases. -->
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
     <name>Advice</name>
@@ -564,15 +565,15 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>Brown-out detector in power-down</source>
-        <translation>Detector de brown-out en el modo power-down</translation>
+        <translation>Detector de brown-out con el chip en el modo power-down</translation>
     </message>
     <message>
         <source>Brown-out detector in sleep</source>
-        <translation>Detector de brown-out en reposo</translation>
+        <translation>Detector de brown-out con el chip en reposo</translation>
     </message>
     <message>
         <source>Brown-out detector while active</source>
-        <translation>Detector de brown-out en funcionamiento</translation>
+        <translation>Detector de brown-out con el chip activo</translation>
     </message>
     <message>
         <source>Brown-out level</source>
@@ -1064,7 +1065,7 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>locked</source>
-        <translation>con bloqueo</translation>
+        <translation>cambios bloqueados</translation>
     </message>
     <message>
         <source>locked for writing</source>
@@ -1132,7 +1133,7 @@ Para recuperarlo: «Borrar todo».</translation>
     </message>
     <message>
         <source>off in operation, %1 V while the chip is erased</source>
-        <translation>sin efecto en funcionamiento, %1 V mientras se borra el chip</translation>
+        <translation>desactivado en funcionamiento, %1 V mientras se borra el chip</translation>
     </message>
     <message>
         <source>on</source>
