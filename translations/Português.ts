@@ -568,11 +568,11 @@ Para recuperá-lo: “Apagar tudo”.</translation>
     </message>
     <message>
         <source>Brown-out detector in sleep</source>
-        <translation>Detector de brown-out em repouso</translation>
+        <translation>Detector de brown-out com o chip em repouso</translation>
     </message>
     <message>
         <source>Brown-out detector while active</source>
-        <translation>Detector de brown-out em operação</translation>
+        <translation>Detector de brown-out com o chip em operação</translation>
     </message>
     <message>
         <source>Brown-out level</source>
