@@ -263,7 +263,11 @@ private slots:
             QVERIFY(boxes.wait().join('|').startsWith(question));
             QCOMPARE(window.isVisible(), isOpen);
         }
-        folder.write("go", "");
+        boxes.onOpen = [&folder] {
+            folder.write("go", "");
+            QTRY_VERIFY(!QApplication::activeModalWidget()); // avrdude was quicker than the answer
+        };
+        QVERIFY(!close() && boxes.wait().join('|').startsWith(question));
         QTRY_VERIFY(!avrdude->isBusy());
         boxes.take();
         avrdude->settings().avrdude = "no such program";

@@ -258,9 +258,17 @@ void KorvelApp::closeEvent(QCloseEvent* event)
 
 void KorvelApp::askToClose()
 {
-    if (Box::ask(this, ProductInfo::name,
+    Box question(QMessageBox::Question, ProductInfo::name,
                  tr("avrdude is still working on the chip. If it is ended now, the chip is left as it is: perhaps "
                     "erased, perhaps half written."),
-                 tr("Do you want to close Korvel all the same?")))
+                 tr("Do you want to close Korvel all the same?"), QMessageBox::Yes | QMessageBox::No, this);
+    question.setDefaultButton(QMessageBox::No);
+    // Once avrdude is done, the question is no longer true. It is queued for the next step of a board to begin first.
+    const auto withdraw = [this, &question] {
+        if (!m_avrdude->isRunning())
+            question.reject();
+    };
+    connect(m_avrdude, &Avrdude::runningChanged, &question, withdraw, Qt::QueuedConnection);
+    if (question.exec() == QMessageBox::Yes)
         close();
 }
