@@ -1,5 +1,6 @@
 #include "advice/Advice.h"
 #include "advice/Surroundings.h"
+#include "settings/SettingsModel.h"
 #include "support/Table.h"
 
 class tst_Advice : public QObject
@@ -64,6 +65,8 @@ private:
                 surroundings.serialPorts += word;
             else if (word.startsWith("usb"))
                 surroundings.knowsUsb = true;
+            else if (word == "slowest")
+                run.settings.speed = SettingsModel().speedList().constLast();
             else if (word != "Windows")
                 surroundings.portGroup = word;
         }

@@ -80,8 +80,12 @@
         <translation>Das Tempo muss unter einem Viertel der Taktfrequenz des Chips liegen: ein niedrigeres als %1 versuchen.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Seine Fuses verlangen vielleicht einen Takt, der fehlt, oder machen den Reset-Pin zu einem gewöhnlichen Pin.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Seine Fuses verlangen vielleicht einen Takt, der fehlt: Legen Sie etwa 1 MHz an seinen Takteingang an.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Seine Fuses geben dem Reset-Pin vielleicht eine andere Aufgabe: Ein Hochvolt-Programmer holt ihn zurück.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

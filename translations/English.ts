@@ -77,8 +77,12 @@
         <translation>The speed has to be below a quarter of the chip&apos;s clock: try one below %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

@@ -79,8 +79,12 @@
         <translation>La velocidad debe ser menor que un cuarto de la frecuencia de reloj del chip: pruebe una menor que %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Puede que los fusibles del chip requieran un reloj que no está presente, o que usen el pin de reset como pin normal.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Puede que los fusibles del chip requieran un reloj que no está presente: aplique alrededor de 1 MHz a su pin de reloj.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Puede que los fusibles del chip den otra función al pin de reset: un programador de alta tensión lo recupera.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

@@ -80,8 +80,12 @@
         <translation>La vitesse doit être inférieure au quart de la fréquence d&apos;horloge de la puce&#xa0;: essayez une vitesse inférieure à %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Ses fusibles demandent peut-être une horloge absente, ou font de la broche de reset une broche ordinaire.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Ses fusibles demandent peut-être une horloge absente&#xa0;: appliquez environ 1&#xa0;MHz à sa broche d&apos;horloge.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Ses fusibles donnent peut-être une autre fonction à la broche de reset&#xa0;: un programmateur haute tension permet de la récupérer.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

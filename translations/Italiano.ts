@@ -80,8 +80,12 @@
         <translation>La velocità deve essere inferiore a un quarto della frequenza di clock del chip: provarne una minore di %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Forse i suoi fuse richiedono un clock che manca, o usano il pin di reset come pin comune.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Forse i suoi fuse richiedono un clock che manca: applicare circa 1 MHz al suo pin di clock.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Forse i suoi fuse danno al pin di reset un&apos;altra funzione: un programmatore ad alta tensione lo recupera.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

@@ -78,8 +78,12 @@
         <translation>Szybkość musi być mniejsza niż jedna czwarta częstotliwości zegara układu: spróbuj mniejszej niż %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Fusebity układu mogą wymagać zegara, którego nie ma, albo zamieniać pin RESET w zwykły pin.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Fusebity układu mogą wymagać zegara, którego nie ma: podaj około 1 MHz na jego wejście zegarowe.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Fusebity układu mogą przypisywać pinowi RESET inną funkcję: układ można odzyskać programatorem wysokonapięciowym.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

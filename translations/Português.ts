@@ -78,8 +78,12 @@
         <translation>A velocidade deve ficar abaixo de um quarto da frequência do clock do chip: tente uma menor que %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Os fuses do chip talvez exijam um clock ausente ou usem o pino de reset como pino comum.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Os fuses do chip talvez exijam um clock ausente: aplique cerca de 1 MHz ao pino de clock do chip.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Os fuses do chip talvez deem ao pino de reset outra função: um gravador de alta tensão recupera o chip.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

@@ -78,8 +78,12 @@
         <translation>Hız, çipin saat frekansının dörtte birinden düşük olmalı: %1 değerinden daha düşük bir hız deneyin.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Çipin fuse bitleri var olmayan bir saat sinyali istiyor ya da reset bacağını sıradan bir bacak yapıyor olabilir.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Çipin fuse bitleri var olmayan bir saat sinyali istiyor olabilir: çipin saat bacağına yaklaşık 1 MHz verin.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Çipin fuse bitleri reset bacağına başka bir işlev vermiş olabilir: yüksek gerilimli bir programlayıcı çipi kurtarır.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

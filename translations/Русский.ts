@@ -79,8 +79,12 @@
         <translation>Скорость должна быть ниже четверти тактовой частоты МК: попробуйте меньшую, чем %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Возможно, фьюз-биты МК задают источник тактирования, которого нет, или превращают вывод сброса в обычный.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Возможно, фьюз-биты МК задают источник тактирования, которого нет: подайте на тактовый вход около 1 МГц.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Возможно, фьюз-биты МК дали выводу сброса другое назначение: вернуть доступ можно высоковольтным программатором.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

@@ -79,8 +79,12 @@
         <translation>Швидкість має бути нижчою за чверть тактової частоти МК: спробуйте меншу за %1.</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>Можливо, фʼюз-біти МК вимагають тактового сигналу, якого немає, або роблять вивід скидання звичайним.</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>Можливо, фʼюз-біти МК вимагають тактового сигналу, якого немає: подайте на тактовий вхід МК близько 1 МГц.</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>Можливо, фʼюз-біти МК надають виводу скидання іншу функцію: повернути доступ можна високовольтним програматором.</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

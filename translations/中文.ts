@@ -77,8 +77,12 @@
         <translation>编程速度必须低于芯片时钟频率的四分之一：请尝试低于 %1 的编程速度。</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>芯片的熔丝位可能设定了并不存在的时钟源，或将复位引脚用作普通引脚。</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>芯片的熔丝位可能设定了并不存在的时钟源：请向时钟引脚输入约 1 MHz 的时钟信号。</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>芯片的熔丝位可能将复位引脚改作他用：可用高压编程器恢复。</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

@@ -77,8 +77,12 @@
         <translation>速度はチップのクロック周波数の 4 分の 1 より低くする必要があります。%1 より低い速度を試してください。</translation>
     </message>
     <message>
-        <source>Its fuses may ask for a clock that is not there, or use the reset pin as an ordinary one.</source>
-        <translation>ヒューズビットが、供給されていないクロックを必要としているか、リセットピンを通常のピンにしている可能性があります。</translation>
+        <source>Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin.</source>
+        <translation>ヒューズビットが、供給されていないクロックを必要としている可能性があります。クロックピンに約 1 MHz のクロックを入力してください。</translation>
+    </message>
+    <message>
+        <source>Its fuses may use the reset pin for something else: a high-voltage programmer brings it back.</source>
+        <translation>ヒューズビットでリセットピンが別の用途に設定されている可能性があります。高電圧書込器で元に戻せます。</translation>
     </message>
     <message>
         <source>After Write: check contacts and supply, and try a lower speed.</source>

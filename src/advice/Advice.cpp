@@ -12,6 +12,7 @@
 #include "settings/SettingsModel.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QRegularExpression>
 
@@ -205,6 +206,8 @@ QStringList noAnswer(const Case& of)
 
 QString tooFast(const Case& of)
 {
+    if (fits(of.partInterfaces(), {QStringLiteral("PDI"), QStringLiteral("TPI")}))
+        return {}; // these bring the clock along
     const QString& slowest = of.programmer.slowestChip;
     if (!slowest.isEmpty())
         return say(QT_TRANSLATE_NOOP("Advice",
@@ -212,6 +215,8 @@ QString tooFast(const Case& of)
                                      "a new chip's is mostly 1 MHz."))
             .arg(nameFrom(slowest));
     const QString& speed = of.run.settings.speed;
+    if (speed == SettingsModel().speedList().constLast())
+        return {}; // there is none below
     return say(QT_TRANSLATE_NOOP("Advice",
                                  "The speed has to be below a quarter of the chip's clock: try one below %1."))
         .arg((speed.isEmpty() ? SettingsRecord().speed : speed).section(QStringLiteral(" ("), 0, 0));
@@ -232,15 +237,40 @@ QStringList noUpdiChip(const Case& of)
     return lines;
 }
 
+/// What the fuses of the part can have done to it. All of it where its description does not say what its bits are for.
+QStringList fusesBehind(const Case& of)
+{
+    const QJsonArray bytes = of.part.value(QLatin1String("FuseBytes")).toArray();
+    QStringList fields;
+    for (const QJsonValue& byte : bytes) {
+        const QJsonObject listed = byte[QLatin1String("fields")].toObject();
+        for (const QJsonValue& field : listed)
+            fields += field.toString();
+    }
+    const bool isKnown = !fields.isEmpty() || (!of.part.isEmpty() && bytes.isEmpty());
+    const auto has = [&](const char* field) {
+        return !isKnown || !fields.filter(QRegularExpression(QLatin1String(field))).isEmpty();
+    };
+    QStringList lines;
+    if (has("^((sut_)?cksel|rcen)\\b"))
+        lines += say(QT_TRANSLATE_NOOP(
+            "Advice", "Its fuses may ask for a clock that is not there: feed about 1 MHz into its clock pin."));
+    if (has("^(rstdisbl|dwen)\\b"))
+        lines += say(QT_TRANSLATE_NOOP("Advice",
+                                       "Its fuses may use the reset pin for something else: a high-voltage programmer "
+                                       "brings it back."));
+    return lines;
+}
+
 QStringList noChip(const Case& of)
 {
     if (of.partInterfaces().contains(QLatin1String("UPDI")))
         return noUpdiChip(of);
-    return {say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
-            tooFast(of),
-            say(QT_TRANSLATE_NOOP("Advice",
-                                  "Its fuses may ask for a clock that is not there, or use the reset pin as an "
-                                  "ordinary one."))};
+    QStringList lines {
+        say(QT_TRANSLATE_NOOP("Advice", "Is the plug the right way round, and does the chip have power?")),
+        tooFast(of)};
+    lines.removeAll({});
+    return lines + fusesBehind(of);
 }
 
 QStringList mismatch(const Case&)
